@@ -1,0 +1,51 @@
+# Settings that every target of the project shares.
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(tessarine_build INTERFACE)
+target_compile_options(tessarine_build INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+target_compile_definitions(tessarine_build INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII
+                           QT_NO_CAST_TO_ASCII QT_STRICT_ITERATORS)
+target_include_directories(tessarine_build INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+if(TESSARINE_SANITIZE)
+    add_compile_options(-fsanitize=${TESSARINE_SANITIZE} -fno-omit-frame-pointer
+                        -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${TESSARINE_SANITIZE})
+endif()
+
+# A static library of one folder (or a part of one); links what it names and nothing else. MOC where
+# it has classes with signals: looking for such in every target would cost more than compiling many.
+function(tessarine_library name)
+    cmake_parse_arguments(ARG "MOC" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE tessarine_build ${ARG_PRIVATE_LINKS})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+endfunction()
+
+# One GoogleTest program, which is one test for CTest: a process for each case would spend far more on
+# starting under the sanitizers than on testing. The target tests-LABEL builds all programs of a
+# label.
+function(tessarine_test name)
+    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS;LABELS;ENVIRONMENT" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE tessarine_build ${ARG_LINKS} GTest::gmock
+                          tessarine_test_main)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 300)
+    endif()
+    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
+                         ENVIRONMENT "${ARG_ENVIRONMENT}")
+    foreach(label IN LISTS ARG_LABELS)
+        if(NOT TARGET tests-${label})
+            add_custom_target(tests-${label})
+        endif()
+        add_dependencies(tests-${label} ${name})
+    endforeach()
+endfunction()

@@ -1,0 +1,84 @@
+#include "browser/ListDifference.h"
+
+#include <algorithm>
+#include <deque>
+#include <optional>
+#include <unordered_map>
+
+namespace tessarine {
+
+namespace {
+
+// What both lists begin and end with is found without any bookkeeping: a reload mostly adds a few
+// rows at the front.
+std::size_t commonPrefix(const NotificationList& before, const NotificationList& after) {
+    const auto end =
+        std::mismatch(before.begin(), before.end(), after.begin(), after.end(), showsSameRow);
+    return std::size_t(end.first - before.begin());
+}
+
+std::size_t commonSuffix(const NotificationList& before, const NotificationList& after,
+                         std::size_t prefix) {
+    const auto limit = std::ptrdiff_t(std::min(before.size(), after.size()) - prefix);
+    const auto end =
+        std::mismatch(before.rbegin(), before.rbegin() + limit, after.rbegin(), showsSameRow);
+    return std::size_t(end.first - before.rbegin());
+}
+
+// For each old row between prefix and suffix its place in the new list. Rows that share a key
+// (those that no hoard has stored) pair up in their order.
+KeptRows pairsByKey(const NotificationList& before, const NotificationList& after,
+                    std::size_t prefix, std::size_t suffix) {
+    std::unordered_map<qint64, std::deque<std::size_t>> places;
+    for (std::size_t i = prefix; i < after.size() - suffix; ++i)
+        places[after[i].dbId].push_back(i);
+    KeptRows pairs;
+    for (std::size_t i = prefix; i < before.size() - suffix; ++i) {
+        const auto found = places.find(before[i].dbId);
+        if (found == places.end() || found->second.empty())
+            continue;
+        pairs.emplace_back(i, found->second.front());
+        found->second.pop_front();
+    }
+    return pairs;
+}
+
+// The longest part of the pairs whose new places ascend, by patience sorting.
+KeptRows longestAscending(const KeptRows& pairs) {
+    std::vector<std::size_t> tails; // of the best run of each length, as positions in pairs
+    std::vector<std::optional<std::size_t>> previous(pairs.size());
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        const auto place = std::lower_bound(
+            tails.begin(), tails.end(), pairs[i].second,
+            [&](std::size_t tail, std::size_t value) { return pairs[tail].second < value; });
+        if (place != tails.begin())
+            previous[i] = *(place - 1);
+        if (place == tails.end())
+            tails.push_back(i);
+        else
+            *place = i;
+    }
+    KeptRows run;
+    for (std::optional<std::size_t> i = tails.empty() ? std::nullopt : std::optional(tails.back());
+         i; i = previous[*i])
+        run.push_back(pairs[*i]);
+    std::reverse(run.begin(), run.end());
+    return run;
+}
+
+} // namespace
+
+KeptRows keptRows(const NotificationList& before, const NotificationList& after) {
+    const std::size_t prefix = commonPrefix(before, after);
+    const std::size_t suffix = commonSuffix(before, after, prefix);
+    KeptRows kept;
+    for (std::size_t i = 0; i < prefix; ++i)
+        kept.emplace_back(i, i);
+    const KeptRows middle = longestAscending(pairsByKey(before, after, prefix, suffix));
+    kept.insert(kept.end(), middle.begin(), middle.end());
+    for (std::size_t i = suffix; i > 0; --i)
+        kept.emplace_back(before.size() - i, after.size() - i);
+    return kept;
+}
+
+} // namespace tessarine

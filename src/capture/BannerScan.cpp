@@ -1,0 +1,96 @@
+#include "capture/BannerScan.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace tessarine {
+
+namespace {
+
+constexpr double messagingTimeout = 2.0; // seconds
+
+template <typename Value>
+std::optional<Value> attribute(Accessibility& accessibility, const AXElementRef& element,
+                               const QString& name) {
+    std::optional<AXValue> value = accessibility.copyAttributeValue(element, name);
+    Value* const typed = value ? std::get_if<Value>(&*value) : nullptr;
+    return typed ? std::optional(std::move(*typed)) : std::nullopt;
+}
+
+QString textOf(Accessibility& accessibility, const AXElementRef& element, const QString& name) {
+    return attribute<QString>(accessibility, element, name).value_or(QString());
+}
+
+std::vector<AXElementRef> elementsOf(Accessibility& accessibility, const AXElementRef& element,
+                                     const QString& name) {
+    return attribute<std::vector<AXElementRef>>(accessibility, element, name)
+        .value_or(std::vector<AXElementRef>());
+}
+
+bool isStaticText(Accessibility& accessibility, const AXElementRef& element) {
+    return textOf(accessibility, element, ax::role) == ax::staticText;
+}
+
+// A group with a description but without a text of its own is only a container.
+bool isBanner(Accessibility& accessibility, const AXElementRef& element, const QString& role) {
+    if (role != ax::group || textOf(accessibility, element, ax::description).isEmpty())
+        return false;
+    const std::vector<AXElementRef> children = elementsOf(accessibility, element, ax::children);
+    return std::any_of(children.begin(), children.end(), [&](const AXElementRef& child) {
+        return isStaticText(accessibility, child);
+    });
+}
+
+} // namespace
+
+void runBannerScan(Accessibility& accessibility, const Scheduler& clock, qint32 pid,
+                   const std::function<void(const CapturedNotification&)>& handler,
+                   const std::stop_token& cancelled) {
+    const AXElementRef application = accessibility.applicationElement(pid);
+    accessibility.setMessagingTimeout(application, messagingTimeout);
+    std::vector<AXElementRef> banners;
+    for (const AXElementRef& window : elementsOf(accessibility, application, ax::windows)) {
+        if (cancelled.stop_requested())
+            return;
+        std::vector<AXElementRef> found = collectBanners(accessibility, window, 0);
+        std::move(found.begin(), found.end(), std::back_inserter(banners));
+    }
+    for (const AXElementRef& banner : banners) {
+        if (cancelled.stop_requested())
+            return;
+        if (const auto record = parseBanner(readBanner(accessibility, banner), clock.now()))
+            handler(*record);
+    }
+}
+
+std::vector<AXElementRef> collectBanners(Accessibility& accessibility, const AXElementRef& element,
+                                         int depth) {
+    if (depth >= axMaxDepth || !accessibility.pid(element))
+        return {};
+    const std::optional<AXValue> role = accessibility.copyAttributeValue(element, ax::role);
+    if (!role)
+        return {};
+    const QString* const roleText = std::get_if<QString>(&*role);
+    if (roleText && isBanner(accessibility, element, *roleText))
+        return {element};
+    std::vector<AXElementRef> banners;
+    for (const AXElementRef& child : elementsOf(accessibility, element, ax::children)) {
+        std::vector<AXElementRef> found = collectBanners(accessibility, child, depth + 1);
+        std::move(found.begin(), found.end(), std::back_inserter(banners));
+    }
+    return banners;
+}
+
+BannerTexts readBanner(Accessibility& accessibility, const AXElementRef& banner) {
+    BannerTexts texts{textOf(accessibility, banner, ax::description), {}};
+    for (const AXElementRef& child : elementsOf(accessibility, banner, ax::children)) {
+        if (!isStaticText(accessibility, child))
+            continue;
+        const QString text = textOf(accessibility, child, ax::value);
+        if (!text.isEmpty())
+            texts.texts.append(text);
+    }
+    return texts;
+}
+
+} // namespace tessarine

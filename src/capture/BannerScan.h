@@ -1,0 +1,30 @@
+#pragma once
+
+#include "capture/BannerParsing.h"
+#include "platform/Accessibility.h"
+#include "platform/Scheduler.h"
+
+#include <functional>
+#include <stop_token>
+#include <vector>
+
+namespace tessarine {
+
+// How many levels of a window are looked at for banners, the window itself among them.
+inline constexpr int axMaxDepth = 12;
+
+// One scan: walks the windows of a process and hands each banner that it can read to the handler,
+// one after the other, on the calling worker. Ends early only when it is cancelled from outside.
+void runBannerScan(Accessibility& accessibility, const Scheduler& clock, qint32 pid,
+                   const std::function<void(const CapturedNotification&)>& handler,
+                   const std::stop_token& cancelled = {});
+
+// The banners at and below an element that lies at this depth: groups with a description and a
+// direct child of static text. Nothing below a banner is looked at.
+std::vector<AXElementRef> collectBanners(Accessibility& accessibility, const AXElementRef& element,
+                                         int depth);
+
+// The description and the static texts of a banner. What can't be read is left out.
+BannerTexts readBanner(Accessibility& accessibility, const AXElementRef& banner);
+
+} // namespace tessarine

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "platform/UserDefaults.h"
+
+#include <QObject>
+#include <QString>
+
+#include <set>
+
+namespace tessarine {
+
+// The user's settings, in memory and written through: a setter tells observers, publishes the
+// value and has it on disk before it returns, also when the value is the one that was there.
+// Values are taken as they come, without clamping. Main thread; other threads read the defaults.
+class PreferencesStore : public QObject {
+    Q_OBJECT
+
+public:
+    explicit PreferencesStore(UserDefaults& defaults);
+
+    // The program's settings, read at the first use and kept until the process ends.
+    static PreferencesStore& shared();
+
+    qint64 retentionDays() const { return retentionDays_; } // below 1: keep for ever
+    bool globalPrivacyMode() const { return globalPrivacyMode_; }
+    const std::set<QString>& privacyApps() const { return privacyApps_; } // bundle identifiers
+    bool launchLoginPromptSuppressed() const { return launchLoginPromptSuppressed_; }
+    bool hasSeenPrivacyNotice() const { return hasSeenPrivacyNotice_; }
+    bool hasAcceptedEULA() const { return hasAcceptedEULA_; }
+    bool hasSeenOnboarding() const { return hasSeenOnboarding_; }
+    qint64 otpRetentionHours() const { return otpRetentionHours_; } // below 1: no purge
+    const std::set<QString>& excludedBundleIds() const { return excludedBundleIds_; }
+    const QString& appearanceMode() const { return appearanceMode_; } // "auto", "light", "dark"
+
+    void setRetentionDays(qint64 value);
+    void setGlobalPrivacyMode(bool value);
+    void setPrivacyApps(const std::set<QString>& value);
+    void setLaunchLoginPromptSuppressed(bool value);
+    void setHasSeenPrivacyNotice(bool value);
+    void setHasAcceptedEULA(bool value);
+    void setHasSeenOnboarding(bool value);
+    void setOtpRetentionHours(qint64 value);
+    void setExcludedBundleIds(const std::set<QString>& value);
+    void setAppearanceMode(const QString& value);
+
+    // Whether the content of this application's notifications is masked. Exact comparison.
+    bool isPrivate(const QString& bundleId) const;
+
+Q_SIGNALS:
+    void objectWillChange(); // just before each assignment, while the old value still stands
+    void changed();          // just after it
+
+private:
+    template <typename Field, typename Value, typename Write>
+    void assign(Field& field, const Value& value, const Write& write);
+
+    UserDefaults& defaults_;
+    qint64 retentionDays_ = 0;
+    bool globalPrivacyMode_ = false;
+    std::set<QString> privacyApps_;
+    bool launchLoginPromptSuppressed_ = false;
+    bool hasSeenPrivacyNotice_ = false;
+    bool hasAcceptedEULA_ = false;
+    bool hasSeenOnboarding_ = false;
+    qint64 otpRetentionHours_ = 0;
+    std::set<QString> excludedBundleIds_;
+    QString appearanceMode_;
+};
+
+} // namespace tessarine

@@ -1,0 +1,45 @@
+#include "core/AppDelegate.h"
+#include "platform/SingleInstance.h"
+#include "theme/ViewEngine.h"
+
+#include <QApplication>
+#include <QQmlEngine>
+
+#include <cstdlib>
+
+namespace {
+
+using namespace tessarine;
+
+NotificationListener::Services captureServices() {
+    return {&HoardStore::shared, PreferencesStore::shared(), DiagnosticsStore::shared(),
+            Platform::shared()};
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
+    if (!instance->claim()) {
+        instance->activateFirst();
+        return EXIT_SUCCESS;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tessarine"));
+    QApplication::setDesktopFileName(QStringLiteral("com.zorvek.Tessarine"));
+    // Capture goes on with all windows closed.
+    QApplication::setQuitOnLastWindowClosed(false);
+    Platform::install(makePlatform());
+
+    Desktop::install(makeDesktop());
+    registerUi();
+    Theme theme(*Desktop::shared().appearance);
+    const std::unique_ptr<QQmlEngine> views = makeViewEngine(theme, *Desktop::shared().symbols);
+    AppDelegate delegate({captureServices(), Desktop::shared(), theme, *views});
+    instance->onActivation([&delegate] { delegate.activate(); });
+    delegate.applicationDidFinishLaunching();
+    const int status = QApplication::exec();
+    // Workers may be in the middle of a reading or a scan; what they use must not be taken apart
+    // under them. The hoard and the settings are on disk, and the system does the rest.
+    std::_Exit(status);
+}

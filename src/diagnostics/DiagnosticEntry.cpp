@@ -1,0 +1,77 @@
+#include "diagnostics/DiagnosticEntry.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace tessarine {
+
+namespace {
+
+struct LevelFace {
+    const char16_t* glyph;
+    const char16_t* colour; // null: the system's secondary colour
+};
+
+constexpr std::array<LevelFace, 4> levelFaces{{
+    {u"·", nullptr},
+    {u"●", u"81C784"},
+    {u"◆", u"FFB74D"},
+    {u"▶", u"4FC3F7"},
+}};
+
+struct CategoryFace {
+    const char16_t* rawValue;
+    const char16_t* colour;
+};
+
+constexpr std::array<CategoryFace, 5> categoryFaces{{
+    {u"AX", u"4FC3F7"},
+    {u"DB", u"81C784"},
+    {u"Legacy", u"FFB74D"},
+    {u"Hoard", u"CE93D8"},
+    {u"System", u"90A4AE"},
+}};
+
+const LevelFace& face(Level level) {
+    return levelFaces.at(static_cast<std::size_t>(level));
+}
+
+const CategoryFace& face(Category category) {
+    return categoryFaces.at(static_cast<std::size_t>(category));
+}
+
+} // namespace
+
+QString glyph(Level level) {
+    return QString::fromUtf16(face(level).glyph);
+}
+
+std::optional<Colour> colour(Level level) {
+    const char16_t* const hex = face(level).colour;
+    return hex ? std::optional(colourFromHex(hex)) : std::nullopt;
+}
+
+QString rawValue(Category category) {
+    return QString::fromUtf16(face(category).rawValue);
+}
+
+Colour colour(Category category) {
+    return colourFromHex(face(category).colour);
+}
+
+QList<DiagnosticEntry> filteredEntries(const QList<DiagnosticEntry>& entries,
+                                       std::optional<Category> selectedCategory,
+                                       const QString& searchText) {
+    const auto passes = [&](const DiagnosticEntry& entry) {
+        if (selectedCategory && entry.category != *selectedCategory)
+            return false;
+        return searchText.isEmpty() || entry.message.contains(searchText, Qt::CaseInsensitive) ||
+               rawValue(entry.category).contains(searchText, Qt::CaseInsensitive);
+    };
+    QList<DiagnosticEntry> passed;
+    std::copy_if(entries.begin(), entries.end(), std::back_inserter(passed), passes);
+    return passed;
+}
+
+} // namespace tessarine

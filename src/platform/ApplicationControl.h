@@ -1,0 +1,23 @@
+#pragma once
+
+class QWindow;
+
+namespace tessarine {
+
+// The program's standing among the other programs of the session. Main thread.
+class ApplicationControl {
+public:
+    ApplicationControl() = default;
+    ApplicationControl(const ApplicationControl&) = delete;
+    ApplicationControl& operator=(const ApplicationControl&) = delete;
+    virtual ~ApplicationControl() = default;
+
+    // The program has a status item and windows, but no place of its own among the applications.
+    virtual void useAccessoryPolicy() = 0;
+
+    // Brings the program to the front with this window, which is shown already, whatever program
+    // is in front now.
+    virtual void activate(QWindow& window) = 0;
+};
+
+} // namespace tessarine

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Accessibility.h"
+#include "platform/FileSystem.h"
+#include "platform/FileWatcher.h"
+#include "platform/Scheduler.h"
+#include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
+
+#include <memory>
+
+namespace tessarine {
+
+// Everything the services ask of the system. Members are destroyed from the last to the first, so
+// that the scheduler outlives what hands it tasks.
+struct Platform {
+    std::unique_ptr<UserDefaults> userDefaults;
+    std::unique_ptr<FileSystem> fileSystem;
+    std::unique_ptr<Scheduler> scheduler;
+    std::unique_ptr<FileWatcher> fileWatcher;
+    std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<Accessibility> accessibility;
+
+    // The platform of the running process, which main installs before anything else. The program's
+    // services take it from here; nothing else does. Never destroyed: the process just ends.
+    static void install(std::unique_ptr<Platform> platform);
+    static Platform& shared();
+};
+
+// Makes the ports of the system that the program was built for. Needs an application object, and
+// the thread it is called on is the main thread from then on.
+std::unique_ptr<Platform> makePlatform();
+
+} // namespace tessarine

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QMenu;
+
+namespace tessarine {
+
+// The program's permanent face on the desktop: a small picture, a short text beside it, and a menu
+// that a click opens. Main thread.
+class StatusItem {
+public:
+    using MenuBuilder = std::function<void(QMenu&)>;
+
+    StatusItem() = default;
+    StatusItem(const StatusItem&) = delete;
+    StatusItem& operator=(const StatusItem&) = delete;
+    virtual ~StatusItem() = default;
+
+    // The picture, by symbol name, in the colour of the place it appears in; the description is
+    // what a screen reader says.
+    virtual void setImage(const QString& symbolName, const QString& accessibilityDescription) = 0;
+
+    // The text beside the picture, for example " 5"; empty shows the picture alone.
+    virtual void setTitle(const QString& title) = 0;
+
+    // Fills an empty menu each time that the user asks for it.
+    virtual void setMenuBuilder(MenuBuilder builder) = 0;
+
+    // Puts the item on the desktop, where it stays. Returns at once; the item may come later.
+    virtual void show() = 0;
+};
+
+} // namespace tessarine

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QString>
+
+namespace tessarine {
+
+// The pictures behind symbol names such as "bell.slash". Any thread.
+class Symbols {
+public:
+    Symbols() = default;
+    Symbols(const Symbols&) = delete;
+    Symbols& operator=(const Symbols&) = delete;
+    virtual ~Symbols() = default;
+
+    // The symbol in one colour on a transparent square, with this many device pixels a side. A
+    // null image for a name that is not known.
+    virtual QImage image(const QString& name, int pixels, const QColor& tint) const = 0;
+};
+
+} // namespace tessarine

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace tessarine {
+
+// The key-value store of the user's settings and cursors. What a setter is given is on disk before
+// it returns; a failure to write is silent and the value holds for this run. Getters are strict: a
+// value that is not plainly of the type asked for reads as absent. Any thread.
+class UserDefaults {
+public:
+    UserDefaults() = default;
+    UserDefaults(const UserDefaults&) = delete;
+    UserDefaults& operator=(const UserDefaults&) = delete;
+    virtual ~UserDefaults() = default;
+
+    virtual bool contains(const QString& key) const = 0;
+
+    virtual bool boolean(const QString& key) const = 0;   // false when absent
+    virtual qint64 integer(const QString& key) const = 0; // 0 when absent
+    virtual double real(const QString& key) const = 0;    // 0 when absent
+    virtual std::optional<QString> text(const QString& key) const = 0;
+    virtual QStringList textList(const QString& key) const = 0; // empty when absent
+    // Empty when absent, and when a single element is no integer.
+    virtual std::vector<qint64> integerList(const QString& key) const = 0;
+
+    virtual void setBoolean(const QString& key, bool value) = 0;
+    virtual void setInteger(const QString& key, qint64 value) = 0;
+    virtual void setReal(const QString& key, double value) = 0;
+    virtual void setText(const QString& key, const QString& value) = 0;
+    virtual void setTextList(const QString& key, const QStringList& value) = 0;
+    virtual void setIntegerList(const QString& key, const std::vector<qint64>& value) = 0;
+};
+
+} // namespace tessarine

@@ -1,0 +1,247 @@
+#include "platform/linux/BannerProcess.h"
+
+#include "platform/linux/BannerElements.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tessarine {
+
+namespace {
+
+// How long the first question may wait for the bus.
+constexpr std::chrono::seconds firstAnswer{1};
+
+// The listener lets one event through each second. A reminder comes a little later than that, so
+// that it is let through for certain.
+constexpr double throttle = 1.0;          // seconds
+constexpr double reminderInterval = 1.05; // seconds
+
+const QString applicationRole = QStringLiteral("AXApplication");
+
+} // namespace
+
+// The root element. It outlives the process that it names without harm.
+class BannerProcess::Application : public BannerElement {
+public:
+    Application(std::weak_ptr<BannerProcess> process, qint32 pid)
+        : process_(std::move(process))
+        , pid_(pid) {}
+
+    qint32 pid() const override { return pid_; }
+
+    std::optional<AXValue> attribute(const QString& name) const override {
+        const std::shared_ptr<BannerProcess> process = process_.lock();
+        if (!process || process->pid() != pid_)
+            return std::nullopt;
+        if (name == ax::role)
+            return applicationRole;
+        if (name == ax::windows)
+            return process->windows(pid_);
+        return std::nullopt;
+    }
+
+private:
+    const std::weak_ptr<BannerProcess> process_;
+    const qint32 pid_;
+};
+
+BannerProcess::BannerProcess(Scheduler& scheduler)
+    : scheduler_(scheduler)
+    , tree_([&scheduler] { return scheduler.uptime(); })
+    , patience_(std::chrono::steady_clock::now() + firstAnswer)
+    , scannedAt_(-reminderInterval) {}
+
+// The task doesn't keep the process alive, and does nothing once it is gone.
+template <typename Function>
+void BannerProcess::onMain(Function function) {
+    scheduler_.onMain([weak = weak_from_this(), function = std::move(function)] {
+        if (const std::shared_ptr<BannerProcess> self = weak.lock())
+            function(*self);
+    });
+}
+
+void BannerProcess::setService(const BannerService& service) {
+    {
+        const std::lock_guard lock(mutex_);
+        if (service.owner && service.owner->turn != lastTurn_)
+            tree_.forgetIds();
+        if (service.owner)
+            lastTurn_ = service.owner->turn;
+        const bool isFirst = !isServiceKnown_;
+        isServiceKnown_ = true;
+        serviceKnown_.notify_all();
+        // Whoever asks from now on gets this as the first answer: there is nothing to tell.
+        if (isFirst && !answeredInIgnorance_) {
+            service_ = service;
+            return;
+        }
+    }
+    onMain([service](BannerProcess& self) { self.apply(service); });
+}
+
+void BannerProcess::announce(const AnnouncementKey& key, AnnouncedTexts texts,
+                             std::uint32_t replacesId) {
+    const BannerChange change = tree_.announce(key, std::move(texts), replacesId);
+    if (change == BannerChange::none)
+        return;
+    const std::lock_guard lock(mutex_);
+    if (unsentChange_ == BannerChange::none)
+        onMain([](BannerProcess& self) { self.sendEvent(); });
+    if (unsentChange_ != BannerChange::shown)
+        unsentChange_ = change;
+}
+
+void BannerProcess::answered(const AnnouncementKey& key, std::uint32_t id) {
+    tree_.answered(key, id);
+}
+
+void BannerProcess::closed(std::uint32_t id) {
+    tree_.closed(id);
+}
+
+BannerService BannerProcess::knownService() const {
+    std::unique_lock lock(mutex_);
+    if (!serviceKnown_.wait_until(lock, patience_, [this] { return isServiceKnown_; }))
+        answeredInIgnorance_ = true;
+    return service_;
+}
+
+bool BannerProcess::isTrusted() const {
+    return knownService().trusted;
+}
+
+std::optional<qint32> BannerProcess::pid() const {
+    const std::optional<BannerOwner> owner = knownService().owner;
+    return owner ? std::optional(owner->pid) : std::nullopt;
+}
+
+AXElementRef BannerProcess::applicationElement(qint32 pid) {
+    return std::make_shared<Application>(weak_from_this(), pid);
+}
+
+std::optional<std::vector<AXElementRef>> BannerProcess::windows(qint32 pid) {
+    {
+        const std::lock_guard lock(mutex_);
+        scannedAt_ = scheduler_.uptime();
+    }
+    std::vector<AXElementRef> windows;
+    for (auto& state : tree_.unread())
+        windows.push_back(bannerWindow(
+            pid, std::move(state), [&scheduler = scheduler_] { return scheduler.uptime(); },
+            [weak = weak_from_this()](std::uint64_t number) {
+                if (const std::shared_ptr<BannerProcess> self = weak.lock())
+                    self->read(number);
+            }));
+    return windows;
+}
+
+void BannerProcess::read(std::uint64_t number) {
+    if (!tree_.markRead(number))
+        return;
+    const std::lock_guard lock(mutex_);
+    if (isEnding_)
+        onMain([](BannerProcess& self) { self.endWhenRead(); });
+}
+
+std::shared_ptr<void> BannerProcess::onEvent(EventHandlers::Handler handler) {
+    std::shared_ptr<void> token = eventHandlers_.add(std::move(handler));
+    remindWhileUnread(); // what was announced while nobody listened
+    return token;
+}
+
+std::shared_ptr<void> BannerProcess::onLaunch(LifecycleHandlers::Handler handler) {
+    return launchHandlers_.add(std::move(handler));
+}
+
+std::shared_ptr<void> BannerProcess::onTermination(LifecycleHandlers::Handler handler) {
+    return terminationHandlers_.add(std::move(handler));
+}
+
+void BannerProcess::apply(const BannerService& next) {
+    const BannerService last = knownService();
+    if (next.owner) {
+        const bool isNew = next.owner != last.owner;
+        if (last.owner && isNew)
+            terminate({next.trusted, std::nullopt});
+        if (isNew)
+            launch(next);
+        return;
+    }
+    {
+        const std::lock_guard lock(mutex_);
+        service_.trusted = next.trusted;
+        isEnding_ = last.owner.has_value();
+    }
+    endWhenRead();
+}
+
+void BannerProcess::launch(const BannerService& service) {
+    {
+        const std::lock_guard lock(mutex_);
+        service_ = service;
+    }
+    launchHandlers_.call(service.owner->pid);
+}
+
+// The service is the one that is left.
+void BannerProcess::terminate(const BannerService& service) {
+    qint32 pid = 0;
+    {
+        const std::lock_guard lock(mutex_);
+        pid = service_.owner->pid;
+        service_ = service;
+        isEnding_ = false;
+    }
+    terminationHandlers_.call(pid);
+}
+
+void BannerProcess::endWhenRead() {
+    BannerService rest;
+    {
+        const std::lock_guard lock(mutex_);
+        if (!isEnding_ || !tree_.isEmpty())
+            return;
+        rest.trusted = service_.trusted;
+    }
+    terminate(rest);
+}
+
+void BannerProcess::sendEvent() {
+    BannerChange change = BannerChange::none;
+    std::optional<BannerOwner> owner;
+    {
+        const std::lock_guard lock(mutex_);
+        change = std::exchange(unsentChange_, BannerChange::none);
+        owner = service_.owner;
+        if (const double now = scheduler_.uptime(); now - scannedAt_ >= throttle)
+            scannedAt_ = now; // by what this event leads to
+    }
+    if (owner)
+        eventHandlers_.call(applicationElement(owner->pid), change == BannerChange::replaced
+                                                                ? ax::valueChanged
+                                                                : ax::windowCreated);
+    remindWhileUnread();
+}
+
+// One reminder at a time.
+void BannerProcess::remindWhileUnread() {
+    if (isReminderSet_ || tree_.isEmpty() || eventHandlers_.isEmpty())
+        return;
+    isReminderSet_ = true;
+    double delay = reminderInterval;
+    {
+        const std::lock_guard lock(mutex_);
+        delay -= std::min(throttle, scheduler_.uptime() - scannedAt_);
+    }
+    scheduler_.onMainAfter(delay, [weak = weak_from_this()] {
+        const std::shared_ptr<BannerProcess> self = weak.lock();
+        if (!self)
+            return;
+        self->isReminderSet_ = false;
+        if (!self->tree_.isEmpty())
+            self->sendEvent();
+    });
+}
+
+} // namespace tessarine

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "platform/Accessibility.h"
+#include "platform/Scheduler.h"
+#include "platform/linux/BannerTree.h"
+#include "platform/linux/HandlerList.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <optional>
+
+namespace tessarine {
+
+// Who draws banners. A daemon may hand over to another one in the same process: the turn tells
+// them apart.
+struct BannerOwner {
+    qint32 pid = 0;
+    std::uint64_t turn = 0;
+
+    bool operator==(const BannerOwner&) const = default;
+};
+
+// What is known of the service: whether the bus lets us look, and who holds the name.
+struct BannerService {
+    bool trusted = false;
+    std::optional<BannerOwner> owner;
+};
+
+// The process that draws banners, as a listener sees it: it launches, shows windows, sends events
+// and terminates. A bus thread tells what happens; a listener asks and is told.
+// Each change sends an event at once, and as long as something is unread another one follows when
+// the listener's throttle must have run out. With nothing unread, nothing runs.
+// A process with unread banners stays until they are read, or until another one takes its place.
+class BannerProcess : public std::enable_shared_from_this<BannerProcess> {
+public:
+    using EventHandlers = HandlerList<const AXElementRef&, const QString&>;
+    using LifecycleHandlers = HandlerList<qint32>;
+
+    explicit BannerProcess(Scheduler& scheduler);
+
+    // What the bus thread tells, in the order in which it happened.
+    void setService(const BannerService& service);
+    void announce(const AnnouncementKey& key, AnnouncedTexts texts, std::uint32_t replacesId);
+    void answered(const AnnouncementKey& key, std::uint32_t id); // 0 for an error
+    void closed(std::uint32_t id);
+
+    // Questions, any thread. The first of them waits, at most a second from the start, until it
+    // is known whether the bus lets us look.
+    bool isTrusted() const;
+    std::optional<qint32> pid() const;
+
+    // The root of the windows of the process with this pid. Any thread.
+    AXElementRef applicationElement(qint32 pid);
+
+    // Told on the main thread, where these are called too.
+    std::shared_ptr<void> onEvent(EventHandlers::Handler handler);
+    std::shared_ptr<void> onLaunch(LifecycleHandlers::Handler handler);
+    std::shared_ptr<void> onTermination(LifecycleHandlers::Handler handler);
+
+private:
+    class Application;
+
+    std::optional<std::vector<AXElementRef>> windows(qint32 pid);
+    void read(std::uint64_t number);
+    BannerService knownService() const;
+
+    void apply(const BannerService& next);
+    void launch(const BannerService& service);
+    void terminate(const BannerService& service);
+    void endWhenRead();
+    void sendEvent();
+    void remindWhileUnread();
+
+    template <typename Function>
+    void onMain(Function function);
+
+    Scheduler& scheduler_;
+    BannerTree tree_;
+
+    mutable std::mutex mutex_;
+    mutable std::condition_variable serviceKnown_;
+    const std::chrono::steady_clock::time_point patience_; // of the first question
+    BannerService service_;
+    bool isServiceKnown_ = false;
+    mutable bool answeredInIgnorance_ = false;
+    std::uint64_t lastTurn_ = 0;
+    bool isEnding_ = false; // its name is gone, its banners are unread
+    double scannedAt_;      // the last scan, or the last event that the throttle let through
+    BannerChange unsentChange_ = BannerChange::none;
+
+    // Main thread only.
+    bool isReminderSet_ = false;
+    EventHandlers eventHandlers_;
+    LifecycleHandlers launchHandlers_;
+    LifecycleHandlers terminationHandlers_;
+};
+
+} // namespace tessarine

@@ -1,0 +1,181 @@
+#include "platform/linux/DesktopEntries.h"
+
+#include "shared/BundleId.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace tessarine {
+
+namespace {
+
+// "lang_COUNTRY.ENCODING@MODIFIER" -> the suffixes under which a localised key may stand, best
+// first.
+QStringList localeSuffixes(const QString& locale) {
+    const QString modifier = locale.contains(u'@') ? locale.section(u'@', 1) : QString();
+    const QString withCountry = locale.section(u'@', 0, 0).section(u'.', 0, 0);
+    const QString language = withCountry.section(u'_', 0, 0);
+    QStringList suffixes;
+    if (!modifier.isEmpty())
+        suffixes << withCountry + u'@' + modifier;
+    suffixes << withCountry;
+    if (!modifier.isEmpty())
+        suffixes << language + u'@' + modifier;
+    suffixes << language;
+    return suffixes;
+}
+
+QString unescaped(QStringView value) {
+    QString text;
+    for (qsizetype i = 0; i < value.size(); ++i) {
+        if (value[i] != u'\\' || i + 1 == value.size()) {
+            text += value[i];
+            continue;
+        }
+        switch (value[++i].unicode()) {
+        case u's':
+            text += u' ';
+            break;
+        case u'n':
+            text += u'\n';
+            break;
+        case u't':
+            text += u'\t';
+            break;
+        case u'r':
+            text += u'\r';
+            break;
+        default:
+            text += value[i];
+        }
+    }
+    return text;
+}
+
+// The keys of the group "Desktop Entry"; other groups hold actions.
+QHash<QString, QString> readKeys(QFile& file) {
+    QHash<QString, QString> keys;
+    bool inEntry = false;
+    while (!file.atEnd()) {
+        const QString line = QString::fromUtf8(file.readLine()).trimmed();
+        if (line.startsWith(u'[')) {
+            inEntry = line == QStringLiteral("[Desktop Entry]");
+            continue;
+        }
+        const qsizetype equals = line.indexOf(u'=');
+        if (!inEntry || line.startsWith(u'#') || equals <= 0)
+            continue;
+        keys.insert(line.first(equals).trimmed(),
+                    unescaped(QStringView(line).sliced(equals + 1).trimmed()));
+    }
+    return keys;
+}
+
+QString localised(const QHash<QString, QString>& keys, const QString& key, const QString& locale) {
+    for (const QString& suffix : localeSuffixes(locale)) {
+        const auto found = keys.constFind(key + u'[' + suffix + u']');
+        if (found != keys.constEnd())
+            return *found;
+    }
+    return keys.value(key);
+}
+
+QString userLocale() {
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        QString value = qEnvironmentVariable(variable);
+        if (!value.isEmpty())
+            return value;
+    }
+    return QStringLiteral("C");
+}
+
+} // namespace
+
+QString DesktopEntry::executable() const {
+    QString word;
+    bool quoted = false;
+    for (qsizetype i = 0; i < exec.size(); ++i) {
+        if (exec[i] == u'"')
+            quoted = !quoted;
+        else if (exec[i] == u' ' && !quoted)
+            break;
+        else if (exec[i] == u'\\' && quoted && i + 1 < exec.size())
+            word += exec[++i];
+        else
+            word += exec[i];
+    }
+    return word;
+}
+
+std::optional<DesktopEntry> readDesktopEntry(const QString& path, const QString& locale) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QHash<QString, QString> keys = readKeys(file);
+    if (keys.value(QStringLiteral("Type")) != QStringLiteral("Application") ||
+        keys.value(QStringLiteral("Hidden")) == QStringLiteral("true"))
+        return std::nullopt;
+    DesktopEntry entry;
+    entry.path = path;
+    entry.name = localised(keys, QStringLiteral("Name"), locale);
+    entry.exec = keys.value(QStringLiteral("Exec"));
+    entry.icon = localised(keys, QStringLiteral("Icon"), locale);
+    return entry;
+}
+
+DesktopEntries::DesktopEntries()
+    : DesktopEntries(QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation)) {}
+
+DesktopEntries::DesktopEntries(QStringList folders)
+    : folders_(std::move(folders)) {}
+
+std::optional<DesktopEntry> DesktopEntries::find(const QString& bundleIdentifier) {
+    refresh();
+    auto found = byId_.constFind(bundleIdentifier);
+    if (found == byId_.constEnd())
+        found = byId_.constFind(idByDerivedId_.value(bundleIdentifier));
+    return found == byId_.constEnd() ? std::nullopt : std::optional(*found);
+}
+
+void DesktopEntries::refresh() {
+    bool current = !readAt_.isEmpty();
+    for (auto folder = readAt_.cbegin(); current && folder != readAt_.cend(); ++folder)
+        current = QFileInfo(folder.key()).lastModified() == folder.value();
+    if (current)
+        return;
+    readAt_.clear();
+    ids_.clear();
+    byId_.clear();
+    idByDerivedId_.clear();
+    for (const QString& folder : folders_)
+        readFolder(folder, folder);
+}
+
+void DesktopEntries::readFolder(const QString& root, const QString& folder) {
+    readAt_.insert(folder, QFileInfo(folder).lastModified());
+    const QDir directory(folder);
+    const auto names =
+        directory.entryInfoList({QStringLiteral("*.desktop")}, QDir::Files, QDir::Name);
+    for (const QFileInfo& file : names) {
+        QString id = QDir(root).relativeFilePath(file.filePath()).replace(u'/', u'-');
+        id.chop(QStringLiteral(".desktop").size());
+        if (ids_.contains(id))
+            continue;
+        ids_.insert(id);
+        std::optional<DesktopEntry> entry = readDesktopEntry(file.filePath(), userLocale());
+        if (!entry)
+            continue;
+        entry->id = id;
+        const QString derivedId = derivedBundleId(entry->name);
+        if (!derivedId.isEmpty() && !idByDerivedId_.contains(derivedId))
+            idByDerivedId_.insert(derivedId, id);
+        byId_.insert(id, *entry);
+    }
+    const auto folders = directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    for (const QString& name : folders)
+        readFolder(root, directory.filePath(name));
+}
+
+} // namespace tessarine

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/ApplicationControl.h"
+
+namespace tessarine {
+
+class LinuxApplicationControl : public ApplicationControl {
+public:
+    // Nothing to do: a desktop lists windows, not programs.
+    void useAccessoryPolicy() override {}
+
+    // The window manager has the last word: it may only mark the window as wanting attention.
+    void activate(QWindow& window) override;
+};
+
+} // namespace tessarine

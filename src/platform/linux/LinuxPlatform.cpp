@@ -1,0 +1,42 @@
+#include "platform/Platform.h"
+#include "platform/SingleInstance.h"
+#include "platform/linux/AbstractSocketInstance.h"
+#include "platform/linux/InotifyWatcher.h"
+#include "platform/linux/LinuxAccessibility.h"
+#include "platform/linux/LinuxFileSystem.h"
+#include "platform/linux/LinuxWorkspace.h"
+#include "platform/qt/QtScheduler.h"
+#include "platform/qt/SettingsDefaults.h"
+
+#include <QStandardPaths>
+
+namespace tessarine {
+
+namespace {
+
+QString defaultsPath() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/com.zorvek.Tessarine.conf");
+}
+
+} // namespace
+
+std::unique_ptr<Platform> makePlatform() {
+    auto platform = std::make_unique<Platform>();
+    platform->userDefaults = std::make_unique<SettingsDefaults>(defaultsPath());
+    platform->fileSystem = std::make_unique<LinuxFileSystem>();
+    platform->scheduler = std::make_unique<QtScheduler>();
+    platform->fileWatcher = std::make_unique<InotifyWatcher>(*platform->scheduler);
+    const auto banners = std::make_shared<BannerProcess>(*platform->scheduler);
+    platform->workspace =
+        std::make_unique<LinuxWorkspace>(*platform->scheduler, banners, systemBusAddress());
+    platform->accessibility = std::make_unique<LinuxAccessibility>(banners, sessionBusAddress());
+    return platform;
+}
+
+std::unique_ptr<SingleInstance> makeSingleInstance() {
+    const QStringList folders = LinuxFileSystem().applicationSupportDirectories();
+    return std::make_unique<AbstractSocketInstance>(folders.join(u'\n').toStdString());
+}
+
+} // namespace tessarine

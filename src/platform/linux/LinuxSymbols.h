@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Symbols.h"
+
+#include <QStringList>
+
+namespace tessarine {
+
+// Symbols from the Adwaita icon theme, whatever theme the desktop has, so that they belong
+// together; the few that it lacks are the program's own.
+class LinuxSymbols : public Symbols {
+public:
+    QImage image(const QString& name, int pixels, const QColor& tint) const override;
+
+    // All names that the table has.
+    static QStringList names();
+};
+
+} // namespace tessarine

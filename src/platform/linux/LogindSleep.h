@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/Scheduler.h"
+#include "platform/linux/BusConnection.h"
+#include "platform/linux/HandlerList.h"
+
+#include <memory>
+#include <string>
+#include <thread>
+
+namespace tessarine {
+
+// Where the system bus listens, in the form of D-Bus addresses.
+std::string systemBusAddress();
+
+// The sleep of the system, as logind announces it on the system bus: a thread sleeps on that bus
+// from the first handler on. Without a system bus nothing is ever told. Main thread.
+class LogindSleep {
+public:
+    using Handlers = HandlerList<>;
+
+    LogindSleep(Scheduler& scheduler, std::string busAddress);
+    ~LogindSleep();
+    LogindSleep(const LogindSleep&) = delete;
+    LogindSleep& operator=(const LogindSleep&) = delete;
+
+    // Called on the main thread for as long as the token is kept.
+    std::shared_ptr<void> onSleep(Handlers::Handler handler);
+    std::shared_ptr<void> onWake(Handlers::Handler handler);
+
+private:
+    struct Listeners {
+        Handlers sleep;
+        Handlers wake;
+    };
+
+    void ensureRunning();
+    void run();
+    void listen(BusConnection& connection);
+    void tell(bool isGoingToSleep);
+
+    Scheduler& scheduler_;
+    const std::string address_;
+    StopSignal stop_;
+    const std::shared_ptr<Listeners> listeners_ = std::make_shared<Listeners>();
+    std::thread thread_;
+};
+
+} // namespace tessarine

@@ -1,0 +1,141 @@
+#include "platform/qt/QtScheduler.h"
+
+#include "shared/ReferenceTime.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QTimer>
+
+#include <chrono>
+#include <condition_variable>
+
+namespace tessarine {
+
+namespace {
+
+const QEvent::Type taskEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+class QtRepeatingTimer : public RepeatingTimer {
+public:
+    QtRepeatingTimer(double seconds, Task task) {
+        timer_.setTimerType(Qt::PreciseTimer);
+        timer_.setInterval(static_cast<int>(seconds * 1000.0));
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, std::move(task));
+        timer_.start();
+    }
+
+private:
+    QTimer timer_;
+};
+
+// Told by one thread, awaited by another. Also told when its last copy goes without having run.
+class Completion {
+public:
+    void tell() {
+        {
+            const std::lock_guard lock(mutex_);
+            done_ = true;
+        }
+        told_.notify_all();
+    }
+
+    void wait() {
+        std::unique_lock lock(mutex_);
+        told_.wait(lock, [this] { return done_; });
+    }
+
+    bool waitFor(double seconds) {
+        std::unique_lock lock(mutex_);
+        return told_.wait_for(lock, std::chrono::duration<double>(seconds),
+                              [this] { return done_; });
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable told_;
+    bool done_ = false;
+};
+
+// A task that reports its end to a completion, and reports too when it is dropped without running.
+Task reporting(const std::shared_ptr<Completion>& completion, Task task) {
+    std::shared_ptr<void> end(nullptr, [completion](void*) { completion->tell(); });
+    return [task = std::move(task), end = std::move(end)]() mutable {
+        const std::shared_ptr<void> atReturn = std::move(end);
+        task();
+    };
+}
+
+} // namespace
+
+QtScheduler::QtScheduler() = default;
+
+QtScheduler::~QtScheduler() = default;
+
+double QtScheduler::now() const {
+    const auto sinceUnix = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(sinceUnix).count() - unixSecondsAtReferenceDate;
+}
+
+double QtScheduler::uptime() const {
+    const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(sinceStart).count();
+}
+
+void QtScheduler::onMain(Task task) {
+    main_.post(std::move(task));
+}
+
+void QtScheduler::onMainAfter(double seconds, Task task) {
+    main_.post([this, due = uptime() + seconds, task = std::move(task)] {
+        const double rest = std::max(0.0, due - uptime());
+        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): Qt owns the slot object
+        QTimer::singleShot(std::chrono::milliseconds(static_cast<qint64>(rest * 1000.0 + 0.999)),
+                           Qt::PreciseTimer, &main_, task);
+    });
+}
+
+void QtScheduler::onMainAndWait(const Task& task) {
+    const auto completion = std::make_shared<Completion>();
+    main_.post(reporting(completion, task));
+    completion->wait();
+}
+
+std::unique_ptr<RepeatingTimer> QtScheduler::every(double seconds, Task task) {
+    return std::make_unique<QtRepeatingTimer>(seconds, std::move(task));
+}
+
+void QtScheduler::onGlobalQueue(QualityOfService quality, Task task) {
+    workers_.run(quality, std::move(task));
+}
+
+bool QtScheduler::completesWithin(double seconds, QualityOfService quality, Task task) {
+    const auto completion = std::make_shared<Completion>();
+    workers_.run(quality, reporting(completion, std::move(task)));
+    return completion->waitFor(seconds);
+}
+
+// The event is made before the lock is taken and looked at after: the lock alone orders one
+// thread's making of it and the other's reading, where Qt's own order can't be seen.
+void QtScheduler::MainThread::post(Task task) {
+    auto event = std::make_unique<QEvent>(taskEvent);
+    {
+        const std::lock_guard lock(mutex_);
+        tasks_.push_back(std::move(task));
+    }
+    QCoreApplication::postEvent(this, event.release());
+}
+
+bool QtScheduler::MainThread::event(QEvent* event) {
+    std::unique_lock lock(mutex_);
+    if (event->type() != taskEvent) {
+        lock.unlock();
+        return QObject::event(event);
+    }
+    const Task task = std::move(tasks_.front());
+    tasks_.pop_front();
+    lock.unlock();
+    task();
+    return true;
+}
+
+} // namespace tessarine

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/Scheduler.h"
+#include "platform/qt/WorkerPool.h"
+
+#include <QObject>
+
+#include <deque>
+#include <mutex>
+
+namespace tessarine {
+
+// The scheduler of a running application: Qt's event loop is the main thread, standard threads are
+// the global queues. Made on the main thread, after the application object.
+class QtScheduler : public Scheduler {
+public:
+    QtScheduler();
+    ~QtScheduler() override;
+
+    double now() const override;
+    double uptime() const override;
+    void onMain(Task task) override;
+    void onMainAfter(double seconds, Task task) override;
+    void onMainAndWait(const Task& task) override;
+    std::unique_ptr<RepeatingTimer> every(double seconds, Task task) override;
+    void onGlobalQueue(QualityOfService quality, Task task) override;
+    bool completesWithin(double seconds, QualityOfService quality, Task task) override;
+
+private:
+    // Takes one task from the hand-over list for each event it is sent. The list has a standard
+    // mutex: Qt's own queue would hide the hand-over from ThreadSanitizer.
+    class MainThread : public QObject {
+    public:
+        void post(Task task);
+        bool event(QEvent* event) override;
+
+    private:
+        std::mutex mutex_;
+        std::deque<Task> tasks_;
+    };
+
+    MainThread main_;
+    WorkerPool workers_;
+};
+
+} // namespace tessarine

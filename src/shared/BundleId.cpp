@@ -1,0 +1,9 @@
+#include "shared/BundleId.h"
+
+namespace tessarine {
+
+QString derivedBundleId(const QString& shownName) {
+    return shownName.toLower().replace(u' ', u'.');
+}
+
+} // namespace tessarine

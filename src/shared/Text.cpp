@@ -1,0 +1,99 @@
+#include "shared/Text.h"
+
+#include <unicode/brkiter.h>
+#include <unicode/locid.h>
+#include <unicode/utext.h>
+
+#include <charconv>
+#include <cmath>
+#include <memory>
+
+namespace tessarine {
+
+namespace {
+
+// Without combining marks below U+0300, only a carriage return before a line feed makes one
+// character of two units; most texts never need the break iterator.
+bool isSimple(QStringView text) {
+    for (const QChar character : text) {
+        if (character.unicode() >= 0x300 || character == u'\r' || character.unicode() == 0xAD)
+            return false;
+    }
+    return true;
+}
+
+icu::BreakIterator* characterBreaks() {
+    thread_local UErrorCode status = U_ZERO_ERROR;
+    thread_local const std::unique_ptr<icu::BreakIterator> breaks(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): it lives as long as its thread
+    return U_SUCCESS(status) ? breaks.get() : nullptr;
+}
+
+} // namespace
+
+QString decimalText(double value) {
+    if (std::isnan(value))
+        return QStringLiteral("nan");
+    if (std::isinf(value))
+        return value < 0 ? QStringLiteral("-inf") : QStringLiteral("inf");
+    const double size = std::abs(value);
+    const bool fixed = size == 0 || (size >= 1e-4 && size < 0x1p54);
+    char buffer[64];
+    const auto end = std::to_chars(std::begin(buffer), std::end(buffer), value,
+                                   fixed ? std::chars_format::fixed : std::chars_format::scientific)
+                         .ptr;
+    QString text = QString::fromLatin1(buffer, end - buffer);
+    if (fixed && !text.contains(u'.'))
+        text += QStringLiteral(".0");
+    return text;
+}
+
+qsizetype characterCount(QStringView text) {
+    if (isSimple(text))
+        return text.size();
+    icu::BreakIterator* breaks = characterBreaks();
+    if (!breaks)
+        return text.size();
+    UErrorCode status = U_ZERO_ERROR;
+    UText units = UTEXT_INITIALIZER;
+    utext_openUChars(&units, text.utf16(), text.size(), &status);
+    breaks->setText(&units, status);
+    qsizetype count = 0;
+    if (U_SUCCESS(status)) {
+        breaks->first();
+        while (breaks->next() != icu::BreakIterator::DONE)
+            ++count;
+    }
+    utext_close(&units);
+    return U_SUCCESS(status) ? count : text.size();
+}
+
+QStringView trimmedBlanks(QStringView text) {
+    const auto isBlank = [](QChar character) {
+        return character == u'\t' || character.category() == QChar::Separator_Space;
+    };
+    while (!text.isEmpty() && isBlank(text.front()))
+        text = text.sliced(1);
+    while (!text.isEmpty() && isBlank(text.back()))
+        text.chop(1);
+    return text;
+}
+
+QByteArray storedUtf8(const QString& text) {
+    if (text.isValidUtf16())
+        return text.toUtf8();
+    QString repaired = text;
+    for (qsizetype i = 0; i < repaired.size(); ++i) {
+        const QChar unit = repaired[i];
+        if (!unit.isSurrogate())
+            continue;
+        if (unit.isHighSurrogate() && i + 1 < repaired.size() && repaired[i + 1].isLowSurrogate())
+            ++i;
+        else
+            repaired[i] = QChar::ReplacementCharacter;
+    }
+    return repaired.toUtf8();
+}
+
+} // namespace tessarine

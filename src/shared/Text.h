@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace tessarine {
+
+// The shortest decimal that reads back as the same double, always with a fraction: "0.0",
+// "778912345.5". From 2^54 on, and below 0.0001, with an exponent; "inf", "-inf" and "nan".
+QString decimalText(double value);
+
+// How many characters a reader sees: grapheme clusters by ICU's rules ("😀🇮🇹" has two).
+qsizetype characterCount(QStringView text);
+
+// The text without blanks and tabs of any script at its ends. Line breaks stay.
+QStringView trimmedBlanks(QStringView text);
+
+// UTF-8 for storage. Half a surrogate pair, which UTF-8 cannot hold, becomes U+FFFD.
+QByteArray storedUtf8(const QString& text);
+
+} // namespace tessarine

@@ -1,0 +1,71 @@
+#include "shell/MenuBarController.h"
+
+#include "capture/NotificationListener.h"
+#include "platform/StatusItem.h"
+#include "platform/UserDefaults.h"
+
+#include <QKeySequence>
+#include <QMenu>
+
+#include <algorithm>
+
+namespace tessarine {
+
+namespace {
+
+const QString lastSeenCountKey = QStringLiteral("menuBarLastSeenCount");
+const QString programName = QStringLiteral("Tessarine");
+
+constexpr qint64 badgeLimit = 100; // from here on it tells no number
+
+} // namespace
+
+MenuBarController::MenuBarController(StatusItem& statusItem,
+                                     std::shared_ptr<NotificationListener> listener,
+                                     UserDefaults& defaults, Action openHoard, Action quit)
+    : statusItem_(statusItem)
+    , listener_(std::move(listener))
+    , defaults_(defaults)
+    , openHoard_(std::move(openHoard))
+    , quit_(std::move(quit))
+    , lastSeenCount_(defaults.integer(lastSeenCountKey)) {
+    statusItem_.setImage(QStringLiteral("bell.fill"), programName);
+    statusItem_.setMenuBuilder([this](QMenu& menu) { fillMenu(menu); });
+    connect(listener_.get(), &NotificationListener::notificationsChanged, this,
+            &MenuBarController::updateBadge);
+    updateBadge();
+    statusItem_.show();
+}
+
+void MenuBarController::markAllSeen() {
+    lastSeenCount_ = listCount();
+    defaults_.setInteger(lastSeenCountKey, lastSeenCount_);
+    updateBadge();
+}
+
+QString MenuBarController::badge(qint64 count) {
+    if (count < 1)
+        return {};
+    return count < badgeLimit ? QStringLiteral(" %1").arg(count) : QStringLiteral(" 99+");
+}
+
+qint64 MenuBarController::listCount() const {
+    return qint64(listener_->notifications().size());
+}
+
+void MenuBarController::updateBadge() {
+    // A count from a file may be any number: the difference saturates where the badge does.
+    const qint64 count = listCount();
+    const quint64 unseen = lastSeenCount_ < count ? quint64(count) - quint64(lastSeenCount_) : 0;
+    statusItem_.setTitle(badge(qint64(std::min(unseen, quint64(badgeLimit)))));
+}
+
+void MenuBarController::fillMenu(QMenu& menu) const {
+    menu.addAction(programName)->setEnabled(false);
+    menu.addSeparator();
+    menu.addAction(qtTrId("menu.openHoard"), QKeySequence(Qt::CTRL | Qt::Key_O), this, openHoard_);
+    menu.addSeparator();
+    menu.addAction(qtTrId("menu.quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, quit_);
+}
+
+} // namespace tessarine

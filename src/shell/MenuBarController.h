@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+class QMenu;
+
+namespace tessarine {
+
+class NotificationListener;
+class StatusItem;
+class UserDefaults;
+
+// The status item: a bell, how many notifications came since the user last looked, and the menu.
+// Main thread.
+class MenuBarController : public QObject {
+    Q_OBJECT
+
+public:
+    using Action = std::function<void()>;
+
+    // Shows the item. Item and defaults outlive the controller.
+    MenuBarController(StatusItem& statusItem, std::shared_ptr<NotificationListener> listener,
+                      UserDefaults& defaults, Action openHoard, Action quit);
+
+    // The list as it stands counts as seen, in later processes too.
+    void markAllSeen();
+
+    qint64 lastSeenCount() const { return lastSeenCount_; }
+
+    // The badge for a number of unseen notifications: "", " 5", from 100 on " 99+".
+    static QString badge(qint64 count);
+
+private:
+    qint64 listCount() const;
+    void updateBadge();
+    void fillMenu(QMenu& menu) const;
+
+    StatusItem& statusItem_;
+    std::shared_ptr<NotificationListener> listener_;
+    UserDefaults& defaults_;
+    Action openHoard_;
+    Action quit_;
+    qint64 lastSeenCount_;
+};
+
+} // namespace tessarine

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+#include "platform/SerialQueue.h"
+#include "platform/UserDefaults.h"
+#include "shared/CapturedNotification.h"
+#include "store/HoardStats.h"
+
+#include <QString>
+
+#include <sqlite3.h>
+
+#include <set>
+
+namespace tessarine {
+
+// The archive of every captured notification: one SQLite file. Any thread may call; each call
+// blocks until its work is done, one at a time. No operation reports an error: a hoard that can't
+// be opened answers false, empty or zero, and the program runs on.
+class HoardStore {
+public:
+    // Opens the hoard in the first folder for application data, making folder, file and schema as
+    // needed. The defaults hold the excluded applications and the capture cursors.
+    HoardStore(const FileSystem& fileSystem, UserDefaults& defaults);
+    HoardStore(const HoardStore&) = delete;
+    HoardStore& operator=(const HoardStore&) = delete;
+    ~HoardStore(); // closes the connection; the program's own store is never destroyed
+
+    // The program's store, made by its first user and kept until the process ends.
+    static HoardStore& shared();
+
+    const QString& path() const { return dbPath_; }
+
+    // Stores a notification that has a key in the system's database. True when a row was added,
+    // false when its application is excluded or its key stored already. A noteId outside the
+    // signed 32-bit range ends the process.
+    bool insert(const CapturedNotification& notification);
+
+    // Stores a notification without such a key, unless a row with the same application id, title
+    // and body lies less than 300 seconds from it. True when a row was added.
+    bool insertDeduplicated(const CapturedNotification& notification);
+
+    // The first rows: pinned ones lead, then the newest. A limit outside the signed 32-bit range
+    // ends the process.
+    NotificationList fetchRecent(qint64 limit);
+
+    qint64 totalCount();
+    qint64 maxSystemNoteId(); // 0 when there is none
+    HoardStats stats();       // reads the whole table: not on the main thread
+
+    // Capture cursors. They lie in the user defaults and never move back.
+    qint64 lastSeenUsernotedRecId(); // where none is stored, the highest key in the hoard
+    void saveLastSeenUsernotedRecId(qint64 value);
+    double lastSeenUsernotedTimestamp() const;
+    std::set<qint64> lastSeenUsernotedRecIds() const;
+    void saveLastSeenUsernotedState(const std::set<qint64>& recIds, double timestamp);
+    qint64 lastSeenSystemNoteId(); // where none is stored, the highest key in the hoard
+    void saveLastSeenSystemNoteId(qint64 value);
+
+private:
+    void open();
+    void createSchema();
+    bool hasPinnedColumn();
+    void execute(const char* script);
+    qint64 singleInteger(const char* query);
+    bool isExcluded(const QString& bundleId) const;
+    bool isDuplicate(const CapturedNotification& notification);
+    qint64 cursor(const QString& key);
+    void raiseCursor(const QString& key, qint64 value);
+
+    sqlite3* db_ = nullptr;
+    QString dbPath_;
+    SerialQueue queue_;
+    const FileSystem& fileSystem_;
+    UserDefaults& defaults_;
+};
+
+} // namespace tessarine

@@ -1,0 +1,16 @@
+import QtQuick
+import Tessarine.Theme
+
+// A symbol by its name, in one colour, sharp at every density.
+Image {
+    required property string symbol
+    required property int size
+    property color tint: Theme.colours.label
+
+    width: size
+    height: size
+    sourceSize.width: size
+    sourceSize.height: size
+    source: "image://symbols/" + symbol + "/" + tint
+    Accessible.ignored: true
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QQuickImageProvider>
+
+namespace tessarine {
+
+class Symbols;
+
+// Symbols for QML: "image://symbols/bell.slash/#84848a" is that symbol in that colour.
+class SymbolProvider : public QQuickImageProvider {
+public:
+    // The symbols outlive the provider.
+    explicit SymbolProvider(const Symbols& symbols);
+
+    QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
+
+private:
+    const Symbols& symbols_;
+};
+
+} // namespace tessarine

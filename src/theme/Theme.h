@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/SystemAppearance.h"
+#include "theme/Palette.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace tessarine {
+
+// The look that all windows share. In QML it is the singleton Theme of the module Tessarine.Theme;
+// each engine has the one that it was made with. Main thread.
+class Theme : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(bool dark READ dark NOTIFY changed)
+    Q_PROPERTY(tessarine::Palette colours READ colours NOTIFY changed)
+    Q_PROPERTY(QString tabularFamily READ tabularFamily CONSTANT)
+
+public:
+    // The appearance outlives the theme.
+    explicit Theme(SystemAppearance& appearance);
+
+    // The theme that the engine was made with; QML asks for it.
+    static Theme* create(QQmlEngine* engine, QJSEngine* scripts);
+
+    bool dark() const { return appearance_.prefersDark(); }
+    const Palette& colours() const;
+
+    // The face for numbers that stand in columns.
+    QString tabularFamily() const;
+
+    // "light" and "dark" fix the appearance; any other text follows the system.
+    void applyAppearance(const QString& mode);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    SystemAppearance& appearance_;
+};
+
+} // namespace tessarine

@@ -1,0 +1,26 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tessarine.Theme
+
+// A quiet scroll bar: a thumb without a track, stronger under the pointer, and always there while
+// the list is longer than its view.
+T.ScrollBar {
+    id: bar
+
+    readonly property int thickness: 7
+    readonly property int shortestThumb: 28
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    padding: Metrics.spacingTiny
+    minimumSize: height > 0 ? Math.min(1, shortestThumb / height) : 0
+    visible: size < 1
+
+    contentItem: Rectangle {
+        implicitWidth: bar.thickness
+        implicitHeight: bar.thickness
+        radius: bar.thickness / 2
+        color: Theme.colours.scrollThumb
+        opacity: bar.pressed ? 1 : bar.hovered ? 0.8 : 0.5
+    }
+}

@@ -1,0 +1,63 @@
+#include "browser/ListDifference.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tessarine {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Pair;
+
+// A list of rows with these keys in the hoard.
+NotificationList rows(std::initializer_list<qint64> keys) {
+    NotificationList list;
+    for (const qint64 key : keys) {
+        list.emplace_back();
+        list.back().dbId = key;
+    }
+    return list;
+}
+
+TEST(KeptRows, AreAllWhenNothingChanged) {
+    EXPECT_THAT(keptRows(rows({1, 2, 3}), rows({1, 2, 3})),
+                ElementsAre(Pair(0, 0), Pair(1, 1), Pair(2, 2)));
+}
+
+TEST(KeptRows, AreNoneBetweenStrangers) {
+    EXPECT_THAT(keptRows(rows({1, 2}), rows({3, 4})), IsEmpty());
+    EXPECT_THAT(keptRows({}, rows({1})), IsEmpty());
+    EXPECT_THAT(keptRows(rows({1}), {}), IsEmpty());
+}
+
+TEST(KeptRows, MoveDownWhenRowsComeInFront) {
+    EXPECT_THAT(keptRows(rows({1, 2}), rows({8, 9, 1, 2})), ElementsAre(Pair(0, 2), Pair(1, 3)));
+}
+
+TEST(KeptRows, LeaveOutWhatWentFromTheMiddle) {
+    EXPECT_THAT(keptRows(rows({1, 2, 3}), rows({1, 3})), ElementsAre(Pair(0, 0), Pair(2, 1)));
+}
+
+TEST(KeptRows, AreAsManyAsTheOrderAllowsWhenARowMoves) {
+    EXPECT_THAT(keptRows(rows({1, 2, 3, 4}), rows({4, 1, 2, 3})),
+                ElementsAre(Pair(0, 1), Pair(1, 2), Pair(2, 3)));
+}
+
+TEST(KeptRows, MayHaveChangedInContent) {
+    NotificationList after = rows({1, 2, 3});
+    after[1].pinned = true;
+    EXPECT_THAT(keptRows(rows({1, 2, 3}), after), ElementsAre(Pair(0, 0), Pair(1, 1), Pair(2, 2)));
+}
+
+TEST(KeptRows, OfOneKeyPairUpInTheirOrder) {
+    NotificationList before = rows({0, 0, 0});
+    NotificationList after = rows({0, 0});
+    before[0].title = QStringLiteral("a");
+    after[0].title = QStringLiteral("b");
+    after[1].title = QStringLiteral("c");
+    EXPECT_THAT(keptRows(before, after), ElementsAre(Pair(0, 0), Pair(1, 1)));
+}
+
+} // namespace
+} // namespace tessarine

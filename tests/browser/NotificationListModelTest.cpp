@@ -1,0 +1,220 @@
+#include "browser/NotificationListModel.h"
+
+#include "support/Printers.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+namespace tessarine {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Role = NotificationListModel::Role;
+
+// A row as the hoard gives it: a reload has the same content under a fresh id.
+CapturedNotification row(qint64 dbId, const QString& title = {}) {
+    CapturedNotification result;
+    result.dbId = dbId;
+    result.appName = u"Mail"_qs;
+    result.title = title;
+    return result;
+}
+
+NotificationList rows(std::initializer_list<qint64> keys) {
+    NotificationList list;
+    for (const qint64 key : keys)
+        list.push_back(row(key));
+    return list;
+}
+
+// A view in small: it knows the model only by what the model tells, and copies rows when it is
+// told of them.
+class Mirror {
+public:
+    explicit Mirror(const NotificationListModel& model)
+        : model_(model) {
+        QObject::connect(&model, &QAbstractItemModel::rowsInserted, &model,
+                         [this](const QModelIndex&, int first, int last) { insert(first, last); });
+        QObject::connect(&model, &QAbstractItemModel::rowsRemoved, &model,
+                         [this](const QModelIndex&, int first, int last) { remove(first, last); });
+        QObject::connect(&model, &QAbstractItemModel::dataChanged, &model,
+                         [this](const QModelIndex& first, const QModelIndex& last,
+                                const QList<int>&) { change(first.row(), last.row()); });
+        QObject::connect(&model, &QAbstractItemModel::modelReset, &model, [this] { ++resets; });
+    }
+
+    NotificationList rows;
+    int resets = 0;
+    int told = 0;
+
+private:
+    void insert(int first, int last) {
+        ++told;
+        rows.insert(rows.begin() + first, model_.notifications().begin() + first,
+                    model_.notifications().begin() + last + 1);
+    }
+    void remove(int first, int last) {
+        ++told;
+        rows.erase(rows.begin() + first, rows.begin() + last + 1);
+    }
+    void change(int first, int last) {
+        ++told;
+        std::copy(model_.notifications().begin() + first, model_.notifications().begin() + last + 1,
+                  rows.begin() + first);
+    }
+
+    const NotificationListModel& model_;
+};
+
+class ModelTest : public ::testing::Test {
+protected:
+    QVariant at(int index, Role role) const { return model_.data(model_.index(index), int(role)); }
+
+    NotificationListModel model_;
+    QAbstractItemModelTester tester_{&model_,
+                                     QAbstractItemModelTester::FailureReportingMode::Fatal};
+    Mirror mirror_{model_};
+    QSignalSpy inserted_{&model_, &QAbstractItemModel::rowsInserted};
+    QSignalSpy removed_{&model_, &QAbstractItemModel::rowsRemoved};
+    QSignalSpy changed_{&model_, &QAbstractItemModel::dataChanged};
+};
+
+TEST_F(ModelTest, RolesAreNamedAsTheEnumerationHasThem) {
+    const QHash<int, QByteArray> names = model_.roleNames();
+    EXPECT_EQ(names.value(int(Role::NotificationId)), QByteArray("notificationId"));
+    EXPECT_EQ(names.value(int(Role::AppName)), QByteArray("appName"));
+    EXPECT_EQ(names.value(int(Role::Title)), QByteArray("title"));
+    EXPECT_EQ(names.value(int(Role::SpokenText)), QByteArray("spokenText"));
+    EXPECT_EQ(names.size(), 8);
+}
+
+TEST_F(ModelTest, ARowHasItsTexts) {
+    CapturedNotification notification = row(7, u"Hello"_qs);
+    notification.body = u"World"_qs;
+    model_.setNotifications({notification});
+    EXPECT_EQ(at(0, Role::NotificationId).toUuid(), notification.id);
+    EXPECT_EQ(at(0, Role::AppName).toString(), u"Mail"_qs);
+    EXPECT_EQ(at(0, Role::Title).toString(), u"Hello"_qs);
+    EXPECT_EQ(at(0, Role::Body).toString(), u"World"_qs);
+    EXPECT_EQ(at(0, Role::Initials).toString(), u"MA"_qs);
+    EXPECT_TRUE(at(0, Role::TimeText).toString().contains(u"2001"_qs) ||
+                at(0, Role::TimeText).toString().contains(u"2000"_qs));
+    EXPECT_TRUE(at(0, Role::SpokenText).toString().startsWith(u"Mail, Hello, World, "_qs));
+    EXPECT_FALSE(at(1, Role::Title).isValid());
+}
+
+TEST_F(ModelTest, AHugeTextIsCutBetweenTwoCharacters) {
+    const QString fits = u"x"_qs.repeated(2000);
+    const QString pairs = u"x"_qs + u"😀"_qs.repeated(5000);
+    model_.setNotifications({row(1, fits), row(2, pairs)});
+    EXPECT_EQ(at(0, Role::Title).toString(), fits);
+    const QString cut = at(1, Role::Title).toString();
+    EXPECT_EQ(cut, u"x"_qs + u"😀"_qs.repeated(999) + u"…"_qs);
+}
+
+TEST_F(ModelTest, AReloadTellsNothingButTheFreshIds) {
+    model_.setNotifications(rows({3, 2, 1}));
+    inserted_.clear();
+    model_.setNotifications(rows({3, 2, 1}));
+    EXPECT_EQ(inserted_.count(), 0);
+    EXPECT_EQ(removed_.count(), 0);
+    ASSERT_EQ(changed_.count(), 1);
+    EXPECT_EQ(changed_[0][2].value<QList<int>>(), QList<int>{int(Role::NotificationId)});
+}
+
+TEST_F(ModelTest, TheVerySameListTellsNothingAtAll) {
+    const NotificationList list = rows({3, 2, 1});
+    model_.setNotifications(list);
+    const int told = mirror_.told;
+    model_.setNotifications(list);
+    EXPECT_EQ(mirror_.told, told);
+}
+
+TEST_F(ModelTest, ANewRowInFrontIsOneInsertion) {
+    model_.setNotifications(rows({3, 2, 1}));
+    inserted_.clear();
+    model_.setNotifications(rows({4, 3, 2, 1}));
+    ASSERT_EQ(inserted_.count(), 1);
+    EXPECT_EQ(inserted_[0][1].toInt(), 0);
+    EXPECT_EQ(inserted_[0][2].toInt(), 0);
+    EXPECT_EQ(removed_.count(), 0);
+}
+
+TEST_F(ModelTest, AFullListDropsItsLastRowForANewFirstOne) {
+    model_.setNotifications(rows({3, 2, 1}));
+    inserted_.clear();
+    model_.setNotifications(rows({4, 3, 2}));
+    ASSERT_EQ(removed_.count(), 1);
+    EXPECT_EQ(removed_[0][1].toInt(), 2);
+    ASSERT_EQ(inserted_.count(), 1);
+    EXPECT_EQ(inserted_[0][1].toInt(), 0);
+}
+
+TEST_F(ModelTest, APinnedRowThatMovesUpLeavesTheOthersAlone) {
+    model_.setNotifications(rows({4, 3, 2, 1}));
+    inserted_.clear();
+    NotificationList pinned = rows({2, 4, 3, 1});
+    pinned[0].pinned = true;
+    model_.setNotifications(pinned);
+    ASSERT_EQ(removed_.count(), 1);
+    EXPECT_EQ(removed_[0][1].toInt(), 2);
+    ASSERT_EQ(inserted_.count(), 1);
+    EXPECT_EQ(inserted_[0][1].toInt(), 0);
+}
+
+TEST_F(ModelTest, AChangedRowIsToldAsAChange) {
+    model_.setNotifications(rows({3, 2, 1}));
+    inserted_.clear();
+    NotificationList list = rows({3, 2, 1});
+    list[1].title = u"changed"_qs;
+    model_.setNotifications(list);
+    EXPECT_EQ(inserted_.count(), 0);
+    EXPECT_EQ(removed_.count(), 0);
+    ASSERT_EQ(changed_.count(), 2); // the row, then the fresh ids
+    EXPECT_EQ(changed_[0][0].toModelIndex().row(), 1);
+    EXPECT_TRUE(changed_[0][2].value<QList<int>>().isEmpty());
+}
+
+// Lists that share some rows with the one before, in another order, with changes, and some rows
+// that no hoard has stored.
+NotificationList randomList(std::mt19937& random, const NotificationList& before) {
+    const auto below = [&](int limit) {
+        return std::uniform_int_distribution(0, limit - 1)(random);
+    };
+    NotificationList list;
+    for (const CapturedNotification& old : before) {
+        if (below(4) == 0)
+            continue;
+        list.push_back(row(old.dbId, below(5) == 0 ? QString::number(below(9)) : old.title));
+    }
+    for (int i = below(5); i > 0; --i)
+        list.insert(list.begin() + below(int(list.size()) + 1), row(below(30)));
+    for (int i = below(3); i > 0 && list.size() > 1; --i)
+        std::swap(list[std::size_t(below(int(list.size())))],
+                  list[std::size_t(below(int(list.size())))]);
+    return list;
+}
+
+class RandomListsTest : public ModelTest, public ::testing::WithParamInterface<unsigned> {};
+
+TEST_P(RandomListsTest, AreToldSoThatAViewEndsWithTheListItself) {
+    std::mt19937 random(GetParam());
+    NotificationList list;
+    for (int step = 0; step < 200; ++step) {
+        list = randomList(random, list);
+        model_.setNotifications(list);
+        ASSERT_EQ(mirror_.rows, list) << "at step " << step;
+        ASSERT_EQ(model_.notifications(), list);
+    }
+    EXPECT_EQ(mirror_.resets, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomListsTest, ::testing::Range(1U, 9U));
+
+} // namespace
+} // namespace tessarine

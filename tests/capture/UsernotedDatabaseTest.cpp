@@ -1,0 +1,303 @@
+#include "capture/UsernotedDatabase.h"
+
+#include "support/HoardFile.h"
+#include "support/PropertyListWriter.h"
+#include "tools/UsernotedDatabase.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace tessarine {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using tools::UsernotedContent;
+using tools::UsernotedForm;
+using namespace Qt::StringLiterals;
+
+constexpr double base = 785000000.0;
+
+QByteArray payload(const QString& title) {
+    return *tools::usernotedPayload(UsernotedForm::RequestTitle, {.title = title});
+}
+
+class UsernotedReadingTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(writer_.createTables()) << writer_.lastError().toStdString();
+    }
+
+    void add(qint64 recId, const QString& title, const tools::ColumnValue& date) {
+        ASSERT_TRUE(
+            writer_.append(recId, *writer_.appId(u"com.example.mail"_qs), payload(title), date))
+            << writer_.lastError().toStdString();
+    }
+
+    UsernotedReading read(const UsernotedCursor& cursor = {}) {
+        return readUsernotedDatabase(path_, cursor, DecoderVariant::poll, lastBundleComponent);
+    }
+
+    std::vector<QString> titles(const UsernotedReading& reading) {
+        std::vector<QString> found;
+        for (const CapturedNotification& record : reading.records)
+            found.push_back(record.title);
+        return found;
+    }
+
+    QTemporaryDir folder_;
+    QString path_ = folder_.filePath(u"db"_qs);
+    tools::UsernotedDatabase writer_{path_};
+};
+
+TEST_F(UsernotedReadingTest, BuildsTheWholeRecord) {
+    add(41, u"Hello"_qs, base + 0.25);
+    const UsernotedReading reading = read();
+    ASSERT_EQ(reading.records.size(), 1U);
+    const CapturedNotification& record = reading.records.front();
+    EXPECT_EQ(record.dbId, 0);
+    EXPECT_EQ(record.noteId, 41);
+    EXPECT_EQ(record.appBundleId, u"com.example.mail"_qs);
+    EXPECT_EQ(record.appName, u"mail"_qs);
+    EXPECT_EQ(record.title, u"Hello"_qs);
+    EXPECT_EQ(record.body, QString());
+    EXPECT_EQ(record.timestamp, base + 0.25);
+    EXPECT_FALSE(record.pinned);
+}
+
+TEST_F(UsernotedReadingTest, ReadsTheWholeTableFromACursorOfZero) {
+    add(1, u"old"_qs, 0.5);
+    add(2, u"new"_qs, base);
+    EXPECT_THAT(titles(read()), ElementsAre(u"old"_qs, u"new"_qs));
+}
+
+TEST_F(UsernotedReadingTest, ReachesTwoSecondsBehindTheCursorAndNoFurther) {
+    add(1, u"exactly two behind"_qs, base - 2.0);
+    add(2, u"a little less"_qs, base - 1.999);
+    EXPECT_THAT(titles(read({base, {}})), ElementsAre(u"a little less"_qs));
+}
+
+TEST_F(UsernotedReadingTest, SkipsAtTheCursorDateOnlyTheKeysOfTheSet) {
+    add(1, u"seen"_qs, base);
+    add(2, u"unseen"_qs, base);
+    const UsernotedReading reading = read({base, {1}});
+    EXPECT_THAT(titles(reading), ElementsAre(u"unseen"_qs));
+    EXPECT_EQ(reading.newest.timestamp, base);
+    EXPECT_EQ(reading.newest.recIds, std::set<qint64>{2});
+}
+
+TEST_F(UsernotedReadingTest, TakesALateRowBehindTheCursorAndLeavesTheCursor) {
+    add(9, u"late"_qs, base - 1.0);
+    const UsernotedReading reading = read({base, {1}});
+    EXPECT_THAT(titles(reading), ElementsAre(u"late"_qs));
+    EXPECT_EQ(reading.newest.timestamp, base);
+    EXPECT_THAT(reading.newest.recIds, IsEmpty());
+}
+
+TEST_F(UsernotedReadingTest, CollectsTheKeysAtTheNewestDate) {
+    add(1, u"a"_qs, base + 1);
+    add(2, u"b"_qs, base + 2);
+    add(3, u"c"_qs, base + 2);
+    const UsernotedReading reading = read({base, {}});
+    EXPECT_EQ(reading.newest.timestamp, base + 2);
+    EXPECT_EQ(reading.newest.recIds, (std::set<qint64>{2, 3}));
+}
+
+TEST_F(UsernotedReadingTest, MovesTheCursorByARowWithoutTexts) {
+    ASSERT_TRUE(writer_.append(5, 1, tools::usernotedPayload(UsernotedForm::Broken, {}), base + 3));
+    const UsernotedReading reading = read({base, {}});
+    EXPECT_THAT(reading.records, IsEmpty());
+    EXPECT_EQ(reading.newest.timestamp, base + 3);
+    EXPECT_EQ(reading.newest.recIds, std::set<qint64>{5});
+}
+
+TEST_F(UsernotedReadingTest, DropsANullPayload) {
+    ASSERT_TRUE(writer_.append(5, 1, std::nullopt, base));
+    add(6, u"next"_qs, base + 1);
+    EXPECT_THAT(titles(read()), ElementsAre(u"next"_qs));
+}
+
+TEST_F(UsernotedReadingTest, NamesAnUnknownApplicationByItsNumber) {
+    ASSERT_TRUE(writer_.append(5, 7, payload(u"Hello"_qs), base));
+    const UsernotedReading reading = read();
+    ASSERT_EQ(reading.records.size(), 1U);
+    EXPECT_EQ(reading.records.front().appBundleId, u"app_id_7"_qs);
+    EXPECT_EQ(reading.records.front().appName, u"app_id_7"_qs);
+}
+
+TEST_F(UsernotedReadingTest, NamesAnApplicationWithANullIdentifierByItsNumber) {
+    ASSERT_TRUE(testing::DatabaseFile(path_).run(u"INSERT INTO app VALUES(8, NULL)"_qs));
+    ASSERT_TRUE(writer_.append(5, 8, payload(u"Hello"_qs), base));
+    EXPECT_EQ(read().records.front().appBundleId, u"app_id_8"_qs);
+}
+
+TEST_F(UsernotedReadingTest, LeavesTheLogToTheDaemonThatHoldsIt) {
+    add(1, u"Hello"_qs, base);
+    read();
+    EXPECT_TRUE(QFile::exists(path_ + u"-wal"_qs));
+}
+
+// Dates that no daemon should write
+
+TEST_F(UsernotedReadingTest, NeverSeesANullDate) {
+    add(1, u"null"_qs, tools::ColumnValue());
+    EXPECT_THAT(read().records, IsEmpty());
+}
+
+TEST_F(UsernotedReadingTest, TakesATextDateAsZeroWithoutMovingTheCursor) {
+    add(1, u"text"_qs, QStringLiteral("yesterday"));
+    const UsernotedReading reading = read({base, {}});
+    ASSERT_EQ(reading.records.size(), 1U);
+    EXPECT_EQ(reading.records.front().timestamp, 0.0);
+    EXPECT_EQ(reading.newest.timestamp, base);
+}
+
+TEST_F(UsernotedReadingTest, NeverSeesANegativeDate) {
+    add(1, u"negative"_qs, -1.0);
+    EXPECT_THAT(read().records, IsEmpty());
+}
+
+TEST_F(UsernotedReadingTest, TakesAnInfiniteDateWithoutMovingTheCursor) {
+    add(1, u"real"_qs, base + 1);
+    add(2, u"endless"_qs, std::numeric_limits<double>::infinity());
+    const UsernotedReading reading = read({base, {}});
+    EXPECT_THAT(titles(reading), ElementsAre(u"real"_qs, u"endless"_qs));
+    EXPECT_EQ(reading.newest.timestamp, base + 1);
+    EXPECT_EQ(reading.newest.recIds, std::set<qint64>{1});
+}
+
+// Payloads that stop no other row
+
+class BadPayloadRow : public UsernotedReadingTest,
+                      public ::testing::WithParamInterface<UsernotedForm> {};
+
+TEST_P(BadPayloadRow, IsPassedOver) {
+    add(1, u"before"_qs, base);
+    ASSERT_TRUE(writer_.append(2, 1, tools::usernotedPayload(GetParam(), {}), base + 1));
+    add(3, u"after"_qs, base + 2);
+    EXPECT_THAT(titles(read()), ElementsAre(u"before"_qs, u"after"_qs));
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, BadPayloadRow,
+                         ::testing::Values(UsernotedForm::RequestEmpty, UsernotedForm::OtherType,
+                                           UsernotedForm::NotADictionary, UsernotedForm::Broken,
+                                           UsernotedForm::ZeroBytes, UsernotedForm::Null));
+
+TEST_F(UsernotedReadingTest, ReadsPayloadsStoredAsText) {
+    ASSERT_TRUE(testing::DatabaseFile(path_).run(
+        u"INSERT INTO record(rec_id, app_id, data, delivered_date) VALUES(1, 'mail', 'some text', 5)"_qs));
+    add(2, u"after"_qs, base);
+    EXPECT_THAT(titles(read()), ElementsAre(u"after"_qs));
+}
+
+// Files that are no such database
+
+class BadDatabase : public ::testing::Test {
+protected:
+    UsernotedReading read() {
+        return readUsernotedDatabase(path_, {base, {1}}, DecoderVariant::poll, lastBundleComponent);
+    }
+    void expectNothingRead() {
+        const UsernotedReading reading = read();
+        EXPECT_THAT(reading.records, IsEmpty());
+        EXPECT_EQ(reading.newest.timestamp, base);
+        EXPECT_THAT(reading.newest.recIds, IsEmpty());
+    }
+    QByteArray contents() {
+        QFile file(path_);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void write(const QByteArray& bytes) {
+        QFile file(path_);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(bytes), bytes.size());
+    }
+
+    QTemporaryDir folder_;
+    QString path_ = folder_.filePath(u"db"_qs);
+};
+
+TEST_F(BadDatabase, ThatIsNotThereGivesNothingAndIsNotMade) {
+    expectNothingRead();
+    EXPECT_FALSE(QFile::exists(path_));
+}
+
+TEST_F(BadDatabase, ThatIsAFolderGivesNothing) {
+    ASSERT_TRUE(QDir().mkpath(path_));
+    expectNothingRead();
+}
+
+TEST_F(BadDatabase, ThatIsEmptyGivesNothing) {
+    write({});
+    expectNothingRead();
+    EXPECT_TRUE(contents().isEmpty());
+}
+
+TEST_F(BadDatabase, OfEncryptedGarbageGivesNothingAndIsLeftAlone) {
+    QByteArray garbage(65536, '\0');
+    for (qsizetype i = 0; i < garbage.size(); ++i)
+        garbage[i] = static_cast<char>((i * 7919 + 13) % 251);
+    write(garbage);
+    expectNothingRead();
+    EXPECT_EQ(contents(), garbage);
+}
+
+TEST_F(BadDatabase, ThatIsCutOffGivesNothingOrItsFirstRows) {
+    {
+        tools::UsernotedDatabase writer(path_);
+        ASSERT_TRUE(writer.createTables());
+        ASSERT_TRUE(writer.begin());
+        for (int i = 0; i < 2000; ++i)
+            ASSERT_TRUE(writer.append(i, 1, payload(u"Title"_qs), base + i));
+        ASSERT_TRUE(writer.commit());
+    }
+    ASSERT_TRUE(QFile::resize(path_, QFile(path_).size() / 3));
+    EXPECT_LE(read().records.size(), 2000U);
+}
+
+TEST_F(BadDatabase, WithoutTheTableOfRecordsGivesNothing) {
+    ASSERT_TRUE(testing::DatabaseFile(path_).run(u"CREATE TABLE app(app_id, identifier)"_qs));
+    expectNothingRead();
+}
+
+TEST_F(BadDatabase, WithoutTheTableOfApplicationsNamesThemByNumber) {
+    tools::UsernotedDatabase writer(path_);
+    ASSERT_TRUE(writer.createTables());
+    ASSERT_TRUE(writer.append(2, 3, payload(u"Hello"_qs), base + 1));
+    ASSERT_TRUE(testing::DatabaseFile(path_).run(u"DROP TABLE app"_qs));
+    const UsernotedReading reading = read();
+    ASSERT_EQ(reading.records.size(), 1U);
+    EXPECT_EQ(reading.records.front().appBundleId, u"app_id_3"_qs);
+}
+
+TEST_F(BadDatabase, WithColumnsOfOtherTypesIsReadAsFarAsItGoes) {
+    ASSERT_TRUE(testing::DatabaseFile(path_).run(
+        u"CREATE TABLE app(app_id TEXT, identifier BLOB);"
+        "CREATE TABLE record(rec_id TEXT, app_id TEXT, data TEXT, delivered_date TEXT);"
+        "INSERT INTO record VALUES('nine', 'seven', 'hello', '785000100')"_qs));
+    EXPECT_THAT(read().records, IsEmpty());
+}
+
+TEST_F(BadDatabase, LockedByAnotherConnectionGivesNothingNow) {
+    tools::UsernotedDatabase writer(path_);
+    ASSERT_TRUE(writer.createTables());
+    ASSERT_TRUE(writer.append(2, 3, payload(u"Hello"_qs), base + 1));
+    writer.close();
+    sqlite3* locker = nullptr;
+    ASSERT_EQ(sqlite3_open(path_.toUtf8().constData(), &locker), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(locker, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE", nullptr,
+                           nullptr, nullptr),
+              SQLITE_OK);
+    expectNothingRead();
+    sqlite3_close(locker);
+    EXPECT_EQ(read().records.size(), 1U);
+}
+
+} // namespace
+} // namespace tessarine

@@ -1,0 +1,224 @@
+"""A session bus with a notification daemon, and applications that announce things on it."""
+
+import os
+import shutil
+import signal
+import socket
+import struct
+import subprocess
+import sys
+
+import dbus
+import dbus.lowlevel
+
+from session import Session, SessionTestCase, wait_until
+
+SERVICE = "org.freedesktop.Notifications"
+PATH = "/org/freedesktop/Notifications"
+
+# Daemons that Debian ships, by the program that they start as.
+DAEMONS = {
+    "dunst": ["dunst"],
+    "notification-daemon": ["/usr/lib/notification-daemon/notification-daemon"],
+    "xfce4-notifyd": ["/usr/lib/x86_64-linux-gnu/xfce4/notifyd/xfce4-notifyd"],
+}
+
+BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:path={socket}</listen>
+  <auth>EXTERNAL</auth>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+    {rules}
+  </policy>
+  <limit name="max_incoming_bytes">1000000000</limit>
+  <limit name="max_outgoing_bytes">1000000000</limit>
+  <limit name="max_message_size">1000000000</limit>
+  <limit name="max_completed_connections">1000</limit>
+  <limit name="max_connections_per_user">1000</limit>
+  <limit name="max_replies_per_connection">50000</limit>
+</busconfig>
+"""
+
+
+class Bus:
+    """A message bus of the session's own, without services that it would start by itself."""
+
+    def __init__(self, session, rules=""):
+        self.session = session
+        self.socket = session.runtime / "bus"
+        self.address = f"unix:path={self.socket}"
+        self.configuration = session.root / "bus.conf"
+        self.configuration.write_text(BUS_CONFIGURATION.format(socket=self.socket, rules=rules))
+        session.environment["DBUS_SESSION_BUS_ADDRESS"] = self.address
+        session.environment["DBUS_SYSTEM_BUS_ADDRESS"] = f"unix:path={session.root}/no-system-bus"
+        self.start()
+
+    def start(self):
+        self.process = self.session.spawn("dbus-daemon", f"--config-file={self.configuration}",
+                                          "--nofork", "--nosyslog", stderr=subprocess.DEVNULL)
+        wait_until(self.socket.exists, 5, "the bus")
+
+    def stop(self):
+        self.session.kill(self.process)
+        self.socket.unlink(missing_ok=True)
+
+    def connect(self):
+        return dbus.bus.BusConnection(self.address)
+
+
+class NotificationDaemon:
+    """The program that draws the banners: one of Debian's, or one of our own that misbehaves."""
+
+    def __init__(self, session, bus, name):
+        self.session = session
+        self.bus = bus
+        fake = os.path.join(os.path.dirname(__file__), "fake_daemon.py")
+        self.command = DAEMONS.get(name) or [sys.executable, fake, name]
+        self.start()
+
+    def start(self):
+        self.process = self.session.spawn(*self.command, stdout=subprocess.DEVNULL,
+                                          stderr=subprocess.DEVNULL)
+        connection = self.bus.connect()
+        wait_until(lambda: connection.name_has_owner(SERVICE), 15, "a notification daemon")
+        connection.close()
+
+    def kill(self):
+        self.session.kill(self.process, signal.SIGKILL)
+
+
+def daemon_is_installed(name):
+    return shutil.which(DAEMONS[name][0]) is not None
+
+
+class Application:
+    """A program that announces things. Closes its connection at the end."""
+
+    def __init__(self, bus, name="Application"):
+        self.name = name
+        self.connection = bus.connect()
+
+    def message(self, summary, body="", *, replaces=0, hints=None, timeout=-1, name=None):
+        message = dbus.lowlevel.MethodCallMessage(SERVICE, PATH, SERVICE, "Notify")
+        message.append(self.name if name is None else name, dbus.UInt32(replaces), "", summary,
+                       body, dbus.Array([], "s"), dbus.Dictionary(hints or {}, "sv"),
+                       dbus.Int32(timeout), signature="susssasa{sv}i")
+        return message
+
+    def announce(self, summary, body="", **options):
+        """Waits for the daemon's answer and gives the id of the notification; None on an error."""
+        message = self.message(summary, body, **options)
+        try:
+            reply = self.connection.send_message_with_reply_and_block(message, 30)
+            return int(reply.get_args_list()[0])
+        except dbus.DBusException:
+            return None
+
+    def pour(self, texts):
+        """Sends without waiting for answers."""
+        for summary, body in texts:
+            self.connection.send_message(self.message(summary, body))
+        self.connection.flush()
+
+    def withdraw(self, identifier):
+        message = dbus.lowlevel.MethodCallMessage(SERVICE, PATH, SERVICE, "CloseNotification")
+        message.append(dbus.UInt32(identifier), signature="u")
+        self.connection.send_message_with_reply_and_block(message, 5)
+
+    def close(self):
+        self.connection.close()
+
+
+class RawConnection:
+    """Speaks to the bus in bytes, and so can say what no library lets through."""
+
+    def __init__(self, bus):
+        self.socket = socket.socket(socket.AF_UNIX)
+        self.socket.settimeout(5)
+        self.socket.connect(str(bus.socket))
+        user = str(os.getuid()).encode().hex().encode()
+        self.socket.sendall(b"\0AUTH EXTERNAL " + user + b"\r\n")
+        self.socket.recv(4096)
+        self.socket.sendall(b"BEGIN\r\n")
+        self.call(1, b"org.freedesktop.DBus", b"/org/freedesktop/DBus", b"Hello")
+        self.socket.recv(4096)
+
+    def call(self, serial, interface, path, member, signature=b"", body=b""):
+        fields = b""
+        for code, kind, value in ((1, b"o", path), (2, b"s", interface), (3, b"s", member),
+                                  (6, b"s", interface), (8, b"g", signature)):
+            if kind == b"g" and not signature:
+                continue
+            fields += b"\0" * (-len(fields) % 8) + bytes([code, 1]) + kind + b"\0"
+            size = bytes([len(value)]) if kind == b"g" else struct.pack("<I", len(value))
+            fields += size + value + b"\0"
+        header = b"l\x01\x00\x01" + struct.pack("<III", len(body), serial, len(fields)) + fields
+        self.socket.sendall(header + b"\0" * (-len(header) % 8) + body)
+
+    def notify(self, summary):
+        """Announces a summary of any bytes, with nothing else in it."""
+        def text(value):
+            return struct.pack("<I", len(value)) + value + b"\0"
+
+        def padded(value, to):
+            return value + b"\0" * (-len(value) % to)
+
+        body = padded(text(b"Raw"), 4) + struct.pack("<I", 0)
+        body = padded(body + text(b""), 4)
+        body = padded(body + text(summary), 4)
+        body = padded(body + text(b""), 4)
+        body = padded(body + struct.pack("<I", 0) + struct.pack("<I", 0), 8)
+        body += struct.pack("<i", -1)
+        self.call(2, SERVICE.encode(), PATH.encode(), b"Notify", b"susssasa{sv}i", body)
+
+    def is_cut_off(self):
+        """Whether the bus ends the connection, as it does to one that breaks the protocol."""
+        try:
+            while self.socket.recv(4096):
+                pass
+            return True
+        except ConnectionResetError:
+            return True
+        except TimeoutError:
+            return False
+
+    def close(self):
+        self.socket.close()
+
+
+class DesktopTestCase(SessionTestCase):
+    daemon_name = "dunst"
+
+    def setUp(self):
+        super().setUp()
+        self.bus = Bus(self.session)
+        self.daemon = NotificationDaemon(self.session, self.bus, self.daemon_name)
+        self.program = self.session.start_program()
+
+    def application(self, name="Application"):
+        application = Application(self.bus, name)
+        self.addCleanup(application.close)
+        return application
+
+    def rows(self):
+        """Application, title and body of all rows."""
+        return self.session.query("SELECT app_name, title, body FROM notifications ORDER BY id")
+
+    def assert_captured(self, *expected, seconds=10):
+        wait_until(lambda: set(expected) <= set(self.rows()), seconds, f"{expected} in the hoard")
+        for row in expected:
+            self.assertEqual(self.rows().count(row), 1, row)
+
+    def memory(self, program=None):
+        """Resident megabytes."""
+        with open(f"/proc/{(program or self.program).pid}/statm") as status:
+            return int(status.read().split()[1]) * os.sysconf("SC_PAGE_SIZE") / 1e6
+
+
+__all__ = ["Application", "Bus", "DesktopTestCase", "NotificationDaemon", "RawConnection", "Session",
+           "daemon_is_installed", "wait_until"]

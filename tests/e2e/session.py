@@ -1,0 +1,237 @@
+"""A private desktop session for the real program: scratch home, display, bus.
+
+Nothing of the user's own session is touched. Everything that a session starts, it ends.
+"""
+
+import os
+import pathlib
+import shutil
+import signal
+import sqlite3
+import subprocess
+import tempfile
+import time
+import unittest
+
+REFERENCE_DATE = 978307200.0
+PROGRAM = os.environ["TESSARINE_PROGRAM"]
+WRITER = os.environ["TESSARINE_USERNOTED_WRITER"]
+USERNOTED = "Library/Group Containers/group.com.apple.usernoted/db2/db"
+DEFAULTS = "com.zorvek.Tessarine.conf"
+
+
+def now():
+    """Seconds since the reference date."""
+    return time.time() - REFERENCE_DATE
+
+
+def wait_until(condition, seconds, what):
+    """What the condition gives once it gives something; fails the test when the time is up."""
+    end = time.monotonic() + seconds
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > end:
+            raise AssertionError(f"not within {seconds} s: {what}")
+        time.sleep(0.02)
+
+
+class Display:
+    """An X server of its own, shared by the tests of a process."""
+
+    _shared = None
+
+    def __init__(self):
+        reading, writing = os.pipe()
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1400x1000x24", "-nolisten", "tcp"],
+            pass_fds=[writing], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(writing)
+        with os.fdopen(reading) as answer:
+            self.name = f":{answer.readline().strip()}"
+
+    @classmethod
+    def shared(cls):
+        if cls._shared is None:
+            cls._shared = cls()
+        return cls._shared
+
+    @classmethod
+    def end(cls):
+        if cls._shared is not None:
+            cls._shared.server.terminate()
+            cls._shared.server.wait()
+            cls._shared = None
+
+
+class Session:
+    def __init__(self, user=None):
+        self.root = pathlib.Path(tempfile.mkdtemp(prefix="tessarine-e2e-"))
+        self.home = self.root / "home"
+        self.data = self.home / ".local/share"
+        self.config = self.home / ".config"
+        self.runtime = self.root / "run"
+        for folder in (self.home, self.runtime):
+            folder.mkdir(mode=0o700)
+        self.user = user
+        self.processes = []
+        self.environment = {
+            "PATH": os.environ["PATH"],
+            "LANG": "C.UTF-8",
+            "HOME": str(self.home),
+            "XDG_RUNTIME_DIR": str(self.runtime),
+            "DISPLAY": Display.shared().name,
+            "QT_QUICK_BACKEND": "software",
+            "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", ""),
+            "UBSAN_OPTIONS": os.environ.get("UBSAN_OPTIONS", ""),
+        }
+        self.give_to_user(self.root)
+
+    def give_to_user(self, path):
+        if self.user is None:
+            return
+        for entry in [path, *pathlib.Path(path).rglob("*")]:
+            os.chown(entry, self.user, self.user)
+
+    # Processes
+
+    def spawn(self, *command, **options):
+        if self.user is not None:
+            options.setdefault("user", self.user)
+            options.setdefault("group", self.user)
+            options.setdefault("extra_groups", [])
+        process = subprocess.Popen(command, env=self.environment, cwd=self.root, **options)
+        self.processes.append(process)
+        return process
+
+    def start_program(self, wait=True):
+        with open(self.root / "program.log", "ab") as log:
+            program = self.spawn(PROGRAM, stdout=log, stderr=log)
+        if wait:
+            self.wait_until_started(program)
+        return program
+
+    def wait_until_started(self, program):
+        """The poll timer's arming follows the launch steps; the hoard is open by then too."""
+        wait_until(lambda: self.hoard.exists() or program.poll() is not None, 20, "a hoard")
+        self.assert_running(program)
+
+    def assert_running(self, program):
+        if program.poll() is not None:
+            raise AssertionError(f"the program ended with {program.returncode}: {self.log()}")
+
+    def log(self):
+        path = self.root / "program.log"
+        return path.read_text(errors="replace") if path.exists() else ""
+
+    def kill(self, process, how=signal.SIGKILL):
+        process.send_signal(how)
+        process.wait(20)
+
+    def close(self):
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                process.kill()
+                process.wait()
+            for pipe in (process.stdin, process.stdout, process.stderr):
+                if pipe:
+                    pipe.close()
+        shutil.rmtree(self.root, ignore_errors=True)
+
+    # Files
+
+    @property
+    def hoard(self):
+        return self.data / "Tessarine/hoard.db"
+
+    @property
+    def usernoted(self):
+        return self.home / USERNOTED
+
+    def query(self, statement, *parameters):
+        """Rows of the hoard, read by another process's connection; empty while there is none."""
+        if not self.hoard.exists():
+            return []
+        connection = sqlite3.connect(f"file:{self.hoard}?mode=ro", uri=True, timeout=10)
+        try:
+            return connection.execute(statement, parameters).fetchall()
+        except sqlite3.OperationalError as error:
+            if "no such table" in str(error):
+                return []
+            raise
+        finally:
+            connection.close()
+
+    def count(self):
+        rows = self.query("SELECT COUNT(*) FROM notifications")
+        return rows[0][0] if rows else 0
+
+    def titles(self):
+        return [row[0] for row in self.query("SELECT title FROM notifications ORDER BY id")]
+
+    def write_defaults(self, text):
+        self.config.mkdir(parents=True, exist_ok=True)
+        (self.config / DEFAULTS).write_text(f"[General]\n{text}\n")
+        self.give_to_user(self.home)
+
+    def defaults(self):
+        path = self.config / DEFAULTS
+        lines = path.read_text().splitlines() if path.exists() else []
+        return dict(line.split("=", 1) for line in lines if "=" in line)
+
+    # Windows
+
+    def windows(self, *criteria):
+        found = subprocess.run(["xdotool", "search", *criteria], env=self.environment,
+                               capture_output=True, text=True)
+        return found.stdout.split()
+
+    def visible_main_window(self):
+        return self.windows("--onlyvisible", "--name", "^Tessarine$")
+
+
+class Daemon:
+    """The system's notification daemon: a process that holds its database open and writes to it."""
+
+    def __init__(self, session, *options):
+        self.process = session.spawn(
+            WRITER, str(session.usernoted), "--create", "--commands", *options,
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.answer("records")
+
+    def answer(self, beginning):
+        while True:
+            line = self.process.stdout.readline()
+            if not line or line.startswith(("error", beginning)):
+                break
+        if not line.startswith(beginning):
+            raise AssertionError(f"the daemon said {line!r}")
+        return line.strip()
+
+    def tell(self, command):
+        self.process.stdin.write(command + "\n")
+        self.process.stdin.flush()
+        return self.answer("ok")
+
+    def append(self, title, **options):
+        """Writes a row and gives the Unix time at which it was committed."""
+        words = [f'{key.replace("_", "-")}="{value}"' for key, value in options.items()]
+        answer = self.tell(" ".join(["append", f'title="{title}"', *words]))
+        return float(answer.split()[-1])
+
+
+class SessionTestCase(unittest.TestCase):
+    user = None
+
+    def setUp(self):
+        self.session = Session(self.user)
+        self.addCleanup(self.session.close)
+
+    @classmethod
+    def tearDownClass(cls):
+        Display.end()
+
+    def wait_for_count(self, count, seconds=20):
+        wait_until(lambda: self.session.count() >= count, seconds, f"{count} rows")
+        self.assertEqual(self.session.count(), count)

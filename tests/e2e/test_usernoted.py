@@ -1,0 +1,151 @@
+"""The main job: what the system's daemon records is in the hoard, at once and for good."""
+
+import random
+import sqlite3
+import time
+import unittest
+
+from session import Daemon, SessionTestCase, now, wait_until
+
+DAY = 86400
+
+
+class Recovery(SessionTestCase):
+    def test_ten_thousand_old_rows_come_at_the_first_start_and_never_again(self):
+        Daemon(self.session, "--records", "10000", "--quiet", "--date", "now-60",
+               "--span", str(28 * DAY), "--form", "mixed")
+        program = self.session.start_program()
+        self.wait_for_count(10000, 60)
+        self.session.kill(program)
+        for _ in range(2):
+            program = self.session.start_program()
+            time.sleep(2)
+            self.session.assert_running(program)
+            self.assertEqual(self.session.count(), 10000)
+            self.session.kill(program)
+
+    def test_rows_written_while_it_was_off_come_at_the_next_start(self):
+        daemon = Daemon(self.session)
+        daemon.append("before")
+        program = self.session.start_program()
+        self.wait_for_count(1)
+        self.session.kill(program)
+        daemon.append("meanwhile")
+        self.session.start_program()
+        self.wait_for_count(2)
+
+
+class Live(SessionTestCase):
+    def setUp(self):
+        super().setUp()
+        self.daemon = Daemon(self.session)
+        self.program = self.session.start_program()
+        self.daemon.append("first")
+        self.wait_for_count(1)
+
+    def test_a_row_shows_within_a_second(self):
+        for number in range(5):
+            written = self.daemon.append(f"live {number}")
+            wait_until(lambda: f"live {number}" in self.session.titles(), 1, "the row")
+            self.assertLess(time.time() - written, 1)
+
+    def test_two_rows_of_one_instant_both_arrive(self):
+        date = now()
+        self.daemon.append("one", date=date)
+        self.wait_for_count(2)
+        self.daemon.append("other", date=date)
+        self.wait_for_count(3)
+
+    def test_a_row_slightly_behind_the_cursor_arrives(self):
+        date = now() + 5
+        self.daemon.append("newer", date=date)
+        self.wait_for_count(2)
+        self.daemon.append("late", date=date - 1)
+        self.wait_for_count(3)
+
+    def test_when_the_log_is_replaced_the_timer_carries_on(self):
+        self.daemon.tell("close")
+        self.assertFalse((self.session.usernoted.parent / "db-wal").exists())
+        self.daemon.tell("open")
+        self.daemon.append("after")
+        self.wait_for_count(2, 35)
+
+    def test_unreadable_rows_stop_no_other(self):
+        for form in "broken zero-bytes null not-a-dictionary other-type request-empty".split():
+            self.daemon.append("bad", form=form)
+        self.daemon.append("good")
+        wait_until(lambda: "good" in self.session.titles(), 2, "the readable row")
+        self.assertEqual(self.session.count(), 2)
+
+    def test_a_row_id_beyond_32_bits_ends_the_program(self):
+        self.daemon.append("beyond", first_rec_id=2**31)
+        self.assertNotEqual(self.program.wait(20), 0)
+        self.assertIn("does not fit", self.session.log())
+
+
+class Defaults(SessionTestCase):
+    def test_an_excluded_application_leaves_no_row_and_moves_the_cursor(self):
+        self.session.write_defaults("excludedBundleIds=com.example.secret")
+        daemon = Daemon(self.session, "--app", "com.example.secret")
+        date = now()
+        daemon.append("secret", date=date)
+        self.session.start_program()
+        wait_until(lambda: self.session.defaults().get("lastSeenUsernotedTimestamp"), 10,
+                   "the cursor")
+        self.assertAlmostEqual(float(self.session.defaults()["lastSeenUsernotedTimestamp"]), date, 3)
+        daemon.append("open", app="com.example.open")
+        self.wait_for_count(1)
+        self.assertEqual(self.session.titles(), ["open"])
+
+    def test_a_changed_file_holds_at_the_next_start(self):
+        daemon = Daemon(self.session, "--app", "com.example.mail")
+        program = self.session.start_program()
+        daemon.append("one")
+        self.wait_for_count(1)
+        self.session.kill(program)
+        text = "\n".join(f"{key}={value}" for key, value in self.session.defaults().items())
+        self.session.write_defaults(text + "\nexcludedBundleIds=com.example.mail")
+        self.session.start_program()
+        daemon.append("two")
+        time.sleep(2)
+        self.assertEqual(self.session.titles(), ["one"])
+
+
+class SuddenDeath(SessionTestCase):
+    KILLS = 50
+
+    def test_the_hoard_survives_fifty_kills_while_rows_pour_in(self):
+        moments = random.Random(20)
+        rate = 200
+        seconds = 0
+        writer = Daemon(self.session)
+        pouring = self.session.spawn(
+            writer.process.args[0], str(self.session.usernoted), "--records", "1000000",
+            "--rate", str(rate), "--date", "now", "--app", "com.example.pouring", "--quiet")
+        for _ in range(self.KILLS):
+            program = self.session.start_program(wait=False)
+            pause = moments.uniform(0.1, 1.2)
+            seconds += pause
+            time.sleep(pause)
+            self.session.kill(program)
+        self.session.kill(pouring)
+        program = self.session.start_program()
+        time.sleep(3)
+        self.session.assert_running(program)
+        stored = self.session.count()
+        writer.append("the last")
+        wait_until(lambda: "the last" in self.session.titles(), 20, "a row after all")
+        self.assertEqual(self.session.query("PRAGMA integrity_check"), [("ok",)])
+        self.assertEqual(self.session.query(
+            "SELECT COUNT(*) - COUNT(DISTINCT system_note_id) FROM notifications"), [(0,)])
+        source = sqlite3.connect(self.session.usernoted)
+        written = source.execute("SELECT COUNT(*) FROM record").fetchone()[0] - 1
+        source.close()
+        print(f"kills {self.KILLS}, rows written {written}, stored {stored}, "
+              f"lost between cursor and store {written - stored}")
+        self.assertGreater(written, 0)
+        self.assertGreater(stored, 0)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

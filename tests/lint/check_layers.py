@@ -1,0 +1,172 @@
+#!/usr/bin/env python3
+"""Checks that includes point one way, and that only a system's own folder knows the system.
+
+usage: check_layers.py ROOT
+"""
+
+import fnmatch
+import pathlib
+import re
+import sys
+
+import sources
+
+# From the bottom to the top: a file includes its own layer and those below.
+LAYERS = ["shared", "platform", "system", "store", "services", "capture", "theme", "views", "core"]
+
+# The first pattern that matches a file gives its layer. Diagnostics and preferences are services
+# that capture reports to and asks, although their folders hold views and the program's spine too.
+LAYER_OF_FILES = [
+    ("src/shared/*", "shared"),
+    ("src/platform/linux/*", "system"),
+    ("src/platform/macos/*", "system"),
+    ("src/platform/*", "platform"),
+    ("src/store/*", "store"),
+    ("src/diagnostics/DiagnosticEntry.*", "services"),
+    ("src/diagnostics/DiagnosticsStore.*", "services"),
+    ("src/core/PreferencesStore.*", "services"),
+    ("src/capture/*", "capture"),
+    ("src/theme/*", "theme"),
+    ("src/apps/*", "views"),
+    ("src/browser/*", "views"),
+    ("src/diagnostics/*", "views"),
+    ("src/export/*", "views"),
+    ("src/settings/*", "views"),
+    ("src/shell/*", "views"),
+    ("src/core/*", "core"),
+]
+
+SYSTEM_FOLDERS = ["src/platform/linux", "src/platform/macos"]
+SYSTEM_MACRO = re.compile(
+    r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(__linux__|__linux|__APPLE__|__MACH__|__unix__|"
+    r"__OBJC__|_WIN32|Q_OS_\w+|TARGET_OS_\w+)\b")
+SYSTEM_HEADER = re.compile(
+    r"^(dbus/|systemd/|linux/|X11/|xcb/|sys/inotify\.h|sys/eventfd\.h|sys/epoll\.h|QDBus|QtDBus|"
+    r"AppKit/|ApplicationServices/|Cocoa/|CoreFoundation/|CoreServices/|Foundation/|IOKit/|"
+    r"ServiceManagement/)")
+BUS_NAME = re.compile(r"org\.freedesktop\.\w+")
+SYSTEM_LIBRARY = re.compile(r"(Qt6::DBus|PkgConfig::DBUS|-framework)\b")
+
+
+def layer_of(file):
+    for pattern, layer in LAYER_OF_FILES:
+        if fnmatch.fnmatchcase(file.as_posix(), pattern):
+            return layer
+    return None
+
+
+def part_of(file):
+    """What must not depend on itself: a folder, or a layer's share of it."""
+    return f"{file.parent.as_posix()} ({layer_of(file)})"
+
+
+def system_folder_of(file):
+    for folder in SYSTEM_FOLDERS:
+        if pathlib.PurePosixPath(folder) in file.parents:
+            return folder
+    return None
+
+
+def include_violation(file, target):
+    """Why a file of src/ may not include another file, or None."""
+    layer, target_layer = layer_of(file), layer_of(target)
+    if target_layer is None:
+        return f"{target} lies outside src/" if target.parts[0] != "src" else None
+    if target_layer == "system" and system_folder_of(file) != system_folder_of(target):
+        return f"{target} belongs to one system; include its port"
+    if LAYERS.index(target_layer) > LAYERS.index(layer):
+        return f"{layer} includes {target}, which belongs to {target_layer} above it"
+    return None
+
+
+def check_includes(root, files):
+    violations = []
+    for file in files:
+        if layer_of(file) is None:
+            violations.append(f"{file}:1: belongs to no layer")
+            continue
+        for number, target in sources.project_includes(root, file):
+            why = include_violation(file, target)
+            if why:
+                violations.append(f"{file}:{number}: {why}")
+    return violations
+
+
+def cycles(edges):
+    """The cycles in a graph {node: nodes}, each once, as lists of nodes in their order."""
+    found, finished = [], set()
+
+    def visit(node, path):
+        if node in path:
+            found.append(path[path.index(node):] + [node])
+            return
+        if node in finished:
+            return
+        for following in sorted(edges.get(node, ())):
+            visit(following, path + [node])
+        finished.add(node)
+
+    for node in sorted(edges):
+        visit(node, [])
+    return found
+
+
+def check_cycles(root, files):
+    between_files, between_parts = {}, {}
+    for file in files:
+        for _, target in sources.project_includes(root, file):
+            between_files.setdefault(file.as_posix(), set()).add(target.as_posix())
+            if part_of(file) != part_of(target):
+                between_parts.setdefault(part_of(file), set()).add(part_of(target))
+    return [f"{cycle[0]}: a cycle: {' -> '.join(cycle)}"
+            for cycle in cycles(between_files) + cycles(between_parts)]
+
+
+def check_systems(root, files):
+    violations = []
+    for file in files:
+        if system_folder_of(file):
+            continue
+        if file.suffix == ".mm":
+            violations.append(f"{file}:1: Objective-C outside src/platform/macos")
+        for number, _, name in (entry for entry in sources.include_lines(root, file)
+                                if not entry[1]):
+            if SYSTEM_HEADER.match(name):
+                violations.append(f"{file}:{number}: <{name}> belongs to one system")
+        for number, line in enumerate(sources.lines_of(root / file), 1):
+            match = SYSTEM_MACRO.match(line) or BUS_NAME.search(line)
+            if match:
+                violations.append(f"{file}:{number}: {match[match.lastindex or 0]} is known to one "
+                                  "system only")
+    return violations
+
+
+def check_libraries(root):
+    violations = []
+    for path in sorted((root / "src").rglob("CMakeLists.txt")):
+        file = path.relative_to(root)
+        if system_folder_of(file):
+            continue
+        for number, line in enumerate(sources.lines_of(path), 1):
+            match = SYSTEM_LIBRARY.search(line.split("#")[0])
+            if match:
+                violations.append(f"{file}:{number}: {match[1]} belongs to one system")
+    return violations
+
+
+def check(root):
+    files = sources.cpp_files(root, ["src"])
+    return [*check_includes(root, files), *check_cycles(root, files),
+            *check_systems(root, files), *check_libraries(root)]
+
+
+def main():
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
+    violations = check(pathlib.Path(sys.argv[1]).resolve())
+    print("\n".join(violations))
+    sys.exit(1 if violations else 0)
+
+
+if __name__ == "__main__":
+    main()

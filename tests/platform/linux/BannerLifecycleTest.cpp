@@ -1,0 +1,201 @@
+// When the banner process launches and terminates, and what it answers at the start.
+
+#include "platform/linux/BannerProcessFixture.h"
+
+#include <thread>
+
+namespace tessarine {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using testing::ManualScheduler;
+using testing::otherPid;
+using testing::pid;
+using ::testing::SizeIs;
+
+using BannerLifecycleTest = testing::BannerProcessFixture;
+
+TEST_F(BannerLifecycleTest, LaunchesAndTerminatesWithTheNamesOwner) {
+    EXPECT_THAT(runningPids(), IsEmpty());
+    daemonTakesTheName();
+    EXPECT_THAT(runningPids(), ElementsAre(pid));
+    daemonGoes();
+    EXPECT_THAT(runningPids(), IsEmpty());
+    EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs));
+}
+
+TEST_F(BannerLifecycleTest, TerminatesBeforeItsSuccessorLaunches) {
+    daemonTakesTheName();
+    daemonTakesTheName(otherPid);
+    EXPECT_THAT(runningPids(), ElementsAre(otherPid));
+    EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs, u"launch 4712"_qs));
+}
+
+TEST_F(BannerLifecycleTest, TellsTwoDaemonsInOneProcessApart) {
+    daemonTakesTheName();
+    daemonTakesTheName();
+    EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs, u"launch 4711"_qs));
+}
+
+TEST_F(BannerLifecycleTest, ChangesOnlyWhenTheMainThreadIsTold) {
+    daemonTakesTheName();
+    process->setService({true, BannerOwner{otherPid, ++lastTurn}});
+    EXPECT_THAT(runningPids(), ElementsAre(pid)) << "no event was given yet";
+    scheduler.settle();
+    EXPECT_THAT(runningPids(), ElementsAre(otherPid));
+}
+
+TEST_F(BannerLifecycleTest, StaysUntilItsBannersAreRead) {
+    daemonTakesTheName();
+    const auto observer = attach();
+    announceWithoutTurningTheLoop(u"last words"_qs);
+    daemonGoes();
+    scheduler.advance(5);
+    EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs));
+    EXPECT_THAT(runningPids(), ElementsAre(pid));
+    EXPECT_THAT(eventTimes, SizeIs(5)) << "it goes on reminding";
+    EXPECT_THAT(scannedSummaries(), ElementsAre(u"last words"_qs));
+    scheduler.settle();
+    EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs));
+    EXPECT_THAT(runningPids(), IsEmpty());
+}
+
+TEST_F(BannerLifecycleTest, LeavesItsUnreadBannersToItsSuccessor) {
+    daemonTakesTheName();
+    announce(u"last words"_qs);
+    daemonGoes();
+    daemonTakesTheName(otherPid);
+    EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs, u"launch 4712"_qs));
+    EXPECT_THAT(scannedSummaries(pid), IsEmpty());
+    EXPECT_THAT(scannedSummaries(otherPid), ElementsAre(u"last words"_qs));
+    scheduler.settle();
+    EXPECT_THAT(told, SizeIs(3));
+}
+
+TEST_F(BannerLifecycleTest, GoesWithTheBus) {
+    daemonTakesTheName();
+    EXPECT_TRUE(accessibility.isProcessTrusted());
+    busGoes();
+    EXPECT_FALSE(accessibility.isProcessTrusted());
+    EXPECT_THAT(runningPids(), IsEmpty());
+    EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs));
+}
+
+TEST_F(BannerLifecycleTest, ShowsItsBannersWhenTheBusIsGone) {
+    daemonTakesTheName();
+    const auto observer = attach();
+    announce(u"last words"_qs);
+    busGoes();
+    EXPECT_FALSE(accessibility.isProcessTrusted());
+    EXPECT_THAT(scannedSummaries(), ElementsAre(u"last words"_qs));
+    scheduler.settle();
+    EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs));
+}
+
+TEST_F(BannerLifecycleTest, LaunchesWhenTheBusIsBack) {
+    daemonTakesTheName();
+    busGoes();
+    daemonTakesTheName();
+    EXPECT_TRUE(accessibility.isProcessTrusted());
+    EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs, u"launch 4711"_qs));
+}
+
+TEST_F(BannerLifecycleTest, IsTrustedWithoutADaemon) {
+    daemonGoes();
+    EXPECT_TRUE(accessibility.isProcessTrusted());
+    EXPECT_THAT(runningPids(), IsEmpty());
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(BannerLifecycleTest, TellsNobodyWhoseObservationEnded) {
+    launches.reset();
+    daemonTakesTheName();
+    daemonGoes();
+    EXPECT_THAT(told, ElementsAre(u"termination 4711"_qs));
+}
+
+TEST_F(BannerLifecycleTest, LetsAnObservationEndInItsOwnEvent) {
+    std::unique_ptr<WorkspaceObservation> once;
+    int launches = 0;
+    once = workspace.observe(WorkspaceEvent::didLaunchApplication, [&](const auto&) {
+        ++launches;
+        once.reset();
+    });
+    daemonTakesTheName();
+    daemonTakesTheName(otherPid);
+    EXPECT_EQ(launches, 1);
+}
+
+TEST_F(BannerLifecycleTest, ForgetsTheIdsOfADaemonThatIsGone) {
+    daemonTakesTheName();
+    announceWithoutTurningTheLoop(u"same"_qs, 1);
+    daemonTakesTheName(otherPid);
+    announceWithoutTurningTheLoop(u"same"_qs, 1);
+    EXPECT_THAT(scannedSummaries(otherPid), ElementsAre(u"same"_qs, u"same"_qs));
+}
+
+TEST_F(BannerLifecycleTest, DoesNothingOnceItIsDestroyed) {
+    auto gone = std::make_shared<BannerProcess>(scheduler);
+    gone->setService({true, BannerOwner{pid, 1}});
+    const AXElementRef application = gone->applicationElement(pid);
+    gone->announce({":1.1", 1}, {{}, u"one"_qs, {}}, 0);
+    gone->setService({true, std::nullopt});
+    gone.reset();
+    scheduler.advance(5);
+    EXPECT_EQ(accessibility.copyAttributeValue(application, ax::windows), std::nullopt);
+}
+
+// The first answer.
+
+TEST(BannerProcessAtTheStart, AnswersWithWhatTheBusSaidFirst) {
+    ManualScheduler scheduler;
+    const auto process = std::make_shared<BannerProcess>(scheduler);
+    std::vector<qint32> launched;
+    const auto token = process->onLaunch([&](qint32 pid) { launched.push_back(pid); });
+    process->setService({true, BannerOwner{pid, 1}});
+    EXPECT_TRUE(process->isTrusted());
+    EXPECT_EQ(process->pid(), pid);
+    scheduler.settle();
+    EXPECT_THAT(launched, IsEmpty()) << "it was running when it was first asked for";
+}
+
+TEST(BannerProcessAtTheStart, WaitsForTheFirstAnswer) {
+    ManualScheduler scheduler;
+    const auto process = std::make_shared<BannerProcess>(scheduler);
+    std::thread bus([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        process->setService({true, BannerOwner{pid, 1}});
+    });
+    EXPECT_TRUE(process->isTrusted());
+    EXPECT_EQ(process->pid(), pid);
+    bus.join();
+}
+
+TEST(BannerProcessAtTheStart, WaitsOneSecondInAll) {
+    ManualScheduler scheduler;
+    const auto process = std::make_shared<BannerProcess>(scheduler);
+    const auto before = std::chrono::steady_clock::now();
+    EXPECT_FALSE(process->isTrusted());
+    EXPECT_FALSE(process->isTrusted());
+    EXPECT_EQ(process->pid(), std::nullopt);
+    const auto waited = std::chrono::steady_clock::now() - before;
+    EXPECT_GT(waited, std::chrono::milliseconds(900));
+    EXPECT_LT(waited, std::chrono::milliseconds(1900));
+}
+
+TEST(BannerProcessAtTheStart, LaunchesWhenTheAnswerCameTooLate) {
+    ManualScheduler scheduler;
+    const auto process = std::make_shared<BannerProcess>(scheduler);
+    std::vector<qint32> launched;
+    const auto token = process->onLaunch([&](qint32 pid) { launched.push_back(pid); });
+    EXPECT_FALSE(process->isTrusted());
+    process->setService({true, BannerOwner{pid, 1}});
+    scheduler.settle();
+    EXPECT_THAT(launched, ElementsAre(pid));
+    EXPECT_TRUE(process->isTrusted());
+}
+
+} // namespace
+} // namespace tessarine

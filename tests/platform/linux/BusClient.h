@@ -1,0 +1,61 @@
+#pragma once
+
+#include <dbus/dbus.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace tessarine::testing {
+
+struct MessageUnref {
+    void operator()(DBusMessage* message) const { dbus_message_unref(message); }
+};
+using BusMessage = std::unique_ptr<DBusMessage, MessageUnref>;
+
+// What an application sends to have a notification shown.
+struct Notification {
+    std::string application = "Mail";
+    std::string summary = {};
+    std::string body = {};
+    std::uint32_t replacesId = 0;
+    std::function<void(DBusMessageIter& hints)> hints = {};
+    std::string destination = "org.freedesktop.Notifications";
+    bool namesTheInterface = true;
+};
+
+// One more hint, to be called from Notification::hints.
+void appendTextHint(DBusMessageIter& hints, const std::string& key, const std::string& value);
+void appendImageHint(DBusMessageIter& hints, int bytes);
+
+BusMessage notifyCall(const Notification& notification);
+std::uint32_t replacesIdOf(DBusMessage* notifyCall);
+
+// An application's own connection to a bus. Throws when there is none.
+class BusClient {
+public:
+    explicit BusClient(const std::string& address);
+    ~BusClient();
+    BusClient(const BusClient&) = delete;
+    BusClient& operator=(const BusClient&) = delete;
+
+    // Waits for the daemon's answer. The id, or nothing when it was an error.
+    std::optional<std::uint32_t> notify(const Notification& notification);
+
+    // Doesn't wait. flush() returns when all of these have left.
+    void post(const Notification& notification);
+    void flush();
+
+    void emitSleep(bool isGoingToSleep); // PrepareForSleep, as logind sends it
+
+    std::string uniqueName() const;
+    bool isConnected() const { return dbus_connection_get_is_connected(connection_); }
+    DBusConnection* raw() const { return connection_; }
+
+private:
+    DBusConnection* connection_;
+};
+
+} // namespace tessarine::testing

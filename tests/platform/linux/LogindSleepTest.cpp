@@ -1,0 +1,113 @@
+#include "platform/linux/LogindSleep.h"
+
+#include "platform/linux/BusMonitorFixture.h"
+
+namespace tessarine {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using testing::BusClient;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using testing::PrivateBus;
+
+// Plays logind on a bus of the test's own.
+struct LogindSleepTest : ::testing::Test {
+    PrivateBus bus;
+    QtScheduler scheduler;
+    std::vector<QString> told;
+    std::vector<std::unique_ptr<WorkspaceObservation>> observations;
+
+    LogindSleepTest() { bus.start(); }
+
+    std::unique_ptr<LinuxWorkspace> watch() {
+        auto workspace = std::make_unique<LinuxWorkspace>(
+            scheduler, std::make_shared<BannerProcess>(scheduler), bus.address());
+        const auto note = [this](const QString& event) {
+            return [this, event](const std::optional<RunningApplication>& application) {
+                EXPECT_EQ(application, std::nullopt);
+                told.push_back(event);
+            };
+        };
+        observations.push_back(workspace->observe(WorkspaceEvent::willSleep, note(u"sleep"_qs)));
+        observations.push_back(workspace->observe(WorkspaceEvent::didWake, note(u"wake"_qs)));
+        return workspace;
+    }
+
+    std::unique_ptr<BusClient> logind() {
+        auto client = std::make_unique<BusClient>(bus.address());
+        dbus_bus_request_name(client->raw(), "org.freedesktop.login1", 0, nullptr);
+        return client;
+    }
+
+    // The watch has no moment from which it is sure to listen: the signal is repeated until it is.
+    bool hears(BusClient& logind, bool isGoingToSleep) {
+        return testing::turnsUntil([&] {
+            if (told.empty())
+                logind.emitSleep(isGoingToSleep);
+            return !told.empty();
+        });
+    }
+};
+
+TEST_F(LogindSleepTest, TellsOfSleepAndWake) {
+    const auto workspace = watch();
+    const auto client = logind();
+    ASSERT_TRUE(hears(*client, true));
+    EXPECT_EQ(told.front(), u"sleep"_qs);
+    testing::turnFor(100);
+    told.clear();
+    ASSERT_TRUE(hears(*client, false));
+    EXPECT_EQ(told.front(), u"wake"_qs);
+}
+
+TEST_F(LogindSleepTest, BelievesNobodyElse) {
+    const auto workspace = watch();
+    const auto client = logind();
+    ASSERT_TRUE(hears(*client, true));
+    testing::turnFor(100);
+    told.clear();
+    BusClient other(bus.address());
+    other.emitSleep(true);
+    client->emitSleep(false);
+    ASSERT_TRUE(testing::turnsUntil([&] { return !told.empty(); }));
+    EXPECT_THAT(told, ElementsAre(u"wake"_qs));
+}
+
+TEST_F(LogindSleepTest, TellsNothingOnceTheObservationsEnd) {
+    const auto workspace = watch();
+    const auto client = logind();
+    ASSERT_TRUE(hears(*client, true));
+    observations.clear();
+    testing::turnFor(100);
+    told.clear();
+    client->emitSleep(false);
+    testing::turnFor(200);
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(LogindSleepTest, TellsNothingWithoutASystemBus) {
+    bus.crash();
+    const auto workspace = watch();
+    testing::turnFor(100);
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(LogindSleepTest, EndsAtOnceAndOften) {
+    const int before = testing::openDescriptors();
+    for (int i = 0; i < 50; ++i) {
+        watch().reset();
+        observations.clear();
+    }
+    EXPECT_EQ(testing::openDescriptors(), before);
+}
+
+TEST(SystemBusAddress, IsTheOneOfTheEnvironmentOrTheUsualOne) {
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere");
+    EXPECT_EQ(systemBusAddress(), "unix:path=/nowhere");
+    qunsetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    EXPECT_EQ(systemBusAddress(), "unix:path=/var/run/dbus/system_bus_socket");
+}
+
+} // namespace
+} // namespace tessarine

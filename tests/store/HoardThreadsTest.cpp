@@ -1,0 +1,125 @@
+#include "platform/Platform.h"
+#include "store/HoardFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <mutex>
+#include <set>
+#include <thread>
+#include <vector>
+
+namespace tessarine {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int threadCount = 8;
+
+// Runs the work on all threads at once, each with its number.
+template <typename Work>
+void onAllThreads(const Work& work) {
+    std::atomic<int> ready = 0;
+    std::vector<std::thread> threads;
+    for (int number = 0; number < threadCount; ++number) {
+        threads.emplace_back([&, number] {
+            ++ready;
+            while (ready < threadCount)
+                std::this_thread::yield();
+            work(number);
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+}
+
+class HoardThreads : public testing::HoardFixture {
+protected:
+    HoardThreads() { start(); }
+};
+
+TEST_F(HoardThreads, StoreEveryRowOnce) {
+    constexpr int each = 40;
+    std::atomic<int> stored = 0;
+    onAllThreads([&](int number) {
+        for (int i = 0; i < each; ++i)
+            stored += store->insert(capture(number * each + i, 700000000.0 + i)) ? 1 : 0;
+    });
+    EXPECT_EQ(stored, threadCount * each);
+    EXPECT_EQ(file().number(u"SELECT COUNT(*) FROM notifications"_qs), threadCount * each);
+    EXPECT_EQ(file().number(u"SELECT COUNT(DISTINCT system_note_id) FROM notifications"_qs),
+              threadCount * each);
+}
+
+TEST_F(HoardThreads, StoreAKeyOnceHoweverManyBringIt) {
+    constexpr int keys = 20;
+    std::atomic<int> stored = 0;
+    onAllThreads([&](int) {
+        for (int key = 1; key <= keys; ++key)
+            stored += store->insert(capture(key)) ? 1 : 0;
+    });
+    EXPECT_EQ(stored, keys);
+    EXPECT_EQ(file().number(u"SELECT COUNT(*) FROM notifications"_qs), keys);
+}
+
+TEST_F(HoardThreads, LetNothingBetweenProbeAndInsertion) {
+    constexpr int banners = 20;
+    std::atomic<int> stored = 0;
+    onAllThreads([&](int) {
+        for (int i = 0; i < banners; ++i) {
+            CapturedNotification banner = capture(0);
+            banner.title = QString::number(i);
+            stored += store->insertDeduplicated(banner) ? 1 : 0;
+        }
+    });
+    EXPECT_EQ(stored, banners);
+    EXPECT_EQ(file().number(u"SELECT COUNT(*) FROM notifications"_qs), banners);
+}
+
+TEST_F(HoardThreads, ReadWholeRowsWhileOthersWrite) {
+    constexpr int each = 20;
+    std::atomic<int> torn = 0;
+    onAllThreads([&](int number) {
+        for (int i = 0; i < each; ++i) {
+            if (number % 2 == 0) {
+                CapturedNotification notification = capture(number * each + i + 1);
+                notification.title = notification.body = QString::number(notification.noteId);
+                store->insert(notification);
+                continue;
+            }
+            for (const CapturedNotification& row : store->fetchRecent(500)) {
+                if (row.title != row.body || row.title != QString::number(row.noteId))
+                    ++torn;
+            }
+            store->stats();
+            store->totalCount();
+        }
+    });
+    EXPECT_EQ(torn, 0);
+    EXPECT_EQ(store->totalCount(), threadCount / 2 * each);
+}
+
+// The store of the program, made by its first user, whichever thread that is.
+TEST(SharedHoard, IsOneForAllThreadsUnderTheUsersDataFolder) {
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(u"data"_qs)));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(u"config"_qs)));
+    Platform::install(makePlatform());
+    std::mutex mutex;
+    std::set<HoardStore*> stores;
+    onAllThreads([&](int) {
+        HoardStore* const store = &HoardStore::shared();
+        const std::lock_guard lock(mutex);
+        stores.insert(store);
+    });
+    ASSERT_EQ(stores.size(), 1U);
+    EXPECT_EQ(HoardStore::shared().path(), home.filePath(u"data/Tessarine/hoard.db"_qs));
+    CapturedNotification notification;
+    notification.noteId = 5;
+    EXPECT_TRUE(HoardStore::shared().insert(notification));
+    const testing::DatabaseFile file(home.filePath(u"data/Tessarine/hoard.db"_qs));
+    EXPECT_EQ(file.number(u"SELECT system_note_id FROM notifications"_qs), 5);
+}
+
+} // namespace
+} // namespace tessarine

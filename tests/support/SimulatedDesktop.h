@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/StatusItem.h"
+#include "platform/SystemAppearance.h"
+
+namespace tessarine::testing {
+
+// Keeps what it is told, for the test to look at.
+class SimulatedStatusItem : public StatusItem {
+public:
+    void setImage(const QString& symbolName, const QString& accessibilityDescription) override {
+        symbol = symbolName;
+        description = accessibilityDescription;
+    }
+    void setTitle(const QString& text) override { title = text; }
+    void setMenuBuilder(MenuBuilder builder) override { menuBuilder = std::move(builder); }
+    void show() override { shown = true; }
+
+    QString symbol;
+    QString description;
+    QString title = QStringLiteral("never set");
+    MenuBuilder menuBuilder;
+    bool shown = false;
+};
+
+// A desktop that is as light or dark as the test says.
+class SimulatedAppearance : public SystemAppearance {
+public:
+    bool prefersDark() const override {
+        return appearance == Appearance::system ? desktopIsDark : appearance == Appearance::dark;
+    }
+    void setAppearance(Appearance value) override {
+        appearance = value;
+        Q_EMIT changed();
+    }
+    void setDesktopIsDark(bool dark) {
+        desktopIsDark = dark;
+        Q_EMIT changed();
+    }
+
+    Appearance appearance = Appearance::system;
+    bool desktopIsDark = false;
+};
+
+} // namespace tessarine::testing

@@ -1,0 +1,162 @@
+#include "support/SimulatedPlatform.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace tessarine::testing {
+
+namespace {
+
+template <typename Value>
+std::optional<Value> typed(const std::map<QString, QVariant>& values, const QString& key) {
+    const auto found = values.find(key);
+    if (found == values.end() || found->second.metaType() != QMetaType::fromType<Value>())
+        return std::nullopt;
+    return found->second.value<Value>();
+}
+
+template <typename Port>
+Port& install(std::unique_ptr<Port> made, auto& place) {
+    Port& port = *made;
+    place = std::move(made);
+    return port;
+}
+
+} // namespace
+
+bool SimulatedDefaults::boolean(const QString& key) const {
+    return typed<bool>(values, key).value_or(false);
+}
+
+qint64 SimulatedDefaults::integer(const QString& key) const {
+    return typed<qint64>(values, key).value_or(0);
+}
+
+double SimulatedDefaults::real(const QString& key) const {
+    return typed<double>(values, key).value_or(0);
+}
+
+std::optional<QString> SimulatedDefaults::text(const QString& key) const {
+    return typed<QString>(values, key);
+}
+
+QStringList SimulatedDefaults::textList(const QString& key) const {
+    return typed<QStringList>(values, key).value_or(QStringList());
+}
+
+std::vector<qint64> SimulatedDefaults::integerList(const QString& key) const {
+    std::vector<qint64> numbers;
+    for (const QVariant& number : typed<QVariantList>(values, key).value_or(QVariantList())) {
+        if (number.typeId() != QMetaType::LongLong)
+            return {};
+        numbers.push_back(number.toLongLong());
+    }
+    return numbers;
+}
+
+void SimulatedDefaults::setIntegerList(const QString& key, const std::vector<qint64>& value) {
+    QVariantList list;
+    for (const qint64 number : value)
+        list.append(number);
+    values[key] = list;
+}
+
+QStringList SimulatedFileSystem::applicationSupportDirectories() const {
+    return {home_ + QStringLiteral("/Library/Application Support")};
+}
+
+QString SimulatedFileSystem::expandingTilde(const QString& path) const {
+    return path.startsWith(u'~') ? home_ + path.sliced(1) : path;
+}
+
+bool SimulatedFileSystem::grantsReading(const QString& path) const {
+    return QFileInfo(path).isReadable();
+}
+
+bool SimulatedFileSystem::makePrivate(const QString& path) const {
+    return QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+}
+
+class SimulatedFileWatcher::Watch : public FileWatch {
+public:
+    Watch(SimulatedFileWatcher& watcher, const std::shared_ptr<Task>& handler)
+        : watcher_(watcher)
+        , handler_(handler) {}
+    ~Watch() override {
+        std::erase_if(watcher_.handlers_,
+                      [this](const auto& entry) { return entry.second == handler_; });
+    }
+
+private:
+    SimulatedFileWatcher& watcher_;
+    std::shared_ptr<Task> handler_;
+};
+
+std::unique_ptr<FileWatch> SimulatedFileWatcher::watchWrites(const QString& path, Task handler) {
+    if (!QFileInfo::exists(path))
+        return nullptr;
+    const auto shared = std::make_shared<Task>(std::move(handler));
+    handlers_.emplace(path, shared);
+    return std::make_unique<Watch>(*this, shared);
+}
+
+void SimulatedFileWatcher::write(const QString& path) {
+    const auto [first, last] = handlers_.equal_range(path);
+    for (auto entry = first; entry != last; ++entry) {
+        scheduler_.onMain([weak = std::weak_ptr<Task>(entry->second)] {
+            if (const std::shared_ptr<Task> handler = weak.lock())
+                (*handler)();
+        });
+    }
+}
+
+std::vector<RunningApplication>
+SimulatedWorkspace::runningApplications(const QString& bundleIdentifier) const {
+    std::vector<RunningApplication> found;
+    for (const RunningApplication& application : running) {
+        if (application.bundleIdentifier == bundleIdentifier)
+            found.push_back(application);
+    }
+    return found;
+}
+
+class SimulatedWorkspace::Observation : public WorkspaceObservation {
+public:
+    Observation(SimulatedWorkspace& workspace, const std::shared_ptr<Handler>& handler)
+        : workspace_(workspace)
+        , handler_(handler) {}
+    ~Observation() override {
+        std::erase_if(workspace_.handlers_,
+                      [this](const auto& entry) { return entry.second == handler_; });
+    }
+
+private:
+    SimulatedWorkspace& workspace_;
+    std::shared_ptr<Handler> handler_;
+};
+
+std::unique_ptr<WorkspaceObservation> SimulatedWorkspace::observe(WorkspaceEvent event,
+                                                                  Handler handler) {
+    const auto shared = std::make_shared<Handler>(std::move(handler));
+    handlers_.emplace(event, shared);
+    return std::make_unique<Observation>(*this, shared);
+}
+
+void SimulatedWorkspace::post(WorkspaceEvent event,
+                              const std::optional<RunningApplication>& application) {
+    const auto [first, last] = handlers_.equal_range(event);
+    for (auto entry = first; entry != last; ++entry)
+        (*entry->second)(application);
+}
+
+SimulatedPlatform::SimulatedPlatform(const QString& home)
+    : defaults(install(std::make_unique<SimulatedDefaults>(), platform.userDefaults))
+    , fileSystem(install(std::make_unique<SimulatedFileSystem>(home), platform.fileSystem))
+    , scheduler(install(std::make_unique<ManualScheduler>(), platform.scheduler))
+    , fileWatcher(install(std::make_unique<SimulatedFileWatcher>(scheduler), platform.fileWatcher))
+    , workspace(install(std::make_unique<SimulatedWorkspace>(), platform.workspace))
+    , accessibility(
+          install(std::make_unique<SimulatedAccessibility>(scheduler), platform.accessibility)) {}
+
+} // namespace tessarine::testing

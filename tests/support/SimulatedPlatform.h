@@ -1,0 +1,105 @@
+#pragma once
+
+#include "platform/Platform.h"
+#include "support/ManualScheduler.h"
+#include "support/SimulatedAccessibility.h"
+
+#include <QString>
+#include <QVariant>
+
+#include <map>
+#include <vector>
+
+namespace tessarine::testing {
+
+// User defaults in memory, with the same strictness as the real ones: each key has one type.
+class SimulatedDefaults : public UserDefaults {
+public:
+    bool contains(const QString& key) const override { return values.contains(key); }
+    bool boolean(const QString& key) const override;
+    qint64 integer(const QString& key) const override;
+    double real(const QString& key) const override;
+    std::optional<QString> text(const QString& key) const override;
+    QStringList textList(const QString& key) const override;
+    std::vector<qint64> integerList(const QString& key) const override;
+
+    void setBoolean(const QString& key, bool value) override { values[key] = value; }
+    void setInteger(const QString& key, qint64 value) override { values[key] = value; }
+    void setReal(const QString& key, double value) override { values[key] = value; }
+    void setText(const QString& key, const QString& value) override { values[key] = value; }
+    void setTextList(const QString& key, const QStringList& value) override { values[key] = value; }
+    void setIntegerList(const QString& key, const std::vector<qint64>& value) override;
+
+    std::map<QString, QVariant> values;
+};
+
+// A file system whose home is a folder of the test's own.
+class SimulatedFileSystem : public FileSystem {
+public:
+    explicit SimulatedFileSystem(QString home)
+        : home_(std::move(home)) {}
+
+    QStringList applicationSupportDirectories() const override;
+    QString expandingTilde(const QString& path) const override;
+    bool grantsReading(const QString& path) const override;
+    bool makePrivate(const QString& path) const override;
+
+    const QString& home() const { return home_; }
+
+private:
+    QString home_;
+};
+
+// Watches that fire when the test says so.
+class SimulatedFileWatcher : public FileWatcher {
+public:
+    explicit SimulatedFileWatcher(Scheduler& scheduler)
+        : scheduler_(scheduler) {}
+
+    std::unique_ptr<FileWatch> watchWrites(const QString& path, Task handler) override;
+
+    // A write to the file at the path. Nothing happens where nobody watches.
+    void write(const QString& path);
+
+    std::size_t watches(const QString& path) const { return handlers_.count(path); }
+
+private:
+    class Watch;
+
+    Scheduler& scheduler_;
+    std::multimap<QString, std::shared_ptr<Task>> handlers_;
+};
+
+class SimulatedWorkspace : public Workspace {
+public:
+    std::vector<RunningApplication>
+    runningApplications(const QString& bundleIdentifier) const override;
+    std::unique_ptr<WorkspaceObservation> observe(WorkspaceEvent event, Handler handler) override;
+
+    // Tells the observers of an event.
+    void post(WorkspaceEvent event, const std::optional<RunningApplication>& application = {});
+
+    std::size_t observers() const { return handlers_.size(); }
+
+    std::vector<RunningApplication> running;
+
+private:
+    class Observation;
+
+    std::multimap<WorkspaceEvent, std::shared_ptr<Handler>> handlers_;
+};
+
+// The whole simulated platform, with its parts at hand for the test.
+struct SimulatedPlatform {
+    explicit SimulatedPlatform(const QString& home);
+
+    Platform platform;
+    SimulatedDefaults& defaults;
+    SimulatedFileSystem& fileSystem;
+    ManualScheduler& scheduler;
+    SimulatedFileWatcher& fileWatcher;
+    SimulatedWorkspace& workspace;
+    SimulatedAccessibility& accessibility;
+};
+
+} // namespace tessarine::testing

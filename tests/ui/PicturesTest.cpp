@@ -1,0 +1,190 @@
+#include "ui/UiFixture.h"
+
+#include <QDir>
+#include <QTest>
+
+#include <tuple>
+
+namespace tessarine::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+enum class Scene { Loading, Empty, Five, FiveHundred, LongWords, RightToLeft, Emoji, LongTexts };
+
+constexpr const char* nameOf(Scene scene) {
+    switch (scene) {
+    case Scene::Loading:
+        return "loading";
+    case Scene::Empty:
+        return "empty";
+    case Scene::Five:
+        return "five";
+    case Scene::FiveHundred:
+        return "fiveHundred";
+    case Scene::LongWords:
+        return "longWords";
+    case Scene::RightToLeft:
+        return "rightToLeft";
+    case Scene::Emoji:
+        return "emoji";
+    case Scene::LongTexts:
+        return "longTexts";
+    }
+    return "";
+}
+
+CapturedNotification notification(const QString& app, const QString& title, const QString& body) {
+    static qint64 dbId = 0;
+    CapturedNotification result;
+    result.dbId = ++dbId;
+    result.appName = app;
+    result.title = title;
+    result.body = body;
+    result.timestamp = ManualScheduler::startOfTime - 1111.0 * double(dbId);
+    return result;
+}
+
+NotificationList five() {
+    return {
+        notification(u"Mail"_qs, u"Anna Lindqvist"_qs,
+                     u"The minutes of Tuesday's meeting are attached. Could you look at the second "
+                     u"point before Friday?"_qs),
+        notification(u"Calendar"_qs, u"Dentist"_qs, u"Tomorrow at 9:30, Harbour Street 12"_qs),
+        notification(u"Messages"_qs, u"Tom"_qs, u"On my way"_qs),
+        notification(u"Software Update"_qs, u"Updates are ready to install"_qs, {}),
+        notification(u"Terminal"_qs, {}, u"The build has finished without errors."_qs),
+    };
+}
+
+NotificationList fiveHundred() {
+    NotificationList list;
+    for (int i = 0; i < 100; ++i) {
+        const NotificationList more = five();
+        list.insert(list.end(), more.begin(), more.end());
+    }
+    return list;
+}
+
+NotificationList longWords() {
+    const QString word = u"Donaudampfschifffahrtselektrizitätenhauptbetriebswerkbauunterbeamten"_qs;
+    return {
+        notification(word.repeated(3), word.repeated(8), word.repeated(12)),
+        notification(u"Downloads"_qs,
+                     u"https://example.com/"_qs + u"a/very/long/path/"_qs.repeated(30),
+                     u"x"_qs.repeated(5000)),
+        notification(u"An Application Whose Makers Could Not Stop Writing Its Name"_qs.repeated(4),
+                     u"Short"_qs, u"Short"_qs),
+    };
+}
+
+NotificationList rightToLeft() {
+    return {
+        notification(u"البريد"_qs, u"اجتماع الفريق يوم الثلاثاء"_qs,
+                     u"يرجى مراجعة محضر الاجتماع المرفق قبل يوم الجمعة وإبلاغنا بأي تعديلات ترونها "
+                     u"ضرورية على النقطة الثانية من جدول الأعمال، شكرا جزيلا لتعاونكم معنا."_qs),
+        notification(u"הודעות"_qs, u"תזכורת: פגישה עם רופא השיניים"_qs,
+                     u"מחר בשעה 9:30 ברחוב הנמל 12"_qs),
+        notification(u"Mail"_qs, u"Mixed: שלום and مرحبا in one line"_qs,
+                     u"Version 6.4 של התוכנה is ready"_qs),
+    };
+}
+
+NotificationList emoji() {
+    return {
+        notification(u"Messages"_qs, u"🎉 Happy birthday! 🎂🎈"_qs,
+                     u"👨‍👩‍👧‍👦 from all of us 🇮🇹🇯🇵 👍🏽"_qs),
+        notification(u"🦊 Fox"_qs, u"只有一个标题的通知"_qs, u"日本語の本文と한국어 텍스트"_qs),
+        notification(u"Weather"_qs, u"☀️ 24° ⛅️ 19°"_qs,
+                     u"Line one\nLine two\nLine three\nLine four"_qs),
+    };
+}
+
+NotificationList longTexts() {
+    const QString sentence =
+        u"A sentence of middling length that goes on for a while and then comes to its end. "_qs;
+    return {
+        notification(u"News"_qs, sentence.repeated(6), sentence.repeated(12)),
+        notification(u"News"_qs, sentence.repeated(2), sentence.repeated(2)),
+        notification(u"Notes"_qs, {}, {}),
+        notification({}, u"From an application without a name"_qs, sentence),
+    };
+}
+
+NotificationList contentOf(Scene scene) {
+    switch (scene) {
+    case Scene::Loading:
+    case Scene::Empty:
+        return {};
+    case Scene::Five:
+        return five();
+    case Scene::FiveHundred:
+        return fiveHundred();
+    case Scene::LongWords:
+        return longWords();
+    case Scene::RightToLeft:
+        return rightToLeft();
+    case Scene::Emoji:
+        return emoji();
+    case Scene::LongTexts:
+        return longTexts();
+    }
+    return {};
+}
+
+// Texts that reach out of the window, by their content.
+QStringList textsOutside(const QQuickItem& item, const QRectF& room) {
+    QStringList found;
+    if (!item.isVisible())
+        return found;
+    const QString text = item.property("text").toString();
+    const double width = std::max(item.width(), item.property("paintedWidth").toDouble());
+    const QRectF place = item.mapRectToScene(QRectF(0, 0, width, item.height()));
+    if (!text.isEmpty() && (place.left() < room.left() || place.right() > room.right()))
+        found << text;
+    for (const QQuickItem* child : item.childItems())
+        found << textsOutside(*child, room);
+    return found;
+}
+
+using Look = std::tuple<Scene, bool, int>; // scene, dark, width
+
+class PicturesTest : public UiTest, public ::testing::WithParamInterface<Look> {};
+
+TEST_P(PicturesTest, ShowsTheSceneWithoutCuttingIt) {
+    const auto [scene, dark, width] = GetParam();
+    theme.applyAppearance(dark ? u"dark"_qs : u"light"_qs);
+    makeWindow();
+    if (scene != Scene::Loading)
+        publish(contentOf(scene));
+    window->window()->resize(width, 520);
+    show();
+
+    const QImage picture = window->window()->grabWindow();
+    const double density = window->window()->effectiveDevicePixelRatio();
+    EXPECT_EQ(picture.size(), QSize(width, 520) * density);
+    EXPECT_EQ(textsOutside(root(), QRectF(0, 0, width, 520)), QStringList());
+
+    const QString name =
+        u"%1-%2-%3@%4x.png"_qs.arg(QLatin1String(nameOf(scene)), dark ? u"dark"_qs : u"light"_qs)
+            .arg(width)
+            .arg(density);
+    QDir().mkpath(QStringLiteral(PICTURES_FOLDER));
+    EXPECT_TRUE(picture.save(QDir(QStringLiteral(PICTURES_FOLDER)).filePath(name)));
+}
+
+std::string lookName(const ::testing::TestParamInfo<Look>& info) {
+    const auto [scene, dark, width] = info.param;
+    return std::string(nameOf(scene)) + (dark ? "Dark" : "Light") + std::to_string(width);
+}
+
+INSTANTIATE_TEST_SUITE_P(Pictures, PicturesTest,
+                         ::testing::Combine(::testing::Values(Scene::Loading, Scene::Empty,
+                                                              Scene::Five, Scene::FiveHundred,
+                                                              Scene::LongWords, Scene::RightToLeft,
+                                                              Scene::Emoji, Scene::LongTexts),
+                                            ::testing::Bool(), ::testing::Values(720, 1100)),
+                         lookName);
+
+} // namespace
+} // namespace tessarine::testing

@@ -1,0 +1,162 @@
+#include "ui/UiFixture.h"
+
+#include <QAccessible>
+#include <QTest>
+
+namespace tessarine::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class RowTest : public UiTest {
+protected:
+    void showList(NotificationList content) {
+        makeWindow();
+        publish(std::move(content));
+        window->window()->resize(720, 520);
+        show();
+        window->window()->grabWindow();
+    }
+
+    // The visible texts below an item, top to bottom as the view has them.
+    static QStringList textsIn(const QQuickItem& item) {
+        QStringList texts;
+        for (const QQuickItem* child : item.childItems()) {
+            if (!child->isVisible())
+                continue;
+            if (child->inherits("QQuickText"))
+                texts << child->property("text").toString();
+            texts << textsIn(*child);
+        }
+        return texts;
+    }
+
+    double top(const QString& title) const { return row(title)->mapToScene(QPointF(0, 0)).y(); }
+
+    static QAccessibleInterface* accessible(QQuickItem* item) {
+        return QAccessible::queryAccessibleInterface(item);
+    }
+};
+
+TEST_F(RowTest, ShowsInitialsAppTimeTitleAndBody) {
+    showList(numbered(1));
+    EXPECT_EQ(textsIn(*row(u"Title 1"_qs)),
+              QStringList({u"MA"_qs, u"Mail"_qs, u"Nov 16, 2025, 3:33:21\u202fPM"_qs, u"Title 1"_qs,
+                           u"Body 1"_qs}));
+}
+
+TEST_F(RowTest, LeavesOutAnEmptyTitleAndAnEmptyBody) {
+    NotificationList content = numbered(1);
+    content[0].title.clear();
+    content[0].body.clear();
+    showList(content);
+    EXPECT_EQ(textsIn(*row({})).size(), 3); // initials, app, time
+    EXPECT_EQ(row({})->height(), 36 + 2 * 6);
+}
+
+TEST_F(RowTest, ShowsMarkupAsItCame) {
+    NotificationList content = numbered(1);
+    content[0].title = u"<b>bold</b> &amp; <img src='http://example.com/x.png'>"_qs;
+    showList(content);
+    EXPECT_TRUE(textsIn(*row(content[0].title)).contains(content[0].title));
+    QQuickItem* built = row(content[0].title);
+    for (QQuickItem* text : built->findChildren<QQuickItem*>()) {
+        if (text->inherits("QQuickText")) {
+            EXPECT_EQ(text->property("textFormat").toInt(), Qt::PlainText);
+        }
+    }
+}
+
+TEST_F(RowTest, CutsALongTitleAfterTwoLinesAndALongBodyAfterThree) {
+    NotificationList content = numbered(1);
+    content[0].title = u"word "_qs.repeated(400);
+    content[0].body = u"word "_qs.repeated(400);
+    showList(content);
+    QList<int> lines;
+    for (QQuickItem* text : row(content[0].title)->findChildren<QQuickItem*>())
+        if (text->inherits("QQuickText") && text->property("truncated").toBool())
+            lines << text->property("lineCount").toInt();
+    EXPECT_EQ(lines, QList<int>({2, 3}));
+}
+
+TEST_F(RowTest, IsFilledMoreUnderThePointer) {
+    showList(numbered(3));
+    const QPoint inside = row(u"Title 2"_qs)->mapToScene(QPointF(300, 5)).toPoint();
+    QTest::mouseMove(window->window(), QPoint(1, 519));
+    const QColor resting = window->window()->grabWindow().pixelColor(inside);
+    QTest::mouseMove(window->window(), inside);
+    const QColor hovered = window->window()->grabWindow().pixelColor(inside);
+    EXPECT_EQ(hovered, theme.colours().controlBackground);
+    EXPECT_NE(resting, hovered);
+}
+
+TEST_F(RowTest, TellsAScreenReaderItsWholeContent) {
+    showList(numbered(1));
+    QAccessibleInterface* spoken = accessible(row(u"Title 1"_qs));
+    ASSERT_NE(spoken, nullptr);
+    EXPECT_EQ(spoken->role(), QAccessible::ListItem);
+    EXPECT_EQ(spoken->text(QAccessible::Name),
+              u"Mail, Title 1, Body 1, Nov 16, 2025, 3:33:21\u202fPM"_qs);
+    EXPECT_EQ(accessible(&list())->role(), QAccessible::List);
+    EXPECT_EQ(accessible(&list())->text(QAccessible::Name), u"Notifications"_qs);
+}
+
+TEST_F(RowTest, RowsOutOfSightAreNotBuilt) {
+    showList(numbered(500));
+    EXPECT_NE(row(u"Title 500"_qs), nullptr);
+    EXPECT_EQ(row(u"Title 250"_qs), nullptr);
+    EXPECT_LT(list().property("contentItem").value<QQuickItem*>()->childItems().size(), 60);
+}
+
+TEST_F(RowTest, AReloadWithNewIdsMovesNothing) {
+    showList(numbered(500));
+    list().setProperty("contentY", 5000.0);
+    window->window()->grabWindow();
+    QQuickItem* content = list().property("contentItem").value<QQuickItem*>();
+    const QList<QQuickItem*> built = content->childItems();
+    const QVariant place = list().property("contentY");
+
+    publish(numbered(500));
+    window->window()->grabWindow();
+
+    EXPECT_EQ(list().property("contentY"), place);
+    EXPECT_EQ(content->childItems(), built);
+}
+
+TEST_F(RowTest, ANewRowAboveLeavesTheOnesInSightWhereTheyAre) {
+    showList(numbered(500));
+    list().setProperty("contentY", 5000.0);
+    window->window()->grabWindow();
+    QString inSight;
+    for (int i = 500; i > 0 && inSight.isEmpty(); --i)
+        if (const QQuickItem* item = row(u"Title %1"_qs.arg(i));
+            item && item->mapToScene(QPointF(0, 0)).y() > 100)
+            inSight = u"Title %1"_qs.arg(i);
+    ASSERT_FALSE(inSight.isEmpty());
+    const double before = top(inSight);
+
+    publish(numbered(501));
+    window->window()->grabWindow();
+
+    ASSERT_NE(row(inSight), nullptr);
+    EXPECT_EQ(top(inSight), before);
+}
+
+TEST_F(RowTest, ANewRowComesIntoSightWhileTheListIsAtItsTop) {
+    showList(numbered(500));
+    publish(numbered(501));
+    window->window()->grabWindow();
+    ASSERT_NE(row(u"Title 501"_qs), nullptr);
+    EXPECT_EQ(top(u"Title 501"_qs), 4);
+}
+
+TEST_F(RowTest, TheLastRowGoneBringsTheNoticeOfAnEmptyHoard) {
+    showList(numbered(2));
+    publish({});
+    window->window()->grabWindow();
+    EXPECT_FALSE(list().isVisible());
+    EXPECT_TRUE(textsIn(root()).contains(u"No notifications yet"_qs));
+}
+
+} // namespace
+} // namespace tessarine::testing
