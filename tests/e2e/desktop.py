@@ -11,7 +11,7 @@ import sys
 import dbus
 import dbus.lowlevel
 
-from session import Session, SessionTestCase, wait_until
+from session import PATIENCE, Session, SessionTestCase, wait_until
 
 SERVICE = "org.freedesktop.Notifications"
 PATH = "/org/freedesktop/Notifications"
@@ -61,7 +61,15 @@ class Bus:
     def start(self):
         self.process = self.session.spawn("dbus-daemon", f"--config-file={self.configuration}",
                                           "--nofork", "--nosyslog", stderr=subprocess.DEVNULL)
-        wait_until(self.socket.exists, 5, "the bus")
+        wait_until(self.answers, "the bus")
+
+    def answers(self):
+        try:
+            with socket.socket(socket.AF_UNIX) as caller:
+                caller.connect(str(self.socket))
+            return True
+        except OSError:
+            return False
 
     def stop(self):
         self.session.kill(self.process)
@@ -85,8 +93,17 @@ class NotificationDaemon:
         self.process = self.session.spawn(*self.command, stdout=subprocess.DEVNULL,
                                           stderr=subprocess.DEVNULL)
         connection = self.bus.connect()
-        wait_until(lambda: connection.name_has_owner(SERVICE), 15, "a notification daemon")
+        wait_until(lambda: self.draws(connection), f"{self.command[0]} as the notification daemon")
         connection.close()
+
+    def draws(self, connection):
+        """Whether this very process is the one that announcements go to."""
+        try:
+            return connection.call_blocking("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                            "org.freedesktop.DBus", "GetConnectionUnixProcessID",
+                                            "s", [SERVICE]) == self.process.pid
+        except dbus.DBusException:
+            return False
 
     def kill(self):
         self.session.kill(self.process, signal.SIGKILL)
@@ -114,7 +131,7 @@ class Application:
         """Waits for the daemon's answer and gives the id of the notification; None on an error."""
         message = self.message(summary, body, **options)
         try:
-            reply = self.connection.send_message_with_reply_and_block(message, 30)
+            reply = self.connection.send_message_with_reply_and_block(message, PATIENCE)
             return int(reply.get_args_list()[0])
         except dbus.DBusException:
             return None
@@ -128,7 +145,7 @@ class Application:
     def withdraw(self, identifier):
         message = dbus.lowlevel.MethodCallMessage(SERVICE, PATH, SERVICE, "CloseNotification")
         message.append(dbus.UInt32(identifier), signature="u")
-        self.connection.send_message_with_reply_and_block(message, 5)
+        self.connection.send_message_with_reply_and_block(message, PATIENCE)
 
     def close(self):
         self.connection.close()
@@ -139,7 +156,7 @@ class RawConnection:
 
     def __init__(self, bus):
         self.socket = socket.socket(socket.AF_UNIX)
-        self.socket.settimeout(5)
+        self.socket.settimeout(PATIENCE)
         self.socket.connect(str(bus.socket))
         user = str(os.getuid()).encode().hex().encode()
         self.socket.sendall(b"\0AUTH EXTERNAL " + user + b"\r\n")
@@ -176,8 +193,9 @@ class RawConnection:
         body += struct.pack("<i", -1)
         self.call(2, SERVICE.encode(), PATH.encode(), b"Notify", b"susssasa{sv}i", body)
 
-    def is_cut_off(self):
+    def is_cut_off(self, seconds=PATIENCE):
         """Whether the bus ends the connection, as it does to one that breaks the protocol."""
+        self.socket.settimeout(seconds)
         try:
             while self.socket.recv(4096):
                 pass
@@ -209,8 +227,8 @@ class DesktopTestCase(SessionTestCase):
         """Application, title and body of all rows."""
         return self.session.query("SELECT app_name, title, body FROM notifications ORDER BY id")
 
-    def assert_captured(self, *expected, seconds=10):
-        wait_until(lambda: set(expected) <= set(self.rows()), seconds, f"{expected} in the hoard")
+    def assert_captured(self, *expected, seconds=PATIENCE):
+        wait_until(lambda: set(expected) <= set(self.rows()), f"{expected} in the hoard", seconds)
         for row in expected:
             self.assertEqual(self.rows().count(row), 1, row)
 

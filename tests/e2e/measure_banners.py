@@ -1,8 +1,10 @@
-"""How long a banner takes from the bus to the hoard, and what the program costs a sender.
+"""How long a banner takes from the bus to the hoard, and what the program costs.
 
-usage: measure_banners.py latency [COUNT]    single notifications, 1.5 seconds apart
-       measure_banners.py sender [PAIRS]     2,000 calls each: with the program, with a bare
-                                             monitor that discards, and with neither
+usage: measure_banners.py latency [COUNT]         single notifications, 1.5 seconds apart
+       measure_banners.py sender [PAIRS [CALLS]]  2,000 calls each: with the program, with a bare
+                                                  monitor that discards, and with neither
+       measure_banners.py burst [COUNT [ROWS]]    processor time for each of many at once, on a
+                                                  hoard that holds so many rows already
 
 Not one of the checks that run every time: what it prints is for reading.
 """
@@ -16,9 +18,6 @@ import time
 
 from desktop import Application, Bus, NotificationDaemon
 from session import Display, Session, wait_until
-
-CALLS = 2000
-
 
 def quantiles(values):
     ordered = sorted(values)
@@ -40,7 +39,7 @@ def measure_latency(count):
     program = session.start_program()
     application = Application(bus)
     application.announce("first", "")
-    wait_until(lambda: session.count() == 1, 20, "the first row")
+    wait_until(lambda: session.count() == 1, "the first row")
     hoard = sqlite3.connect(f"file:{session.hoard}?mode=ro", uri=True)
     before = cpu_seconds(program.pid)
     latencies = []
@@ -75,24 +74,28 @@ class Setting:
         self.sent = 0
         time.sleep(2)
 
-    def run(self):
+    def run(self, calls):
         """Seconds that the calls took; waits afterwards until all is stored."""
         start = time.monotonic()
-        for _ in range(CALLS):
+        for _ in range(calls):
             self.sent += 1
             self.application.announce(f"call {self.sent}", "body")
         took = time.monotonic() - start
         if self.session.hoard.exists():
-            wait_until(lambda: self.session.count() == self.sent, 300, "all rows")
+            wait_until(lambda: self.session.count() == self.sent, "all rows", 600)
         return took
 
 
-def measure_sender(pairs):
+def measure_sender(pairs, calls):
     settings = {name: Setting(name) for name in ("program", "monitor", "nobody")}
     times = {name: [] for name in settings}
-    for _ in range(pairs):
-        for name, setting in settings.items():
-            times[name].append(setting.run())
+    for setting in settings.values():
+        setting.run(calls)  # not counted
+    for turn in range(pairs):
+        order = list(settings) if turn % 2 == 0 else list(reversed(settings))
+        for name in order:
+            times[name].append(settings[name].run(calls))
+    print(f"{calls} calls:")
     for name, values in times.items():
         print(f"{name:8} median {statistics.median(values):.3f} s  "
               f"from {min(values):.3f} to {max(values):.3f}")
@@ -104,12 +107,59 @@ def measure_sender(pairs):
         setting.session.close()
 
 
+def fill(hoard, rows):
+    """Old rows of twenty applications, as years of capturing leave them."""
+    connection = sqlite3.connect(hoard)
+    connection.executemany(
+        "INSERT INTO notifications (bundle_id, app_name, title, body, timestamp) VALUES (?,?,?,?,?)",
+        ((f"application.{n % 20}", f"Application {n % 20}", f"Old title {n}",
+          f"The body of an old notification, number {n}", 7e8 + n) for n in range(rows)))
+    connection.commit()
+    connection.close()
+
+
+def wait_until_it_listens(session, application):
+    """Announces until something is captured, and gives the rows that there are then."""
+    rows, number = session.count(), 0
+    while session.count() == rows:
+        number += 1
+        application.announce(f"Are you there? {number}")
+        time.sleep(2)
+    time.sleep(3)
+    return session.count()
+
+
+def measure_burst(count, rows):
+    session = Session()
+    bus = Bus(session)
+    NotificationDaemon(session, bus, "plain")
+    program = session.start_program()
+    time.sleep(2)
+    session.kill(program)
+    fill(session.hoard, rows)
+    program = session.start_program()
+    application = Application(bus)
+    rows = wait_until_it_listens(session, application)
+    before, start = cpu_seconds(program.pid), time.monotonic()
+    application.pour([(f"Burst {number}", f"Body of burst {number}") for number in range(count)])
+    wait_until(lambda: session.count() == rows + count, "all rows", 1200)
+    took = time.monotonic() - start
+    time.sleep(2)
+    used = cpu_seconds(program.pid) - before
+    print(f"{count} at once, {rows} rows before: all stored after {took:.1f} s, "
+          f"processor time for each {used / count * 1000:.2f} ms")
+    session.close()
+
+
 if __name__ == "__main__":
-    number = int(sys.argv[2]) if len(sys.argv) > 2 else None
-    if sys.argv[1:2] == ["latency"]:
-        measure_latency(number or 500)
-    elif sys.argv[1:2] == ["sender"]:
-        measure_sender(number or 20)
+    mode, numbers = sys.argv[1:2], [int(word) for word in sys.argv[2:]]
+    first, second = (numbers + [None, None])[:2]
+    if mode == ["latency"]:
+        measure_latency(first or 500)
+    elif mode == ["sender"]:
+        measure_sender(first or 20, second or 2000)
+    elif mode == ["burst"]:
+        measure_burst(first or 2000, second or 1000)
     else:
         sys.exit(__doc__)
     Display.end()

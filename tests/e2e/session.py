@@ -19,13 +19,16 @@ WRITER = os.environ["TESSARINE_USERNOTED_WRITER"]
 USERNOTED = "Library/Group Containers/group.com.apple.usernoted/db2/db"
 DEFAULTS = "com.zorvek.Tessarine.conf"
 
+# Seconds to wait for what has to come. Only a failing test uses them up, so they are many.
+PATIENCE = 90
+
 
 def now():
     """Seconds since the reference date."""
     return time.time() - REFERENCE_DATE
 
 
-def wait_until(condition, seconds, what):
+def wait_until(condition, what, seconds=PATIENCE):
     """What the condition gives once it gives something; fails the test when the time is up."""
     end = time.monotonic() + seconds
     while True:
@@ -114,7 +117,7 @@ class Session:
 
     def wait_until_started(self, program):
         """The poll timer's arming follows the launch steps; the hoard is open by then too."""
-        wait_until(lambda: self.hoard.exists() or program.poll() is not None, 20, "a hoard")
+        wait_until(lambda: self.hoard.exists() or program.poll() is not None, "a hoard")
         self.assert_running(program)
 
     def assert_running(self, program):
@@ -127,7 +130,7 @@ class Session:
 
     def kill(self, process, how=signal.SIGKILL):
         process.send_signal(how)
-        process.wait(20)
+        process.wait(PATIENCE)
 
     def close(self):
         for process in reversed(self.processes):
@@ -232,6 +235,6 @@ class SessionTestCase(unittest.TestCase):
     def tearDownClass(cls):
         Display.end()
 
-    def wait_for_count(self, count, seconds=20):
-        wait_until(lambda: self.session.count() >= count, seconds, f"{count} rows")
+    def wait_for_count(self, count, seconds=PATIENCE):
+        wait_until(lambda: self.session.count() >= count, f"{count} rows", seconds)
         self.assertEqual(self.session.count(), count)

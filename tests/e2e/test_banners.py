@@ -69,14 +69,14 @@ class WithNotificationDaemon(SingleNotifications):
 
     def test_two_hundred_in_a_burst(self):
         self.application("Burst").pour(texts(200))
-        self.assert_captured(*[("Burst", *pair) for pair in texts(200)], seconds=60)
+        self.assert_captured(*[("Burst", *pair) for pair in texts(200)], seconds=240)
         self.assertEqual(self.session.count(), 200)
 
 
 class Bursts(DesktopTestCase):
     def test_two_thousand_from_one_client(self):
         self.application("Burst").pour(texts(2000))
-        wait_until(lambda: self.session.count() >= 2000, 120, "2,000 rows")
+        wait_until(lambda: self.session.count() >= 2000, "2,000 rows", 600)
         self.assertEqual(sorted(self.rows()), sorted(("Burst", *pair) for pair in texts(2000)))
 
     def test_twenty_clients_with_two_hundred_each(self):
@@ -90,7 +90,7 @@ class Bursts(DesktopTestCase):
             thread.start()
         for thread in threads:
             thread.join()
-        wait_until(lambda: self.session.count() >= 4000, 240, "4,000 rows")
+        wait_until(lambda: self.session.count() >= 4000, "4,000 rows", 900)
         self.assertEqual(sorted(self.rows()), sorted(
             (f"Client {number}", *pair) for number in range(20)
             for pair in texts(200, f"from {number}")))
@@ -116,7 +116,7 @@ class UnusualContent(DesktopTestCase):
     def test_a_megabyte_of_body_is_captured_whole(self):
         body = "abcdefghi " * 100000
         self.application().announce("Long", body.strip())
-        self.assert_captured(("Application", "Long", body.strip()), seconds=20)
+        self.assert_captured(("Application", "Long", body.strip()))
 
     def test_ten_thousand_hints_do_no_harm(self):
         hints = {f"x-hint-{number}": dbus.Int32(number) for number in range(10000)}
@@ -132,18 +132,19 @@ class UnusualContent(DesktopTestCase):
         before = self.memory()
         for number in range(20):
             application.announce(f"Picture {number}", "", hints={"image-data": picture})
-        self.assert_captured(*[("Application", f"Picture {number}", "") for number in range(20)],
-                             seconds=30)
+        self.assert_captured(*[("Application", f"Picture {number}", "") for number in range(20)])
         self.assertLess(self.memory() - before, 30)
 
     def test_text_that_is_no_utf_8_breaks_nothing(self):
-        for summary, refused in ((b"proper", False), (b"broken \xff\xfe", True)):
-            connection = RawConnection(self.bus)
-            self.addCleanup(connection.close)
-            connection.notify(summary)
-            self.assertEqual(connection.is_cut_off(), refused)
+        proper, broken = RawConnection(self.bus), RawConnection(self.bus)
+        self.addCleanup(proper.close)
+        self.addCleanup(broken.close)
+        proper.notify(b"proper")
+        broken.notify(b"broken \xff\xfe")
+        self.assertTrue(broken.is_cut_off())
         self.application().announce("Still", "here")
         self.assert_captured(("Raw", "proper", ""), ("Application", "Still", "here"))
+        self.assertFalse(proper.is_cut_off(1))
         self.assertEqual(self.session.count(), 2)
 
     def test_an_empty_name_becomes_that_of_the_desktop_entry(self):
@@ -154,7 +155,7 @@ class UnusualContent(DesktopTestCase):
         application = self.application("")
         application.announce("Named", "by entry", hints={"desktop-entry": "org.example.Mailer"})
         application.announce("Named", "by process")
-        wait_until(lambda: self.session.count() >= 2, 10, "two rows")
+        wait_until(lambda: self.session.count() >= 2, "two rows")
         rows = {body: name for name, _, body in self.rows()}
         self.assertEqual(rows["by entry"], "Mailer of Example")
         self.assertIn("python", rows["by process"].lower())
@@ -197,7 +198,7 @@ class ComingAndGoing(DesktopTestCase):
             if application.announce(summary, "body") is not None:
                 held.append(("Burst", summary, "body"))
         self.assertGreater(len(held), 300)
-        self.assert_captured(*held, seconds=60)
+        self.assert_captured(*held, seconds=240)
 
     def test_a_daemon_that_another_one_replaces(self):
         application = self.application()
@@ -227,7 +228,7 @@ class ComingAndGoing(DesktopTestCase):
             time.sleep(0.5)
             return any(title.startswith("After") for title in self.session.titles())
 
-        wait_until(captured_after, 45, "a capture on the new bus")
+        wait_until(captured_after, "a capture on the new bus", 240)
 
 
 class WithoutABanner(SessionTestCase):
@@ -254,7 +255,7 @@ class WithoutABanner(SessionTestCase):
         application = Application(bus)
         self.addCleanup(application.close)
         application.announce("At last", "")
-        wait_until(lambda: "At last" in self.session.titles(), 10, "the row")
+        wait_until(lambda: "At last" in self.session.titles(), "the row")
 
 
 if __name__ == "__main__":

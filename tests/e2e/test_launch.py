@@ -6,7 +6,7 @@ import subprocess
 import time
 import unittest
 
-from session import Daemon, Session, SessionTestCase, wait_until
+from session import PATIENCE, Daemon, Session, SessionTestCase, wait_until
 
 NOBODY = 65534
 
@@ -17,20 +17,29 @@ def snapshot(folder):
             for path in sorted(pathlib.Path(folder).rglob("*"))}
 
 
+def settled_snapshot(folder):
+    """The same, once nothing has changed for two seconds."""
+    def still():
+        before = snapshot(folder)
+        time.sleep(2)
+        return before if snapshot(folder) == before else None
+
+    return wait_until(still, "files that stay as they are")
+
+
 class SingleInstance(SessionTestCase):
     def test_a_second_start_exits_with_zero_and_touches_no_file(self):
         program = self.session.start_program()
-        time.sleep(1.5)
-        before = snapshot(self.session.home)
+        before = settled_snapshot(self.session.home)
         second = self.session.start_program(wait=False)
-        self.assertEqual(second.wait(10), 0)
+        self.assertEqual(second.wait(PATIENCE), 0)
         self.session.assert_running(program)
         self.assertEqual(snapshot(self.session.home), before)
 
     def test_a_hidden_window_stays_hidden(self):
         self.session.start_program()
         time.sleep(1)
-        self.assertEqual(self.session.start_program(wait=False).wait(10), 0)
+        self.assertEqual(self.session.start_program(wait=False).wait(PATIENCE), 0)
         time.sleep(0.5)
         self.assertEqual(self.session.visible_main_window(), [])
 
@@ -52,7 +61,7 @@ class SingleInstance(SessionTestCase):
 class HoardFile(SessionTestCase):
     def test_only_the_user_can_read_it(self):
         self.session.start_program()
-        wait_until(lambda: self.session.hoard.stat().st_mode & 0o777 == 0o600, 5, "mode 600")
+        wait_until(lambda: self.session.hoard.stat().st_mode & 0o777 == 0o600, "mode 600")
 
 
 class BadStart(SessionTestCase):

@@ -5,7 +5,7 @@ import sqlite3
 import time
 import unittest
 
-from session import Daemon, SessionTestCase, now, wait_until
+from session import PATIENCE, Daemon, SessionTestCase, now, wait_until
 
 DAY = 86400
 
@@ -15,7 +15,7 @@ class Recovery(SessionTestCase):
         Daemon(self.session, "--records", "10000", "--quiet", "--date", "now-60",
                "--span", str(28 * DAY), "--form", "mixed")
         program = self.session.start_program()
-        self.wait_for_count(10000, 60)
+        self.wait_for_count(10000, 300)
         self.session.kill(program)
         for _ in range(2):
             program = self.session.start_program()
@@ -43,11 +43,13 @@ class Live(SessionTestCase):
         self.daemon.append("first")
         self.wait_for_count(1)
 
-    def test_a_row_shows_within_a_second(self):
+    def test_a_row_shows_by_the_watch_and_not_by_the_timer(self):
+        """On an idle machine within a second. On any machine long before the timer could have shown
+        five rows, one after the other: it polls every 30 seconds."""
         for number in range(5):
             written = self.daemon.append(f"live {number}")
-            wait_until(lambda: f"live {number}" in self.session.titles(), 1, "the row")
-            self.assertLess(time.time() - written, 1)
+            wait_until(lambda: f"live {number}" in self.session.titles(), "the row")
+            self.assertLess(time.time() - written, 15)
 
     def test_two_rows_of_one_instant_both_arrive(self):
         date = now()
@@ -68,18 +70,18 @@ class Live(SessionTestCase):
         self.assertFalse((self.session.usernoted.parent / "db-wal").exists())
         self.daemon.tell("open")
         self.daemon.append("after")
-        self.wait_for_count(2, 35)
+        self.wait_for_count(2)
 
     def test_unreadable_rows_stop_no_other(self):
         for form in "broken zero-bytes null not-a-dictionary other-type request-empty".split():
             self.daemon.append("bad", form=form)
         self.daemon.append("good")
-        wait_until(lambda: "good" in self.session.titles(), 2, "the readable row")
+        wait_until(lambda: "good" in self.session.titles(), "the readable row")
         self.assertEqual(self.session.count(), 2)
 
     def test_a_row_id_beyond_32_bits_ends_the_program(self):
         self.daemon.append("beyond", first_rec_id=2**31)
-        self.assertNotEqual(self.program.wait(20), 0)
+        self.assertNotEqual(self.program.wait(PATIENCE), 0)
         self.assertIn("does not fit", self.session.log())
 
 
@@ -90,8 +92,7 @@ class Defaults(SessionTestCase):
         date = now()
         daemon.append("secret", date=date)
         self.session.start_program()
-        wait_until(lambda: self.session.defaults().get("lastSeenUsernotedTimestamp"), 10,
-                   "the cursor")
+        wait_until(lambda: self.session.defaults().get("lastSeenUsernotedTimestamp"), "the cursor")
         self.assertAlmostEqual(float(self.session.defaults()["lastSeenUsernotedTimestamp"]), date, 3)
         daemon.append("open", app="com.example.open")
         self.wait_for_count(1)
@@ -130,11 +131,10 @@ class SuddenDeath(SessionTestCase):
             self.session.kill(program)
         self.session.kill(pouring)
         program = self.session.start_program()
-        time.sleep(3)
-        self.session.assert_running(program)
-        stored = self.session.count()
         writer.append("the last")
-        wait_until(lambda: "the last" in self.session.titles(), 20, "a row after all")
+        wait_until(lambda: "the last" in self.session.titles(), "a row after all")
+        self.session.assert_running(program)
+        stored = self.session.count() - 1
         self.assertEqual(self.session.query("PRAGMA integrity_check"), [("ok",)])
         self.assertEqual(self.session.query(
             "SELECT COUNT(*) - COUNT(DISTINCT system_note_id) FROM notifications"), [(0,)])

@@ -1,3 +1,4 @@
+#include "support/EventLoop.h"
 #include "ui/UiFixture.h"
 
 #include <QTest>
@@ -13,7 +14,7 @@ protected:
         window->window()->resize(720, 520);
         show();
         window->window()->requestActivate();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window->window()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window->window(), patienceMs));
     }
 
     double top() const { return list().property("contentY").toDouble(); }

@@ -3,6 +3,7 @@
 #include "platform/linux/LinuxSymbols.h"
 #include "platform/linux/LinuxSystemAppearance.h"
 #include "platform/linux/StatusPicture.h"
+#include "support/EventLoop.h"
 #include "support/SimulatedDesktop.h"
 #include "ui/PrivateBus.h"
 
@@ -22,6 +23,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using testing::SimulatedAppearance;
+using testing::turnsUntil;
 
 // Symbols
 
@@ -125,7 +127,7 @@ private:
 class PortalTest : public ::testing::Test {
 protected:
     bool becomesDark(const SystemAppearance& appearance, bool dark) {
-        return QTest::qWaitFor([&] { return appearance.prefersDark() == dark; });
+        return turnsUntil([&] { return appearance.prefersDark() == dark; });
     }
 
     testing::PrivateBus bus_;
@@ -159,7 +161,7 @@ TEST_F(PortalTest, OtherSettingsAreNoneOfOurs) {
     portal.change(u"org.gnome.desktop.interface"_qs, 1);
     portal.scheme = 0;
     portal.change(u"com.example"_qs, 1);
-    EXPECT_FALSE(QTest::qWaitFor([&] { return appearance.prefersDark(); }, 300));
+    EXPECT_FALSE(turnsUntil([&] { return appearance.prefersDark(); }, 300));
 }
 
 // Tray
@@ -193,7 +195,7 @@ private:
 class TrayWatchTest : public ::testing::Test {
 protected:
     bool becomesPresent(const LinuxTrayWatch& watch, bool present) {
-        return QTest::qWaitFor([&] { return watch.isPresent() == present; });
+        return turnsUntil([&] { return watch.isPresent() == present; });
     }
 
     testing::PrivateBus bus_;
@@ -218,7 +220,7 @@ TEST_F(TrayWatchTest, AServiceWithoutAHostIsNoTrayUntilOneComes) {
     FakeWatcher watcher(bus_.connection(u"tray"_qs));
     watcher.hasHost = false;
     const LinuxTrayWatch watch(bus_.connection(u"program"_qs));
-    EXPECT_FALSE(QTest::qWaitFor([&] { return watch.isPresent(); }, 300));
+    EXPECT_FALSE(turnsUntil([&] { return watch.isPresent(); }, 300));
     watcher.hasHost = true;
     Q_EMIT watcher.StatusNotifierHostRegistered();
     EXPECT_TRUE(becomesPresent(watch, true));
@@ -239,7 +241,7 @@ protected:
     PanelTest() {
         panel_.setContent(u"bell.fill"_qs, u"Tessarine"_qs, u" 5"_qs);
         panel_.show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&panel_));
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&panel_, testing::patienceMs));
     }
 
     LinuxSymbols symbols_;
@@ -286,7 +288,7 @@ TEST_F(PanelTest, SpaceReturnAndTheMenuKeyAskForTheMenu) {
 TEST_F(PanelTest, AScreenReaderCanPressIt) {
     QAccessible::queryAccessibleInterface(&panel_)->actionInterface()->doAction(
         QAccessibleActionInterface::pressAction());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return requests_.count() == 1; }));
+    EXPECT_TRUE(turnsUntil([this] { return requests_.count() == 1; }));
 }
 
 TEST_F(PanelTest, DraggingMovesItAndOpensNoMenu) {
@@ -338,7 +340,7 @@ protected:
 TEST_F(StatusItemTest, WithoutATrayThePanelComesAfterTheGraceTime) {
     item_.show();
     EXPECT_EQ(panel(), nullptr);
-    ASSERT_TRUE(QTest::qWaitFor([] { return panel() != nullptr; }, 10000));
+    ASSERT_TRUE(turnsUntil([] { return panel() != nullptr; }));
     EXPECT_EQ(panel()->accessibleName(), u"Tessarine 5"_qs);
     item_.setTitle({});
     EXPECT_EQ(panel()->accessibleName(), u"Tessarine"_qs);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/EventLoop.h"
+
 #include <QDBusConnection>
 #include <QProcess>
 
@@ -14,7 +16,7 @@ public:
         daemon_.start(QStringLiteral("dbus-daemon"),
                       {QStringLiteral("--session"), QStringLiteral("--nofork"),
                        QStringLiteral("--print-address")});
-        EXPECT_TRUE(daemon_.waitForReadyRead(10000));
+        EXPECT_TRUE(daemon_.waitForReadyRead(patienceMs));
         address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
     }
 

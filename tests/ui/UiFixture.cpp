@@ -1,5 +1,7 @@
 #include "ui/UiFixture.h"
 
+#include "support/EventLoop.h"
+
 #include <QQmlError>
 #include <QTest>
 
@@ -35,7 +37,7 @@ void UiTest::makeWindow() {
 
 void UiTest::show() {
     window->showAndMakeKey();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window->window()));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window->window(), patienceMs));
 }
 
 QQuickItem* UiTest::row(const QString& title) const {
@@ -51,7 +53,7 @@ QQuickItem* UiTest::row(const QString& title) const {
 
 void UiTest::resizeTo(int width, int height) {
     window->window()->resize(width, height);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return root().size() == QSizeF(width, height); }));
+    ASSERT_TRUE(turnsUntil([&] { return root().size() == QSizeF(width, height); }));
 }
 
 } // namespace tessarine::testing

@@ -9,9 +9,6 @@ namespace tessarine {
 
 namespace {
 
-// How long the first question may wait for the bus.
-constexpr std::chrono::seconds firstAnswer{1};
-
 // The listener lets one event through each second. A reminder comes a little later than that, so
 // that it is let through for certain.
 constexpr double throttle = 1.0;          // seconds
@@ -46,10 +43,10 @@ private:
     const qint32 pid_;
 };
 
-BannerProcess::BannerProcess(Scheduler& scheduler)
+BannerProcess::BannerProcess(Scheduler& scheduler, std::chrono::milliseconds patience)
     : scheduler_(scheduler)
     , tree_([&scheduler] { return scheduler.uptime(); })
-    , patience_(std::chrono::steady_clock::now() + firstAnswer)
+    , patience_(std::chrono::steady_clock::now() + patience)
     , scannedAt_(-reminderInterval) {}
 
 // The task doesn't keep the process alive, and does nothing once it is gone.

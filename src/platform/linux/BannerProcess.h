@@ -38,7 +38,10 @@ public:
     using EventHandlers = HandlerList<const AXElementRef&, const QString&>;
     using LifecycleHandlers = HandlerList<qint32>;
 
-    explicit BannerProcess(Scheduler& scheduler);
+    // How long the first question may wait for the bus.
+    static constexpr std::chrono::milliseconds firstAnswer{1000};
+
+    explicit BannerProcess(Scheduler& scheduler, std::chrono::milliseconds patience = firstAnswer);
 
     // What the bus thread tells, in the order in which it happened.
     void setService(const BannerService& service);
@@ -46,8 +49,8 @@ public:
     void answered(const AnnouncementKey& key, std::uint32_t id); // 0 for an error
     void closed(std::uint32_t id);
 
-    // Questions, any thread. The first of them waits, at most a second from the start, until it
-    // is known whether the bus lets us look.
+    // Questions, any thread. The first of them waits, while there is patience, counted from the
+    // start, until it is known whether the bus lets us look.
     bool isTrusted() const;
     std::optional<qint32> pid() const;
 

@@ -163,7 +163,7 @@ TEST(BannerProcessAtTheStart, AnswersWithWhatTheBusSaidFirst) {
 
 TEST(BannerProcessAtTheStart, WaitsForTheFirstAnswer) {
     ManualScheduler scheduler;
-    const auto process = std::make_shared<BannerProcess>(scheduler);
+    const auto process = std::make_shared<BannerProcess>(scheduler, std::chrono::minutes(1));
     std::thread bus([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
         process->setService({true, BannerOwner{pid, 1}});
@@ -173,21 +173,21 @@ TEST(BannerProcessAtTheStart, WaitsForTheFirstAnswer) {
     bus.join();
 }
 
+// A second for each of a hundred questions would be far more than a minute.
 TEST(BannerProcessAtTheStart, WaitsOneSecondInAll) {
     ManualScheduler scheduler;
-    const auto process = std::make_shared<BannerProcess>(scheduler);
     const auto before = std::chrono::steady_clock::now();
+    const auto process = std::make_shared<BannerProcess>(scheduler);
     EXPECT_FALSE(process->isTrusted());
-    EXPECT_FALSE(process->isTrusted());
-    EXPECT_EQ(process->pid(), std::nullopt);
-    const auto waited = std::chrono::steady_clock::now() - before;
-    EXPECT_GT(waited, std::chrono::milliseconds(900));
-    EXPECT_LT(waited, std::chrono::milliseconds(1900));
+    EXPECT_GE(std::chrono::steady_clock::now() - before, std::chrono::seconds(1));
+    for (int question = 0; question < 99; ++question)
+        EXPECT_EQ(process->pid(), std::nullopt);
+    EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::minutes(1));
 }
 
 TEST(BannerProcessAtTheStart, LaunchesWhenTheAnswerCameTooLate) {
     ManualScheduler scheduler;
-    const auto process = std::make_shared<BannerProcess>(scheduler);
+    const auto process = std::make_shared<BannerProcess>(scheduler, std::chrono::milliseconds(1));
     std::vector<qint32> launched;
     const auto token = process->onLaunch([&](qint32 pid) { launched.push_back(pid); });
     EXPECT_FALSE(process->isTrusted());

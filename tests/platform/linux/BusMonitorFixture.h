@@ -21,7 +21,7 @@ namespace tessarine::testing {
 // A bus of its own, a monitor on it, and what a listener would read: scans go on while the test
 // waits for something.
 struct BusMonitorFixture : ::testing::Test {
-    static constexpr int patience = 60000; // milliseconds, used up by failures only
+    static constexpr int patience = 180000; // milliseconds, used up by failures only
 
     QtScheduler scheduler;
     std::shared_ptr<BannerProcess> process;
@@ -31,8 +31,10 @@ struct BusMonitorFixture : ::testing::Test {
     std::vector<QString> told; // "launch PID", "termination PID"
     std::vector<DrawnBanner> captured;
 
-    void watch(const std::string& address) {
-        process = std::make_shared<BannerProcess>(scheduler);
+    // The first question waits for the bus as long as a busy machine may need.
+    void watch(const std::string& address,
+               std::chrono::milliseconds firstAnswer = std::chrono::milliseconds(patience)) {
+        process = std::make_shared<BannerProcess>(scheduler, firstAnswer);
         workspace = std::make_unique<LinuxWorkspace>(scheduler, process, std::string());
         observe(WorkspaceEvent::didLaunchApplication, QStringLiteral("launch "));
         observe(WorkspaceEvent::didTerminateApplication, QStringLiteral("termination "));

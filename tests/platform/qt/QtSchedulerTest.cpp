@@ -55,15 +55,25 @@ protected:
 // Clocks
 
 TEST_F(QtSchedulerTest, CountsTheWallClockFromTheReferenceDate) {
-    const double expected = static_cast<double>(std::time(nullptr)) - 978307200.0;
-    EXPECT_NEAR(scheduler.now(), expected, 2.0);
+    const auto before = static_cast<double>(std::time(nullptr)) - 978307200.0;
+    const double now = scheduler.now();
+    const auto after = static_cast<double>(std::time(nullptr)) - 978307200.0;
+    // The kernel's whole seconds may lag behind by a tick.
+    EXPECT_GE(now, before);
+    EXPECT_LT(now, after + 1.1);
 }
 
 TEST_F(QtSchedulerTest, MeasuresIntervalsInSeconds) {
+    const Stopwatch outer;
     const double before = scheduler.uptime();
-    const Stopwatch watch;
+    const Stopwatch inner;
     std::this_thread::sleep_for(20ms);
-    EXPECT_NEAR(scheduler.uptime() - before, watch.seconds(), 0.005);
+    const double least = inner.seconds();
+    const double measured = scheduler.uptime() - before;
+    const double most = outer.seconds();
+    // Sums of doubles: a microsecond is left to rounding.
+    EXPECT_GE(measured, least - 1e-6);
+    EXPECT_LE(measured, most + 1e-6);
 }
 
 // On the main thread
@@ -142,22 +152,29 @@ TEST_F(QtSchedulerTest, RunsADelayedTaskNotBeforeItsTime) {
     EXPECT_GE(ranAt, 0.06);
 }
 
+// The times are those of the handing over, so a machine that stalls just then has to try again.
 TEST_F(QtSchedulerTest, RunsDelayedTasksInTheOrderOfTheirTimes) {
-    scheduler.onMainAfter(0.09, [this] { order.push_back(3); });
-    scheduler.onMainAfter(0.01, [this] { order.push_back(1); });
-    scheduler.onMainAfter(0.05, [this] { order.push_back(2); });
-    turnsUntil([&] { return order.size() == 3; });
+    bool inTime = false;
+    for (int attempt = 0; attempt < 100 && !inTime; ++attempt) {
+        order.clear();
+        const Stopwatch watch;
+        scheduler.onMainAfter(0.09, [this] { order.push_back(3); });
+        scheduler.onMainAfter(0.01, [this] { order.push_back(1); });
+        scheduler.onMainAfter(0.05, [this] { order.push_back(2); });
+        scheduler.onMain([&] { inTime = watch.seconds() < 0.01; });
+        ASSERT_TRUE(turnsUntil([&] { return order.size() == 3; }));
+    }
+    ASSERT_TRUE(inTime);
     EXPECT_THAT(order, ElementsAre(1, 2, 3));
 }
 
+// The loop turns only after the sleep: were that when the delay begins, the second would be first.
 TEST_F(QtSchedulerTest, CountsTheDelayFromTheCall) {
-    const Stopwatch watch;
-    double ranAt = 0;
-    scheduler.onMainAfter(0.2, [&] { ranAt = watch.seconds(); });
-    std::this_thread::sleep_for(190ms); // the loop has not yet turned
-    EXPECT_TRUE(turnsUntil([&] { return ranAt > 0; }));
-    EXPECT_GE(ranAt, 0.2);
-    EXPECT_LT(ranAt, 0.35);
+    scheduler.onMainAfter(0.2, [this] { order.push_back(1); });
+    std::this_thread::sleep_for(200ms);
+    scheduler.onMainAfter(0.1, [this] { order.push_back(2); });
+    EXPECT_TRUE(turnsUntil([&] { return order.size() == 2; }));
+    EXPECT_THAT(order, ElementsAre(1, 2));
 }
 
 TEST_F(QtSchedulerTest, RunsATaskWithoutDelayAfterWhatWaits) {
@@ -236,6 +253,7 @@ TEST_F(QtSchedulerTest, LetsATimerEndItselfInItsOwnCall) {
         timer.reset();
         ++calls;
     });
+    EXPECT_TRUE(turnsUntil([&] { return calls > 0; }));
     turnFor(60);
     EXPECT_EQ(calls, 1);
 }
@@ -283,15 +301,15 @@ TEST_F(QtSchedulerTest, WaitsForItsWorkWhenItGoes) {
 TEST_F(QtSchedulerTest, SaysThatATaskCompletedInTime) {
     std::thread::id ranOn;
     EXPECT_TRUE(
-        scheduler.completesWithin(10.0, utility, [&] { ranOn = std::this_thread::get_id(); }));
+        scheduler.completesWithin(60.0, utility, [&] { ranOn = std::this_thread::get_id(); }));
     EXPECT_NE(ranOn, std::thread::id());
     EXPECT_NE(ranOn, mainThread);
 }
 
 TEST_F(QtSchedulerTest, ReturnsAsSoonAsTheTaskIsDone) {
     const Stopwatch watch;
-    scheduler.completesWithin(10.0, utility, [] {});
-    EXPECT_LT(watch.seconds(), 5.0);
+    scheduler.completesWithin(120.0, utility, [] {});
+    EXPECT_LT(watch.seconds(), 60.0);
 }
 
 TEST_F(QtSchedulerTest, SaysWhenTheTimeWasUpAndLetsTheTaskGoOn) {
@@ -316,7 +334,7 @@ TEST_F(QtSchedulerTest, WatchesATaskFromAWorkerWhileOthersHang) {
     std::promise<bool> completed;
     scheduler.onGlobalQueue(QualityOfService::userInitiated, [&] {
         completed.set_value(
-            scheduler.completesWithin(10.0, QualityOfService::userInitiated, [] {}));
+            scheduler.completesWithin(60.0, QualityOfService::userInitiated, [] {}));
     });
     EXPECT_TRUE(completed.get_future().get());
     door.set_value();
