@@ -21,7 +21,7 @@ namespace tessarine::testing {
 // A bus of its own, a monitor on it, and what a listener would read: scans go on while the test
 // waits for something.
 struct BusMonitorFixture : ::testing::Test {
-    static constexpr int patience = 180000; // milliseconds, used up by failures only
+    static constexpr int patience = 600000; // milliseconds, used up by failures only
 
     QtScheduler scheduler;
     std::shared_ptr<BannerProcess> process;
