@@ -83,10 +83,18 @@ void BannerProcess::announce(const AnnouncementKey& key, AnnouncedTexts texts,
     if (change == BannerChange::none)
         return;
     const std::lock_guard lock(mutex_);
-    if (unsentChange_ == BannerChange::none)
-        onMain([](BannerProcess& self) { self.sendEvent(); });
     if (unsentChange_ != BannerChange::shown)
         unsentChange_ = change;
+    if (isEventOnItsWay_ || isLeftToTheReminder())
+        return;
+    isEventOnItsWay_ = true;
+    onMain([](BannerProcess& self) { self.sendEvent(); });
+}
+
+// The throttle would swallow an event now. Sending it all the same would wake the main thread for
+// each of a burst of announcements, at the cost of those who announce. Under the lock.
+bool BannerProcess::isLeftToTheReminder() const {
+    return isReminderSet_ && scheduler_.uptime() - scannedAt_ < throttle;
 }
 
 void BannerProcess::answered(const AnnouncementKey& key, std::uint32_t id) {
@@ -209,6 +217,7 @@ void BannerProcess::sendEvent() {
     std::optional<BannerOwner> owner;
     {
         const std::lock_guard lock(mutex_);
+        isEventOnItsWay_ = false;
         change = std::exchange(unsentChange_, BannerChange::none);
         owner = service_.owner;
         if (const double now = scheduler_.uptime(); now - scannedAt_ >= throttle)
@@ -223,19 +232,23 @@ void BannerProcess::sendEvent() {
 
 // One reminder at a time.
 void BannerProcess::remindWhileUnread() {
-    if (isReminderSet_ || tree_.isEmpty() || eventHandlers_.isEmpty())
+    if (tree_.isEmpty() || eventHandlers_.isEmpty())
         return;
-    isReminderSet_ = true;
     double delay = reminderInterval;
     {
         const std::lock_guard lock(mutex_);
+        if (std::exchange(isReminderSet_, true))
+            return;
         delay -= std::min(throttle, scheduler_.uptime() - scannedAt_);
     }
     scheduler_.onMainAfter(delay, [weak = weak_from_this()] {
         const std::shared_ptr<BannerProcess> self = weak.lock();
         if (!self)
             return;
-        self->isReminderSet_ = false;
+        {
+            const std::lock_guard lock(self->mutex_);
+            self->isReminderSet_ = false;
+        }
         if (!self->tree_.isEmpty())
             self->sendEvent();
     });

@@ -30,8 +30,9 @@ struct BannerService {
 
 // The process that draws banners, as a listener sees it: it launches, shows windows, sends events
 // and terminates. A bus thread tells what happens; a listener asks and is told.
-// Each change sends an event at once, and as long as something is unread another one follows when
-// the listener's throttle must have run out. With nothing unread, nothing runs.
+// A change sends an event at once, unless the listener's throttle is closed to it; and as long as
+// something is unread another one follows when the throttle must have run out. With nothing unread,
+// nothing runs.
 // A process with unread banners stays until they are read, or until another one takes its place.
 class BannerProcess : public std::enable_shared_from_this<BannerProcess> {
 public:
@@ -74,6 +75,7 @@ private:
     void terminate(const BannerService& service);
     void endWhenRead();
     void sendEvent();
+    bool isLeftToTheReminder() const;
     void remindWhileUnread();
 
     template <typename Function>
@@ -92,9 +94,10 @@ private:
     bool isEnding_ = false; // its name is gone, its banners are unread
     double scannedAt_;      // the last scan, or the last event that the throttle let through
     BannerChange unsentChange_ = BannerChange::none;
+    bool isEventOnItsWay_ = false; // to the main thread
+    bool isReminderSet_ = false;
 
     // Main thread only.
-    bool isReminderSet_ = false;
     EventHandlers eventHandlers_;
     LifecycleHandlers launchHandlers_;
     LifecycleHandlers terminationHandlers_;
