@@ -36,7 +36,7 @@ struct Hoard {
     explicit Hoard(qint64 rows)
         : fileSystem(folder.path())
         , defaults(folder.filePath(QStringLiteral("defaults.conf")))
-        , store(fileSystem, defaults) {
+        , store(fileSystem, defaults, clock) {
         defaults.setTextList(
             QStringLiteral("excludedBundleIds"),
             {QStringLiteral("com.example.one"), QStringLiteral("com.example.two")});
@@ -56,6 +56,7 @@ struct Hoard {
     QTemporaryDir folder;
     testing::SimulatedFileSystem fileSystem;
     SettingsDefaults defaults;
+    testing::ManualScheduler clock;
     HoardStore store;
     sqlite3* bare = nullptr;
 };

@@ -1,5 +1,7 @@
 #include "core/AppDelegate.h"
 
+#include "core/Retention.h"
+
 #include <QCoreApplication>
 #include <QQuickWindow>
 
@@ -35,9 +37,15 @@ void AppDelegate::beginLaunchFlow() {
 }
 
 void AppDelegate::finishStartup() {
+    applyRetention();
     listener_->start();
     fdaConfirmedAtLaunch_ =
         services_.capture.platform.fileSystem->grantsReading(listener_->usernotedDbPath());
+}
+
+void AppDelegate::applyRetention() {
+    const NotificationListener::Services& capture = services_.capture;
+    tessarine::applyRetention(capture.preferences, capture.hoard, capture.diagnostics);
 }
 
 void AppDelegate::showMainWindow() {

@@ -52,6 +52,7 @@ public:
 private:
     void beginLaunchFlow();
     void finishStartup();
+    void applyRetention();
 
     Services services_;
     std::shared_ptr<NotificationListener> listener_;

@@ -6,7 +6,6 @@
 #include "store/Sqlite.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace tessarine {
 
@@ -50,11 +49,16 @@ FROM notifications
 ORDER BY pinned DESC, timestamp DESC
 LIMIT ?;)";
 
+constexpr const char* selectDistinctApps = R"(SELECT DISTINCT bundle_id, app_name
+FROM notifications
+WHERE bundle_id IS NOT NULL AND bundle_id != ''
+ORDER BY app_name COLLATE NOCASE ASC;)";
+
+const QByteArray togglePinWhereId =
+    "UPDATE notifications SET pinned = CASE WHEN pinned=1 THEN 0 ELSE 1 END WHERE id = ";
+
 constexpr const char* selectMaxNoteId = "SELECT MAX(system_note_id) FROM notifications";
 constexpr const char* selectTotalCount = "SELECT COUNT(*) FROM notifications";
-constexpr const char* selectCounts =
-    "SELECT COUNT(*), SUM(pinned), COUNT(DISTINCT bundle_id) FROM notifications;";
-constexpr const char* selectSpan = "SELECT MIN(timestamp), MAX(timestamp) FROM notifications;";
 
 const QString excludedBundleIdsKey = QStringLiteral("excludedBundleIds");
 const QString recIdKey = QStringLiteral("lastSeenUsernotedRecId");
@@ -71,17 +75,14 @@ QString makeHoardPath(const FileSystem& fileSystem) {
     return folder + QStringLiteral("/hoard.db");
 }
 
-std::optional<double> positive(double timestamp) {
-    return timestamp > 0.0 ? std::optional(timestamp) : std::nullopt;
-}
-
 } // namespace
 
-HoardStore::HoardStore(const FileSystem& fileSystem, UserDefaults& defaults)
+HoardStore::HoardStore(const FileSystem& fileSystem, UserDefaults& defaults, const Scheduler& clock)
     : dbPath_(makeHoardPath(fileSystem))
     , queue_("com.zorvek.Tessarine.store")
     , fileSystem_(fileSystem)
-    , defaults_(defaults) {
+    , defaults_(defaults)
+    , clock_(clock) {
     open();
     createSchema();
 }
@@ -91,8 +92,9 @@ HoardStore::~HoardStore() {
 }
 
 HoardStore& HoardStore::shared() {
+    const Platform& platform = Platform::shared();
     static HoardStore* const store =
-        new HoardStore(*Platform::shared().fileSystem, *Platform::shared().userDefaults);
+        new HoardStore(*platform.fileSystem, *platform.userDefaults, *platform.scheduler);
     return *store;
 }
 
@@ -212,23 +214,20 @@ qint64 HoardStore::singleInteger(const char* query) {
     return statement.stepsToRow() ? statement.int32(0) : 0;
 }
 
-HoardStats HoardStore::stats() {
-    HoardStats stats;
-    queue_.sync([&] {
-        SqliteStatement counts(db_, selectCounts);
-        if (counts.stepsToRow()) {
-            stats.totalCount = counts.int64(0);
-            stats.pinnedCount = counts.int64(1);
-            stats.distinctAppsCount = counts.int64(2);
-        }
-        SqliteStatement span(db_, selectSpan);
-        if (span.stepsToRow()) {
-            stats.firstTimestamp = positive(span.real(0));
-            stats.lastTimestamp = positive(span.real(1));
-        }
+DistinctAppList HoardStore::distinctApps() {
+    return queue_.sync([&] {
+        DistinctAppList apps;
+        SqliteStatement statement(db_, selectDistinctApps);
+        while (statement.stepsToRow())
+            apps.push_back({statement.text(0), statement.text(1)});
+        return apps;
     });
-    stats.fileSizeBytes = QFileInfo(dbPath_).size();
-    return stats;
+}
+
+// The id is a number and stands in the text.
+void HoardStore::togglePin(qint64 id) {
+    const QByteArray statement = togglePinWhereId + QByteArray::number(id) + ';';
+    queue_.sync([&] { execute(statement.constData()); });
 }
 
 qint64 HoardStore::cursor(const QString& key) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FileSystem.h"
+#include "platform/Scheduler.h"
 #include "platform/SerialQueue.h"
 #include "platform/UserDefaults.h"
 #include "shared/CapturedNotification.h"
@@ -11,8 +12,19 @@
 #include <sqlite3.h>
 
 #include <set>
+#include <vector>
 
 namespace tessarine {
+
+// An application as the hoard knows it: one that came under two names is there twice.
+struct DistinctApp {
+    QString bundleId;
+    QString appName; // may be empty
+
+    bool operator==(const DistinctApp&) const = default;
+};
+
+using DistinctAppList = std::vector<DistinctApp>;
 
 // The archive of every captured notification: one SQLite file. Any thread may call; each call
 // blocks until its work is done, one at a time. No operation reports an error: a hoard that can't
@@ -20,8 +32,9 @@ namespace tessarine {
 class HoardStore {
 public:
     // Opens the hoard in the first folder for application data, making folder, file and schema as
-    // needed. The defaults hold the excluded applications and the capture cursors.
-    HoardStore(const FileSystem& fileSystem, UserDefaults& defaults);
+    // needed. The defaults hold the excluded applications and the capture cursors; the clock tells
+    // how old a row is.
+    HoardStore(const FileSystem& fileSystem, UserDefaults& defaults, const Scheduler& clock);
     HoardStore(const HoardStore&) = delete;
     HoardStore& operator=(const HoardStore&) = delete;
     ~HoardStore(); // closes the connection; the program's own store is never destroyed
@@ -48,6 +61,32 @@ public:
     qint64 maxSystemNoteId(); // 0 when there is none
     HoardStats stats();       // reads the whole table: not on the main thread
 
+    // All applications with an id, by name without regard to the case of ASCII letters.
+    DistinctAppList distinctApps();
+
+    // Pins the row, or takes its pin away. An id that no row has changes nothing.
+    void togglePin(qint64 id);
+
+    // Deletions take pinned rows like all others. Of failures a caller hears nothing. An id
+    // outside the signed 32-bit range ends the process.
+    void deleteNotification(qint64 id);
+    void deleteApp(const QString& appName); // all of the shown name, whatever their bundle ids
+    void deleteDay(const QString& key);     // 24 hours from the day's start; the key as of dayKey
+    void deleteAll();                       // ids go on from the highest there ever was
+
+    // The rows older than so many days. How many went; 0 when the hoard can't be used.
+    qint64 deleteOlderThan(qint64 days);
+
+    // The rows older than so many hours that may hold a one-time code: four digits in a row, or a
+    // word that such messages use. Below one hour there is nothing to do.
+    qint64 deleteOtpOlderThan(qint64 hours);
+
+    // Takes the log over into the main file, as far as readers outside this process let it.
+    void checkpoint();
+
+    // "ok", or what is wrong, a line for each finding. Reads the whole file.
+    QString integrityCheck();
+
     // Capture cursors. They lie in the user defaults and never move back.
     qint64 lastSeenUsernotedRecId(); // where none is stored, the highest key in the hoard
     void saveLastSeenUsernotedRecId(qint64 value);
@@ -64,6 +103,7 @@ private:
     void execute(const char* script);
     qint64 singleInteger(const char* query);
     bool isExcluded(const QString& bundleId) const;
+    qint64 deletedBefore(double edge, const char* deletion);
     bool isDuplicate(const CapturedNotification& notification);
     qint64 cursor(const QString& key);
     void raiseCursor(const QString& key, qint64 value);
@@ -73,6 +113,7 @@ private:
     SerialQueue queue_;
     const FileSystem& fileSystem_;
     UserDefaults& defaults_;
+    const Scheduler& clock_;
 };
 
 } // namespace tessarine

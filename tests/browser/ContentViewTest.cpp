@@ -17,7 +17,7 @@ class ContentViewTest : public ::testing::Test {
 protected:
     QTemporaryDir folder_;
     testing::SimulatedPlatform system_{folder_.path()};
-    HoardStore hoard_{system_.fileSystem, system_.defaults};
+    HoardStore hoard_{system_.fileSystem, system_.defaults, system_.scheduler};
     PreferencesStore preferences_{system_.defaults};
     DiagnosticsStore diagnostics_{system_.scheduler, [this]() -> HoardStore& { return hoard_; }};
     std::shared_ptr<NotificationListener> listener_ = NotificationListener::create(

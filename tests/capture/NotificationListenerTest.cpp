@@ -36,7 +36,7 @@ protected:
 
     HoardStore& hoard() {
         if (!hoard_)
-            hoard_.emplace(system_.fileSystem, system_.defaults);
+            hoard_.emplace(system_.fileSystem, system_.defaults, system_.scheduler);
         return *hoard_;
     }
 

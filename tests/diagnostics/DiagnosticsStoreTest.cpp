@@ -247,7 +247,7 @@ protected:
 
     QTemporaryDir home;
     testing::SimulatedPlatform platform{home.path()};
-    HoardStore hoard{platform.fileSystem, platform.defaults};
+    HoardStore hoard{platform.fileSystem, platform.defaults, platform.scheduler};
     int asked = 0;
     DiagnosticsStore store{platform.scheduler, [this]() -> HoardStore& {
                                ++asked;

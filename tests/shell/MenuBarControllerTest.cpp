@@ -31,7 +31,7 @@ protected:
 
     QTemporaryDir folder_;
     testing::SimulatedPlatform system_{folder_.path()};
-    HoardStore hoard_{system_.fileSystem, system_.defaults};
+    HoardStore hoard_{system_.fileSystem, system_.defaults, system_.scheduler};
     PreferencesStore preferences_{system_.defaults};
     DiagnosticsStore diagnostics_{system_.scheduler, [this]() -> HoardStore& { return hoard_; }};
     std::shared_ptr<NotificationListener> listener_ = NotificationListener::create(

@@ -237,7 +237,8 @@ TEST(HoardCursorOrder, WritesTheIdsBeforeTheirTime) {
     const QTemporaryDir home;
     const testing::SimulatedFileSystem fileSystem(home.path());
     OrderedDefaults defaults;
-    HoardStore store(fileSystem, defaults);
+    const testing::ManualScheduler clock;
+    HoardStore store(fileSystem, defaults, clock);
     store.saveLastSeenUsernotedState({1}, 5.0);
     EXPECT_THAT(defaults.order, ElementsAre(recIdsKey, timestampKey));
 }

@@ -19,7 +19,7 @@ namespace tessarine::testing {
 class HoardFixture : public ::testing::Test {
 protected:
     HoardStore& start() {
-        store = std::make_unique<HoardStore>(fileSystem, defaults);
+        store = std::make_unique<HoardStore>(fileSystem, defaults, scheduler);
         return *store;
     }
 
@@ -54,6 +54,7 @@ protected:
     QTemporaryDir home;
     SimulatedDefaults defaults;
     SimulatedFileSystem fileSystem{home.path()};
+    ManualScheduler scheduler;
     std::unique_ptr<HoardStore> store;
 };
 

@@ -255,7 +255,7 @@ TEST_F(HoardSchema, HoldsWhatAnUncleanEndLeftInTheLog) {
                               .c_str()),
               0);
     const testing::SimulatedFileSystem crashed(home.filePath(u"crashed"_qs));
-    HoardStore recovered(crashed, defaults);
+    HoardStore recovered(crashed, defaults, scheduler);
     EXPECT_EQ(recovered.totalCount(), 1);
 }
 
@@ -277,15 +277,17 @@ public:
 
 TEST(HoardPlaceDeathTest, EndsTheProcessWhereTheSystemNamesNoFolder) {
     testing::SimulatedDefaults defaults;
+    const testing::ManualScheduler clock;
     const NoFolders fileSystem{QString()};
-    EXPECT_DEATH(HoardStore(fileSystem, defaults), "no folder for application data");
+    EXPECT_DEATH(HoardStore(fileSystem, defaults, clock), "no folder for application data");
 }
 
 TEST(HoardPlace, IsTheFirstFolderThatTheSystemNames) {
     const QTemporaryDir home;
     testing::SimulatedDefaults defaults;
+    const testing::ManualScheduler clock;
     const TwoFolders fileSystem(home.path());
-    const HoardStore store(fileSystem, defaults);
+    const HoardStore store(fileSystem, defaults, clock);
     EXPECT_EQ(store.path(), home.path() + u"/first/Tessarine/hoard.db"_qs);
     EXPECT_FALSE(QFileInfo::exists(home.filePath(u"second"_qs)));
 }
@@ -293,8 +295,9 @@ TEST(HoardPlace, IsTheFirstFolderThatTheSystemNames) {
 TEST(HoardPlace, MayHoldBlanksAndLettersOfAnyScript) {
     const QTemporaryDir home;
     testing::SimulatedDefaults defaults;
+    const testing::ManualScheduler clock;
     const testing::SimulatedFileSystem fileSystem(home.filePath(u"Ünïcödé 漢字 %41 ' x"_qs));
-    HoardStore store(fileSystem, defaults);
+    HoardStore store(fileSystem, defaults, clock);
     EXPECT_TRUE(QFileInfo(store.path()).isFile());
     EXPECT_EQ(store.stats().fileSizeBytes, QFileInfo(store.path()).size());
 }

@@ -42,7 +42,7 @@ protected:
     QString answersToAnOrdinaryUser(mode_t modeOfHome = 0755) {
         EXPECT_EQ(chmod(QFile::encodeName(home.path()).constData(), modeOfHome), 0);
         return asOrdinaryUser([this] {
-            HoardStore unprivileged(fileSystem, defaults);
+            HoardStore unprivileged(fileSystem, defaults, scheduler);
             return answers(unprivileged, capture(1));
         });
     }

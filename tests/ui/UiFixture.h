@@ -45,7 +45,7 @@ protected:
 
     QTemporaryDir folder;
     SimulatedPlatform system{folder.path()};
-    HoardStore hoard{system.fileSystem, system.defaults};
+    HoardStore hoard{system.fileSystem, system.defaults, system.scheduler};
     PreferencesStore preferences{system.defaults};
     DiagnosticsStore diagnostics{system.scheduler, [this]() -> HoardStore& { return hoard; }};
     std::shared_ptr<NotificationListener> listener = NotificationListener::create(

@@ -1,0 +1,133 @@
+// What takes rows out of the hoard. Pinned rows are no exception anywhere.
+
+#include "shared/DayKey.h"
+#include "shared/Narrowing.h"
+#include "shared/ReferenceTime.h"
+#include "shared/Text.h"
+#include "store/HoardStore.h"
+#include "store/Sqlite.h"
+
+namespace tessarine {
+
+namespace {
+
+constexpr const char* deleteById = "DELETE FROM notifications WHERE id = ?";
+constexpr const char* deleteByAppName = "DELETE FROM notifications WHERE app_name = ?";
+constexpr const char* deleteSpan =
+    "DELETE FROM notifications WHERE timestamp >= ? AND timestamp < ?;";
+constexpr const char* deleteEverything = "DELETE FROM notifications";
+constexpr const char* deleteBefore = "DELETE FROM notifications WHERE timestamp < ?";
+
+// Takes more than its comments say, and that is meant: any four digits in a row, be they a year or
+// a price, and the short keywords also within longer words. LOWER knows ASCII alone.
+constexpr const char* deleteCodesBefore = R"(DELETE FROM notifications
+WHERE timestamp < ?
+AND (
+    -- Short numeric codes: 4 to 8 digits as a standalone token
+    title  GLOB '*[0-9][0-9][0-9][0-9]*'
+    OR body GLOB '*[0-9][0-9][0-9][0-9]*'
+    -- OTP keywords (checked via LOWER for unicode safety)
+    OR LOWER(title) LIKE '%otp%'
+    OR LOWER(body)  LIKE '%otp%'
+    OR LOWER(title) LIKE '%2fa%'
+    OR LOWER(body)  LIKE '%2fa%'
+    OR LOWER(title) LIKE '%two-factor%'
+    OR LOWER(body)  LIKE '%two-factor%'
+    OR LOWER(title) LIKE '%two factor%'
+    OR LOWER(body)  LIKE '%two factor%'
+    OR LOWER(title) LIKE '%verification code%'
+    OR LOWER(body)  LIKE '%verification code%'
+    OR LOWER(title) LIKE '%verify%'
+    OR LOWER(body)  LIKE '%verify%'
+    OR LOWER(title) LIKE '%your code%'
+    OR LOWER(body)  LIKE '%your code%'
+    OR LOWER(title) LIKE '%codice%'
+    OR LOWER(body)  LIKE '%codice%'
+    OR LOWER(title) LIKE '%codice monouso%'
+    OR LOWER(body)  LIKE '%codice monouso%'
+    OR LOWER(title) LIKE '%bestätigungscode%'
+    OR LOWER(body)  LIKE '%bestätigungscode%'
+    OR LOWER(title) LIKE '%einmalpasswort%'
+    OR LOWER(body)  LIKE '%einmalpasswort%'
+    OR LOWER(title) LIKE '%code de vérification%'
+    OR LOWER(body)  LIKE '%code de vérification%'
+    OR LOWER(title) LIKE '%code de verification%'
+    OR LOWER(body)  LIKE '%code de verification%'
+    OR LOWER(title) LIKE '%passcode%'
+    OR LOWER(body)  LIKE '%passcode%'
+    OR LOWER(title) LIKE '%authenticate%'
+    OR LOWER(body)  LIKE '%authenticate%'
+    OR LOWER(title) LIKE '%one-time%'
+    OR LOWER(body)  LIKE '%one-time%'
+    OR LOWER(title) LIKE '%einmalig%'
+    OR LOWER(body)  LIKE '%einmalig%'
+);)";
+
+constexpr double secondsPerHour = 3600.0;
+
+} // namespace
+
+void HoardStore::deleteNotification(qint64 id) {
+    queue_.sync([&] {
+        SqliteStatement statement(db_, deleteById);
+        if (!statement.isReady())
+            return;
+        statement.bindInt32(1, narrowToInt32(id));
+        statement.stepsToDone();
+    });
+}
+
+void HoardStore::deleteApp(const QString& appName) {
+    queue_.sync([&] {
+        SqliteStatement statement(db_, deleteByAppName);
+        if (!statement.isReady())
+            return;
+        statement.bind(1, storedUtf8(appName));
+        statement.stepsToDone();
+    });
+}
+
+// The span is 24 hours also where the clock is changed, and the day has 23 or 25.
+void HoardStore::deleteDay(const QString& key) {
+    const std::optional<double> start = startOfDay(key);
+    if (!start)
+        return;
+    queue_.sync([&] {
+        SqliteStatement statement(db_, deleteSpan);
+        if (!statement.isReady())
+            return;
+        statement.bind(1, *start);
+        statement.bind(2, *start + secondsPerDay);
+        statement.stepsToDone();
+    });
+}
+
+void HoardStore::deleteAll() {
+    queue_.sync([&] { execute(deleteEverything); });
+}
+
+qint64 HoardStore::deleteOlderThan(qint64 days) {
+    const double edge = clock_.now() + static_cast<double>(days) * -secondsPerDay;
+    return queue_.sync([&] { return deletedBefore(edge, deleteBefore); });
+}
+
+qint64 HoardStore::deleteOtpOlderThan(qint64 hours) {
+    if (hours < 1)
+        return 0;
+    return queue_.sync([&] {
+        const double edge = clock_.now() + static_cast<double>(hours) * -secondsPerHour;
+        return deletedBefore(edge, deleteCodesBefore);
+    });
+}
+
+// A step that fails goes unnoticed: the count is then that of the change before it.
+qint64 HoardStore::deletedBefore(double edge, const char* deletion) {
+    SqliteStatement statement(db_, deletion);
+    if (!statement.isReady())
+        return 0;
+    statement.bind(1, edge);
+    statement.stepsToDone();
+    return sqlite3_changes(db_);
+}
+
+} // namespace tessarine
