@@ -2,7 +2,7 @@
 
 #include "shared/ReferenceTime.h"
 
-#include <QDateTime>
+#include <QDate>
 
 #include <algorithm>
 #include <array>
@@ -18,6 +18,8 @@ namespace {
 constexpr qint64 unixSeconds = static_cast<qint64>(unixSecondsAtReferenceDate);
 constexpr qint64 daySeconds = static_cast<qint64>(secondsPerDay);
 
+constexpr qsizetype keyLength = 10;
+
 constexpr std::chrono::sys_days firstDay{std::chrono::year(1) / 1 / 1};
 constexpr std::chrono::sys_days lastDay{std::chrono::year(9999) / 12 / 31};
 
@@ -29,7 +31,7 @@ qint64 floorDivided(qint64 value, qint64 divisor) {
 qint64 askOffset(qint64 moment) {
     const std::time_t time = moment;
     std::tm local{};
-    return localtime_r(&time, &local) ? local.tm_gmtoff : 0;
+    return localtime_r(&time, &local) ? local.tm_gmtoff : 0; // in the zone that tzset has found
 }
 
 // The local clock's offsets, remembered by days of UTC for a second: asking the system for each row
@@ -79,7 +81,7 @@ void writeDigits(QChar* end, unsigned value, int count) {
 
 QString keyText(std::chrono::sys_days day) {
     const std::chrono::year_month_day date(day);
-    QString text(10, u'-');
+    QString text(keyLength, u'-');
     writeDigits(text.data() + 4, static_cast<unsigned>(static_cast<int>(date.year())), 4);
     writeDigits(text.data() + 7, static_cast<unsigned>(date.month()), 2);
     writeDigits(text.data() + 10, static_cast<unsigned>(date.day()), 2);
@@ -100,6 +102,26 @@ std::chrono::sys_days localDay(double timestamp) {
     return std::clamp(std::chrono::sys_days(std::chrono::days(day)), firstDay, lastDay);
 }
 
+// When the local clock first shows the midnight that it would be in UTC at this moment, or jumps
+// over it.
+qint64 firstInstant(qint64 midnight) {
+    tzset();
+    constexpr qint64 greatestOffset = 16 * 60 * 60;
+    qint64 earlier = midnight - greatestOffset;
+    qint64 later = midnight + greatestOffset;
+    const qint64 before = askOffset(earlier);
+    const qint64 after = askOffset(later);
+    for (const qint64 offset : {before, after}) {
+        if (askOffset(midnight - offset) == offset)
+            return midnight - offset;
+    }
+    while (later - earlier > 1) {
+        const qint64 middle = earlier + (later - earlier) / 2;
+        (askOffset(middle) == before ? earlier : later) = middle;
+    }
+    return later;
+}
+
 } // namespace
 
 QString dayKey(double timestamp) {
@@ -107,13 +129,12 @@ QString dayKey(double timestamp) {
 }
 
 std::optional<double> startOfDay(const QString& key) {
-    const QDate date = QDate::fromString(key, QStringLiteral("yyyy-MM-dd"));
-    if (!date.isValid() || date.toString(QStringLiteral("yyyy-MM-dd")) != key)
+    const QDate date = QDate::fromString(key, Qt::ISODate);
+    if (key.size() != keyLength || !date.isValid() || date.toString(Qt::ISODate) != key)
         return std::nullopt;
-    const QDateTime start = date.startOfDay(Qt::LocalTime);
-    if (!start.isValid())
-        return std::nullopt;
-    return static_cast<double>(start.toSecsSinceEpoch() - unixSeconds);
+    const qint64 start = firstInstant(QDate(1970, 1, 1).daysTo(date) * daySeconds);
+    const double timestamp = static_cast<double>(start - unixSeconds);
+    return dayKey(timestamp) == key ? std::optional(timestamp) : std::nullopt;
 }
 
 } // namespace tessarine
