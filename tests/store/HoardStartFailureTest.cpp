@@ -18,20 +18,38 @@ using ::testing::IsEmpty;
 
 // The program runs on without its hoard. What each operation then answers, in one line: nothing
 // but that line may come of a hoard that can't be used.
-const QString nothingAtAll = u"insert 0 banner 0 rows 0 total 0 max 0 cursors 0 0 stats 0"_qs;
+const QString nothingAtAll = u"insert 0 banner 0 rows 0 total 0 max 0 cursors 0 0 stats 0 "
+                             "apps 0 deleted 0 0 check Failed to prepare integrity_check"_qs;
+
+// A file that is empty is sound, though nothing can be done with it.
+const QString nothingButSound =
+    u"insert 0 banner 0 rows 0 total 0 max 0 cursors 0 0 stats 0 apps 0 deleted 0 0 check ok"_qs;
 
 QString answers(HoardStore& store, const CapturedNotification& notification) {
     const HoardStats stats = store.stats();
-    return u"insert %1 banner %2 rows %3 total %4 max %5 cursors %6 %7 stats %8"_qs
-        .arg(store.insert(notification))
-        .arg(store.insertDeduplicated(notification))
-        .arg(store.fetchRecent(500).size())
-        .arg(store.totalCount())
-        .arg(store.maxSystemNoteId())
-        .arg(store.lastSeenUsernotedRecId())
-        .arg(store.lastSeenSystemNoteId())
-        .arg(stats.totalCount + stats.pinnedCount + stats.distinctAppsCount +
-             (stats.firstTimestamp || stats.lastTimestamp ? 1 : 0));
+    const QString reading =
+        u"insert %1 banner %2 rows %3 total %4 max %5 cursors %6 %7 stats %8"_qs
+            .arg(store.insert(notification))
+            .arg(store.insertDeduplicated(notification))
+            .arg(store.fetchRecent(500).size())
+            .arg(store.totalCount())
+            .arg(store.maxSystemNoteId())
+            .arg(store.lastSeenUsernotedRecId())
+            .arg(store.lastSeenSystemNoteId())
+            .arg(stats.totalCount + stats.pinnedCount + stats.distinctAppsCount +
+                 (stats.firstTimestamp || stats.lastTimestamp ? 1 : 0));
+    const QString maintenance =
+        u" apps %1 deleted %2 %3 check %4"_qs.arg(store.distinctApps().size())
+            .arg(store.deleteOlderThan(100000))
+            .arg(store.deleteOtpOlderThan(1000000))
+            .arg(store.integrityCheck());
+    store.togglePin(-1);
+    store.deleteNotification(-1);
+    store.deleteApp(u"Nobody"_qs);
+    store.deleteDay(u"1900-01-01"_qs);
+    store.deleteAll();
+    store.checkpoint();
+    return reading + maintenance;
 }
 
 class HoardStartFailure : public testing::HoardFixture {
@@ -142,7 +160,8 @@ TEST_F(HoardStartFailure, IsSilentWhereTheHoardMayNotBeRead) {
 
 TEST_F(HoardStartFailure, WorksForAnOrdinaryUserInAFolderOfTheirOwn) {
     EXPECT_EQ(answersToAnOrdinaryUser(0777),
-              u"insert 1 banner 0 rows 1 total 1 max 1 cursors 1 1 stats 0"_qs);
+              u"insert 1 banner 0 rows 1 total 1 max 1 cursors 1 1 stats 0 apps 1 "
+              "deleted 0 0 check ok"_qs);
 }
 
 // A disk that is full: a file system of 128 kB of the test's own.
@@ -179,7 +198,7 @@ private:
 TEST_F(FullDisk, IsSilentAtTheFirstStart) {
     ASSERT_TRUE(QDir().mkpath(folder()));
     fill();
-    EXPECT_EQ(answersOfAStart(), nothingAtAll);
+    EXPECT_EQ(answersOfAStart(), nothingButSound);
 }
 
 TEST_F(FullDisk, AnswersFalseAndKeepsWhatIsThere) {
