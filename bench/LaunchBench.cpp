@@ -4,6 +4,8 @@
 //
 // usage: bench_launch [ROWS] [PROCESSES]
 
+#include "apps/AppIconResolver.h"
+#include "apps/AppIconView.h"
 #include "browser/MainWindow.h"
 #include "core/AppDelegate.h"
 #include "theme/ViewEngine.h"
@@ -54,6 +56,7 @@ int runChild(int argc, char** argv, double start) {
     registerUi();
     Theme theme(*Desktop::shared().appearance);
     const std::unique_ptr<QQmlEngine> views = makeViewEngine(theme, *Desktop::shared().symbols);
+    installAppIcons(*views, AppIconResolver::shared().shared_from_this());
     reached("2-engine", start);
     const auto listener =
         NotificationListener::create({&HoardStore::shared, PreferencesStore::shared(),

@@ -14,8 +14,9 @@
 #include <chrono>
 #include <cmath>
 
-// In the sources that Qt makes for the module. Naming it keeps a static library's types from being
-// left out of the program.
+// In the sources that Qt makes for the modules. Naming them keeps a static library's types from
+// being left out of the program.
+void qml_register_types_Tessarine_Apps();
 void qml_register_types_Tessarine_Browser();
 
 namespace tessarine {
@@ -55,6 +56,7 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::load() {
+    [[maybe_unused]] const volatile auto icons = &qml_register_types_Tessarine_Apps;
     [[maybe_unused]] const volatile auto types = &qml_register_types_Tessarine_Browser;
     window_->setTitle(QStringLiteral("Tessarine"));
     window_->setMinimumSize(minimumSize);

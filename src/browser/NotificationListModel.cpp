@@ -1,6 +1,5 @@
 #include "browser/NotificationListModel.h"
 
-#include "browser/AppPlaceholder.h"
 #include "browser/ListDifference.h"
 #include "browser/RowTimeFormatter.h"
 
@@ -91,6 +90,8 @@ QVariant NotificationListModel::value(const CapturedNotification& row, Role role
     switch (role) {
     case Role::NotificationId:
         return row.id;
+    case Role::BundleId:
+        return row.appBundleId;
     case Role::AppName:
         return row.appName;
     case Role::Title:
@@ -99,10 +100,6 @@ QVariant NotificationListModel::value(const CapturedNotification& row, Role role
         return beginning(row.body);
     case Role::TimeText:
         return rowDateTimeFormatter().text(row.timestamp);
-    case Role::Initials:
-        return placeholderInitials(row.appName);
-    case Role::InitialsColour:
-        return placeholderColor(row.appName);
     case Role::SpokenText:
         return spokenText(row);
     }

@@ -19,13 +19,12 @@ public:
     // Each is a role in QML, under its name with a small first letter.
     enum class Role {
         NotificationId = Qt::UserRole + 1, // fresh with each reload
+        BundleId,
         AppName,
         Title,          // its beginning: as much as a row can show
         Body,           // likewise
         TimeText,       // date and time in the user's style
-        Initials,       // what stands for the application's icon
-        InitialsColour, // and the colour behind it
-        SpokenText,     // the whole row for a screen reader
+        SpokenText, // the whole row for a screen reader
     };
     Q_ENUM(Role)
 

@@ -1,27 +1,29 @@
 import QtQuick
+import Tessarine.Apps
 import Tessarine.Theme
 
 // One notification in the list.
 Item {
     id: row
 
+    required property string bundleId
     required property string appName
     required property string title
     required property string body
     required property string timeText
-    required property string initials
-    required property color initialsColour
     required property string spokenText
 
     readonly property int horizontalPadding: 10
     readonly property int verticalPadding: 6
     readonly property int itemSpacing: 10
+    readonly property int iconRadius: 8
     readonly property real timeOpacity: 0.7
     readonly property real restingOpacity: 0.5
 
     implicitHeight: Math.max(icon.height, texts.height) + 2 * verticalPadding
     Accessible.role: Accessible.ListItem
     Accessible.name: spokenText
+    ListView.onReused: icon.rebuild()
 
     HoverHandler {
         id: pointer
@@ -38,7 +40,7 @@ Item {
         opacity: pointer.hovered ? 1 : row.restingOpacity
     }
 
-    AppPlaceholder {
+    AppIconView {
         id: icon
 
         anchors.left: card.left
@@ -46,8 +48,9 @@ Item {
         y: row.verticalPadding
         width: Metrics.iconSize
         height: Metrics.iconSize
-        initials: row.initials
-        color: row.initialsColour
+        bundleId: row.bundleId
+        appName: row.appName
+        cornerRadius: row.iconRadius
     }
 
     Column {

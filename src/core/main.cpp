@@ -1,3 +1,5 @@
+#include "apps/AppIconView.h"
+#include "apps/AppIconResolver.h"
 #include "core/AppDelegate.h"
 #include "platform/SingleInstance.h"
 #include "theme/ViewEngine.h"
@@ -35,6 +37,7 @@ int main(int argc, char** argv) {
     registerUi();
     Theme theme(*Desktop::shared().appearance);
     const std::unique_ptr<QQmlEngine> views = makeViewEngine(theme, *Desktop::shared().symbols);
+    installAppIcons(*views, AppIconResolver::shared().shared_from_this());
     AppDelegate delegate({captureServices(), Desktop::shared(), theme, *views});
     instance->onActivation([&delegate] { delegate.activate(); });
     delegate.applicationDidFinishLaunching();

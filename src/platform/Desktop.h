@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ApplicationControl.h"
+#include "platform/ApplicationIcons.h"
 #include "platform/StatusItem.h"
 #include "platform/Symbols.h"
 #include "platform/SystemAppearance.h"
@@ -13,6 +14,7 @@ namespace tessarine {
 // screen. Members are destroyed from the last to the first: later ones use earlier ones.
 struct Desktop {
     std::unique_ptr<Symbols> symbols;
+    std::unique_ptr<ApplicationIcons> applicationIcons;
     std::unique_ptr<SystemAppearance> appearance;
     std::unique_ptr<ApplicationControl> application;
     std::unique_ptr<StatusItem> statusItem;

@@ -90,18 +90,19 @@ TEST_F(ModelTest, RolesAreNamedAsTheEnumerationHasThem) {
     EXPECT_EQ(names.value(int(Role::AppName)), QByteArray("appName"));
     EXPECT_EQ(names.value(int(Role::Title)), QByteArray("title"));
     EXPECT_EQ(names.value(int(Role::SpokenText)), QByteArray("spokenText"));
-    EXPECT_EQ(names.size(), 8);
+    EXPECT_EQ(names.size(), 7);
 }
 
 TEST_F(ModelTest, ARowHasItsTexts) {
     CapturedNotification notification = row(7, u"Hello"_qs);
     notification.body = u"World"_qs;
+    notification.appBundleId = u"com.apple.mail"_qs;
     model_.setNotifications({notification});
     EXPECT_EQ(at(0, Role::NotificationId).toUuid(), notification.id);
     EXPECT_EQ(at(0, Role::AppName).toString(), u"Mail"_qs);
     EXPECT_EQ(at(0, Role::Title).toString(), u"Hello"_qs);
     EXPECT_EQ(at(0, Role::Body).toString(), u"World"_qs);
-    EXPECT_EQ(at(0, Role::Initials).toString(), u"MA"_qs);
+    EXPECT_EQ(at(0, Role::BundleId).toString(), u"com.apple.mail"_qs);
     EXPECT_TRUE(at(0, Role::TimeText).toString().contains(u"2001"_qs) ||
                 at(0, Role::TimeText).toString().contains(u"2000"_qs));
     EXPECT_TRUE(at(0, Role::SpokenText).toString().startsWith(u"Mail, Hello, World, "_qs));

@@ -121,6 +121,19 @@ SimulatedWorkspace::runningApplications(const QString& bundleIdentifier) const {
     return found;
 }
 
+std::optional<QString>
+SimulatedWorkspace::pathForApplication(const QString& bundleIdentifier) const {
+    const auto found = installed.find(bundleIdentifier);
+    return found == installed.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::optional<QString> SimulatedWorkspace::applicationInFolder(const QString& folder,
+                                                               const QString& name) const {
+    const QString path = folder + u'/' + name + QStringLiteral(".app");
+    askedPaths << path;
+    return bundles.contains(path) ? std::optional(path) : std::nullopt;
+}
+
 class SimulatedWorkspace::Observation : public WorkspaceObservation {
 public:
     Observation(SimulatedWorkspace& workspace, const std::shared_ptr<Handler>& handler)

@@ -8,6 +8,7 @@
 #include <QVariant>
 
 #include <map>
+#include <set>
 #include <vector>
 
 namespace tessarine::testing {
@@ -74,6 +75,11 @@ class SimulatedWorkspace : public Workspace {
 public:
     std::vector<RunningApplication>
     runningApplications(const QString& bundleIdentifier) const override;
+    std::optional<QString> pathForApplication(const QString& bundleIdentifier) const override;
+    std::optional<QString> applicationInFolder(const QString& folder,
+                                               const QString& name) const override;
+    void openApplication(const QString& path) override { openedApplications << path; }
+    void openURL(const QString& url) override { openedURLs << url; }
     std::unique_ptr<WorkspaceObservation> observe(WorkspaceEvent event, Handler handler) override;
 
     // Tells the observers of an event.
@@ -82,6 +88,11 @@ public:
     std::size_t observers() const { return handlers_.size(); }
 
     std::vector<RunningApplication> running;
+    std::map<QString, QString> installed; // paths by bundle identifier
+    std::set<QString> bundles;            // paths of what lies in the folders
+    mutable QStringList askedPaths;       // of bundles, in the order of the questions
+    QStringList openedApplications;
+    QStringList openedURLs;
 
 private:
     class Observation;

@@ -8,6 +8,7 @@
 namespace tessarine::testing {
 
 UiTest::UiTest() {
+    installAppIcons(*engine, resolver);
     QObject::connect(engine.get(), &QQmlEngine::warnings, engine.get(),
                      [](const QList<QQmlError>& warnings) {
                          for (const QQmlError& warning : warnings)

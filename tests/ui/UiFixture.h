@@ -1,9 +1,12 @@
 #pragma once
 
+#include "apps/AppIconResolver.h"
+#include "apps/AppIconView.h"
 #include "browser/MainWindow.h"
 #include "capture/NotificationListener.h"
 #include "platform/linux/LinuxSymbols.h"
 #include "support/Printers.h"
+#include "support/SimulatedApplicationIcons.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
 #include "theme/Theme.h"
@@ -52,6 +55,9 @@ protected:
         {[this]() -> HoardStore& { return hoard; }, preferences, diagnostics, system.platform});
     SimulatedAppearance appearance;
     LinuxSymbols symbols;
+    SimulatedApplicationIcons icons;
+    std::shared_ptr<AppIconResolver> resolver = AppIconResolver::create(
+        system.scheduler, {system.workspace, system.fileSystem, icons, symbols});
     Theme theme{appearance};
     std::unique_ptr<QQmlEngine> engine = makeViewEngine(theme, symbols);
     std::unique_ptr<MainWindow> window;

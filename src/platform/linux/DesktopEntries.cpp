@@ -1,5 +1,6 @@
 #include "platform/linux/DesktopEntries.h"
 
+#include "platform/linux/ExecLine.h"
 #include "shared/BundleId.h"
 
 #include <QDir>
@@ -82,7 +83,13 @@ QString localised(const QHash<QString, QString>& keys, const QString& key, const
     return keys.value(key);
 }
 
-QString userLocale() {
+bool isTrue(const QHash<QString, QString>& keys, const QString& key) {
+    return keys.value(key) == QStringLiteral("true");
+}
+
+} // namespace
+
+QString messageLocale() {
     for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
         QString value = qEnvironmentVariable(variable);
         if (!value.isEmpty())
@@ -91,22 +98,12 @@ QString userLocale() {
     return QStringLiteral("C");
 }
 
-} // namespace
-
 QString DesktopEntry::executable() const {
-    QString word;
-    bool quoted = false;
-    for (qsizetype i = 0; i < exec.size(); ++i) {
-        if (exec[i] == u'"')
-            quoted = !quoted;
-        else if (exec[i] == u' ' && !quoted)
-            break;
-        else if (exec[i] == u'\\' && quoted && i + 1 < exec.size())
-            word += exec[++i];
-        else
-            word += exec[i];
-    }
-    return word;
+    return execWords(exec).value_or(QStringList()).value(0);
+}
+
+bool DesktopEntry::isInstalled() const {
+    return tryExec.isEmpty() || !QStandardPaths::findExecutable(tryExec).isEmpty();
 }
 
 std::optional<DesktopEntry> readDesktopEntry(const QString& path, const QString& locale) {
@@ -115,13 +112,17 @@ std::optional<DesktopEntry> readDesktopEntry(const QString& path, const QString&
         return std::nullopt;
     const QHash<QString, QString> keys = readKeys(file);
     if (keys.value(QStringLiteral("Type")) != QStringLiteral("Application") ||
-        keys.value(QStringLiteral("Hidden")) == QStringLiteral("true"))
+        isTrue(keys, QStringLiteral("Hidden")))
         return std::nullopt;
     DesktopEntry entry;
     entry.path = path;
     entry.name = localised(keys, QStringLiteral("Name"), locale);
     entry.exec = keys.value(QStringLiteral("Exec"));
     entry.icon = localised(keys, QStringLiteral("Icon"), locale);
+    entry.tryExec = keys.value(QStringLiteral("TryExec"));
+    entry.workingFolder = keys.value(QStringLiteral("Path"));
+    entry.wantsTerminal = isTrue(keys, QStringLiteral("Terminal"));
+    entry.isBusActivatable = isTrue(keys, QStringLiteral("DBusActivatable"));
     return entry;
 }
 
@@ -133,9 +134,22 @@ DesktopEntries::DesktopEntries(QStringList folders)
 
 std::optional<DesktopEntry> DesktopEntries::find(const QString& bundleIdentifier) {
     refresh();
-    auto found = byId_.constFind(bundleIdentifier);
-    if (found == byId_.constEnd())
-        found = byId_.constFind(idByDerivedId_.value(bundleIdentifier));
+    const std::optional<DesktopEntry> entry = entryWithId(bundleIdentifier);
+    return entry ? entry : entryWithId(idByDerivedId_.value(bundleIdentifier));
+}
+
+std::optional<DesktopEntry> DesktopEntries::findNamed(const QString& name) {
+    refresh();
+    return entryWithId(idByName_.value(name));
+}
+
+std::optional<DesktopEntry> DesktopEntries::findAt(const QString& path) {
+    refresh();
+    return entryWithId(idByPath_.value(path));
+}
+
+std::optional<DesktopEntry> DesktopEntries::entryWithId(const QString& id) const {
+    const auto found = byId_.constFind(id);
     return found == byId_.constEnd() ? std::nullopt : std::optional(*found);
 }
 
@@ -149,6 +163,8 @@ void DesktopEntries::refresh() {
     ids_.clear();
     byId_.clear();
     idByDerivedId_.clear();
+    idByName_.clear();
+    idByPath_.clear();
     for (const QString& folder : folders_)
         readFolder(folder, folder);
 }
@@ -164,18 +180,27 @@ void DesktopEntries::readFolder(const QString& root, const QString& folder) {
         if (ids_.contains(id))
             continue;
         ids_.insert(id);
-        std::optional<DesktopEntry> entry = readDesktopEntry(file.filePath(), userLocale());
+        std::optional<DesktopEntry> entry = readDesktopEntry(file.filePath(), messageLocale());
         if (!entry)
             continue;
         entry->id = id;
-        const QString derivedId = derivedBundleId(entry->name);
-        if (!derivedId.isEmpty() && !idByDerivedId_.contains(derivedId))
-            idByDerivedId_.insert(derivedId, id);
-        byId_.insert(id, *entry);
+        addEntry(*entry);
     }
     const auto folders = directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
     for (const QString& name : folders)
         readFolder(root, directory.filePath(name));
+}
+
+void DesktopEntries::addEntry(const DesktopEntry& entry) {
+    byId_.insert(entry.id, entry);
+    idByPath_.insert(entry.path, entry.id);
+    if (entry.name.isEmpty())
+        return;
+    const QString derivedId = derivedBundleId(entry.name);
+    if (!idByDerivedId_.contains(derivedId))
+        idByDerivedId_.insert(derivedId, entry.id);
+    if (!idByName_.contains(entry.name))
+        idByName_.insert(entry.name, entry.id);
 }
 
 } // namespace tessarine

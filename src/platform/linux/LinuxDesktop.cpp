@@ -1,6 +1,7 @@
 #include "platform/linux/LinuxDesktop.h"
 
 #include "platform/Desktop.h"
+#include "platform/linux/LinuxApplicationIcons.h"
 #include "platform/linux/LinuxStatusItem.h"
 #include "platform/linux/LinuxSymbols.h"
 #include "platform/linux/LinuxSystemAppearance.h"
@@ -18,6 +19,7 @@ void LinuxApplicationControl::activate(QWindow& window) {
 std::unique_ptr<Desktop> makeDesktop() {
     auto desktop = std::make_unique<Desktop>();
     desktop->symbols = std::make_unique<LinuxSymbols>();
+    desktop->applicationIcons = std::make_unique<LinuxApplicationIcons>();
     desktop->appearance = std::make_unique<LinuxSystemAppearance>(QDBusConnection::sessionBus());
     desktop->application = std::make_unique<LinuxApplicationControl>();
     desktop->statusItem =

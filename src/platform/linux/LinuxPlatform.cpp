@@ -28,8 +28,9 @@ std::unique_ptr<Platform> makePlatform() {
     platform->scheduler = std::make_unique<QtScheduler>();
     platform->fileWatcher = std::make_unique<InotifyWatcher>(*platform->scheduler);
     const auto banners = std::make_shared<BannerProcess>(*platform->scheduler);
-    platform->workspace =
-        std::make_unique<LinuxWorkspace>(*platform->scheduler, banners, systemBusAddress());
+    platform->workspace = std::make_unique<LinuxWorkspace>(
+        *platform->scheduler, banners,
+        LinuxWorkspace::Buses{sessionBusAddress(), systemBusAddress()});
     platform->accessibility = std::make_unique<LinuxAccessibility>(banners, sessionBusAddress());
     return platform;
 }

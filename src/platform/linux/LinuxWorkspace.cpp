@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxWorkspace.h"
 
+#include "platform/linux/ApplicationStart.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -12,6 +14,9 @@ namespace {
 
 // The list of processes is read anew once it is this old: a burst of questions costs one reading.
 constexpr double processListLife = 1.0;
+
+// Desktop entries have no folders that a user would know. This one stands for all of theirs.
+const QString applicationsFolder = QStringLiteral("/Applications");
 
 // The program of a process, absent where the process is another user's. The system marks one whose
 // file an update has replaced; it runs all the same.
@@ -41,6 +46,10 @@ RunningApplication bannerApplication(qint32 pid) {
     return {pid, bannerProcess, std::nullopt};
 }
 
+std::optional<QString> installedPath(const std::optional<DesktopEntry>& entry) {
+    return entry && entry->isInstalled() ? std::optional(entry->path) : std::nullopt;
+}
+
 class TokenObservation : public WorkspaceObservation {
 public:
     explicit TokenObservation(std::shared_ptr<void> token)
@@ -53,15 +62,17 @@ private:
 } // namespace
 
 LinuxWorkspace::LinuxWorkspace(Scheduler& scheduler, std::shared_ptr<BannerProcess> banners,
-                               std::string systemBus)
+                               Buses buses)
     : scheduler_(scheduler)
     , banners_(std::move(banners))
-    , sleep_(scheduler, std::move(systemBus)) {}
+    , sessionBus_(std::move(buses.session))
+    , sleep_(scheduler, std::move(buses.system)) {}
 
 std::vector<RunningApplication>
 LinuxWorkspace::runningApplications(const QString& bundleIdentifier) const {
     if (bundleIdentifier == bannerProcess)
         return runningBannerProcess();
+    const std::lock_guard lock(mutex_);
     const std::optional<DesktopEntry> entry = entries_.find(bundleIdentifier);
     if (!entry)
         return {};
@@ -77,6 +88,37 @@ LinuxWorkspace::runningApplications(const QString& bundleIdentifier) const {
     for (const qint32 pid : pids)
         applications.push_back({pid, bundleIdentifier, entry->name});
     return applications;
+}
+
+std::optional<QString>
+LinuxWorkspace::pathForApplication(const QString& bundleIdentifier) const {
+    const std::lock_guard lock(mutex_);
+    return installedPath(entries_.find(bundleIdentifier));
+}
+
+std::optional<QString> LinuxWorkspace::applicationInFolder(const QString& folder,
+                                                           const QString& name) const {
+    if (folder != applicationsFolder)
+        return std::nullopt;
+    const std::lock_guard lock(mutex_);
+    return installedPath(entries_.findNamed(name));
+}
+
+void LinuxWorkspace::openApplication(const QString& path) {
+    std::optional<DesktopEntry> entry;
+    {
+        const std::lock_guard lock(mutex_);
+        entry = entries_.findAt(path);
+    }
+    if (!entry)
+        return;
+    scheduler_.onGlobalQueue(QualityOfService::userInitiated, [entry = *entry, bus = sessionBus_] {
+        startApplication(entry, bus);
+    });
+}
+
+void LinuxWorkspace::openURL(const QString& url) {
+    scheduler_.onGlobalQueue(QualityOfService::userInitiated, [url] { openWithDesktop(url); });
 }
 
 std::vector<RunningApplication> LinuxWorkspace::runningBannerProcess() const {

@@ -22,7 +22,8 @@ struct LogindSleepTest : ::testing::Test {
 
     std::unique_ptr<LinuxWorkspace> watch() {
         auto workspace = std::make_unique<LinuxWorkspace>(
-            scheduler, std::make_shared<BannerProcess>(scheduler), bus.address());
+            scheduler, std::make_shared<BannerProcess>(scheduler),
+            LinuxWorkspace::Buses{{}, bus.address()});
         const auto note = [this](const QString& event) {
             return [this, event](const std::optional<RunningApplication>& application) {
                 EXPECT_EQ(application, std::nullopt);

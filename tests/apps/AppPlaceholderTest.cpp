@@ -1,4 +1,4 @@
-#include "browser/AppPlaceholder.h"
+#include "apps/AppPlaceholder.h"
 
 #include "support/Printers.h"
 

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "apps/IconLookup.h"
+
+#include <QHash>
+#include <QImage>
+#include <QSet>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace tessarine {
+
+class Scheduler;
+
+// Gives applications their icons: each is looked up once, on a worker, and kept for as long as the
+// process runs. Main thread.
+class AppIconResolver : public std::enable_shared_from_this<AppIconResolver> {
+public:
+    using Completion = std::function<void(const QImage&)>;
+
+    // The one that the program's views share.
+    static AppIconResolver& shared();
+
+    // Scheduler and sources outlive the resolver and the lookups that it has started.
+    static std::shared_ptr<AppIconResolver> create(Scheduler& scheduler, IconSources sources);
+
+    static QString cacheKey(const QString& bundleId, const QString& appName) {
+        return iconCacheKey(bundleId, appName);
+    }
+
+    // Calls the completion with the icon: at once if it is known, else when it has been looked up.
+    // Never, if that lookup is under way already: the second to ask gets no answer.
+    void resolve(const QString& bundleId, const QString& appName, Completion completion);
+
+    // The finished icons by their keys.
+    const QHash<QString, QImage>& cache() const { return cache_; }
+
+    // The lookups themselves, which touch nothing of the resolver's state. Any thread.
+    QImage resolveIcon(const QString& bundleId, const QString& appName) const;
+    std::optional<QImage> systemSettingsIcon(const QString& appName, const QString& bundleId) const;
+
+private:
+    AppIconResolver(Scheduler& scheduler, IconSources sources);
+
+    void keep(const QString& key, const QImage& icon);
+
+    Scheduler& scheduler_;
+    const IconSources sources_;
+    QHash<QString, QImage> cache_; // only ever grows
+    QSet<QString> inflight_;       // keys being looked up
+};
+
+} // namespace tessarine

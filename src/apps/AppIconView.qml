@@ -1,0 +1,39 @@
+import QtQuick
+import Tessarine.Apps
+import Tessarine.Theme
+
+// The icon of an application, or a tile with its initials while there is none.
+AppIconViewState {
+    id: view
+
+    readonly property int tileRadius: 7
+
+    Image {
+        objectName: "icon"
+        anchors.fill: parent
+        visible: view.hasIcon
+        source: view.iconSource
+        sourceSize.width: view.width
+        sourceSize.height: view.height
+        smooth: true
+        mipmap: true
+        Accessible.ignored: true
+    }
+
+    Rectangle {
+        objectName: "placeholder"
+        anchors.fill: parent
+        visible: !view.hasIcon
+        radius: Math.max(view.tileRadius, view.cornerRadius)
+        color: view.placeholderColour
+
+        PlainLabel {
+            anchors.centerIn: parent
+            text: view.initials
+            color: "white"
+            font.pixelSize: Metrics.textBody
+            font.weight: Font.DemiBold
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,102 @@
+#include "apps/EventDate.h"
+
+#include "shared/ReferenceTime.h"
+#include "shared/Text.h"
+
+#include <QRegularExpression>
+
+#include <unicode/calendar.h>
+
+#include <limits>
+#include <memory>
+#include <optional>
+
+namespace tessarine {
+
+namespace {
+
+constexpr double secondsPerMinute = 60;
+constexpr double secondsPerHour = 3600;
+constexpr double millisecondsPerSecond = 1000;
+
+// Digits of every script count as digits, letters of every script as letters.
+QRegularExpression pattern(const QString& text) {
+    return QRegularExpression(text, QRegularExpression::UseUnicodePropertiesOption);
+}
+
+// Nothing where the number doesn't fit.
+std::optional<qint64> number(const QString& digits) {
+    constexpr qint64 most = std::numeric_limits<qint64>::max();
+    qint64 value = 0;
+    for (const uint character : digits.toUcs4()) {
+        const qint64 digit = QChar::digitValue(character);
+        if (value > (most - digit) / 10)
+            return std::nullopt;
+        value = value * 10 + digit;
+    }
+    return value;
+}
+
+std::optional<double> afterNow(const QString& text, const QString& unit, double seconds,
+                               double now) {
+    const auto match = pattern(QStringLiteral("in (\\d+) %1s?").arg(unit)).match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    return now + double(number(match.captured(1)).value_or(0)) * seconds;
+}
+
+// The clock time on the day of the given moment. Hours and minutes beyond those of a day run into
+// the days after it. Nothing where the calendar has no such moment.
+std::optional<double> onDayOf(double moment, const QString& hour, const QString& minute) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(status));
+    if (U_FAILURE(status))
+        return std::nullopt;
+    calendar->setTime((moment + unixSecondsAtReferenceDate) * millisecondsPerSecond, status);
+    calendar->set(UCAL_HOUR_OF_DAY, int32_t(number(hour).value_or(0)));
+    calendar->set(UCAL_MINUTE, int32_t(number(minute).value_or(0)));
+    calendar->set(UCAL_SECOND, 0);
+    calendar->set(UCAL_MILLISECOND, 0);
+    const UDate date = calendar->getTime(status);
+    if (U_FAILURE(status))
+        return std::nullopt;
+    return date / millisecondsPerSecond - unixSecondsAtReferenceDate;
+}
+
+// Outside: whether the rule applies. Inside: whether the calendar has the moment.
+using Moment = std::optional<double>;
+
+std::optional<Moment> onNamedDay(const QString& text, double now) {
+    const auto match =
+        pattern(QStringLiteral("(today|tomorrow) at (\\d{1,2}):(\\d{2})")).match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const bool isTomorrow = match.captured(1) == QStringLiteral("tomorrow");
+    return onDayOf(isTomorrow ? now + secondsPerDay : now, match.captured(2), match.captured(3));
+}
+
+std::optional<Moment> atClockTime(const QString& text, double now) {
+    const auto match = pattern(QStringLiteral("\\b(\\d{1,2}):(\\d{2})\\b")).match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const Moment moment = onDayOf(now, match.captured(1), match.captured(2));
+    return moment && *moment < now ? Moment(*moment + secondsPerDay) : moment;
+}
+
+} // namespace
+
+double eventDate(const QString& body, const QString& title, double timestamp, double now) {
+    // Halves of surrogate pairs, which patterns refuse, become characters of their own.
+    const QString text = QString::fromUtf8(storedUtf8(body + u' ' + title)).toLower();
+    if (const auto date = afterNow(text, QStringLiteral("minute"), secondsPerMinute, now))
+        return *date;
+    if (const auto date = afterNow(text, QStringLiteral("hour"), secondsPerHour, now))
+        return *date;
+    if (const auto date = onNamedDay(text, now))
+        return date->value_or(timestamp);
+    if (const auto date = atClockTime(text, now))
+        return date->value_or(timestamp);
+    return timestamp;
+}
+
+} // namespace tessarine
