@@ -35,7 +35,7 @@ struct BusMonitorFixture : ::testing::Test {
     void watch(const std::string& address,
                std::chrono::milliseconds firstAnswer = std::chrono::milliseconds(patience)) {
         process = std::make_shared<BannerProcess>(scheduler, firstAnswer);
-        workspace = std::make_unique<LinuxWorkspace>(scheduler, process, std::string());
+        workspace = std::make_unique<LinuxWorkspace>(scheduler, process, LinuxWorkspace::Buses());
         observe(WorkspaceEvent::didLaunchApplication, QStringLiteral("launch "));
         observe(WorkspaceEvent::didTerminateApplication, QStringLiteral("termination "));
         accessibility = std::make_unique<LinuxAccessibility>(process, address);

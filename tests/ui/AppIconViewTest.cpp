@@ -1,0 +1,163 @@
+#include "ui/UiFixture.h"
+
+#include <QDir>
+#include <QQmlComponent>
+
+namespace tessarine::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class AppIconViewTest : public UiTest {
+protected:
+    AppIconViewTest() {
+        system.workspace.installed[u"com.example.foo"_qs] = u"/Foo.app"_qs;
+        icons.files[u"/Foo.app"_qs] = square(256, Qt::red);
+        window_.resize(400, 100);
+        window_.setColor(Qt::white);
+        window_.show();
+    }
+
+    AppIconView* add(const QString& bundleId, const QString& appName, double x = 0) {
+        QQmlComponent component(engine.get());
+        component.setData("import Tessarine.Apps\nAppIconView { width: 36; height: 36; "
+                          "cornerRadius: 8 }",
+                          QUrl());
+        EXPECT_TRUE(component.isReady()) << component.errorString().toStdString();
+        auto* const view = qobject_cast<AppIconView*>(component.createWithInitialProperties(
+            {{u"bundleId"_qs, bundleId}, {u"appName"_qs, appName}, {u"x"_qs, x}}));
+        EXPECT_NE(view, nullptr);
+        view->setParentItem(window_.contentItem());
+        view->setParent(&window_);
+        return view;
+    }
+
+    // Draws what is there; then come the lookups, and the drawing of what they gave.
+    QImage frame() {
+        window_.grabWindow();
+        system.scheduler.settle();
+        return window_.grabWindow();
+    }
+
+    static bool shows(const AppIconView* view, const QString& part) {
+        return view->findChild<QQuickItem*>(part)->isVisible();
+    }
+
+    QQuickWindow window_;
+};
+
+TEST_F(AppIconViewTest, ShowsAPlaceholderFirst) {
+    const AppIconView* view = add(u"com.example.foo"_qs, u"Foo Bar"_qs);
+    const QImage picture = window_.grabWindow();
+    EXPECT_TRUE(shows(view, u"placeholder"_qs));
+    EXPECT_FALSE(shows(view, u"icon"_qs));
+    EXPECT_EQ(view->initials(), u"FB"_qs);
+    EXPECT_EQ(picture.pixelColor(18, 3), view->placeholderColour());
+    EXPECT_EQ(picture.pixelColor(0, 0), QColor(Qt::white)); // its corners are round
+}
+
+TEST_F(AppIconViewTest, ShowsTheIconWhenItHasCome) {
+    const AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
+    const QImage picture = frame();
+    EXPECT_TRUE(shows(view, u"icon"_qs));
+    EXPECT_FALSE(shows(view, u"placeholder"_qs));
+    EXPECT_EQ(picture.pixelColor(18, 18), QColor(Qt::red));
+    EXPECT_EQ(picture.pixelColor(0, 0), QColor(Qt::white));
+}
+
+TEST_F(AppIconViewTest, ShowsAKnownIconFromTheFirstMoment) {
+    add(u"com.example.foo"_qs, u"Foo"_qs);
+    frame();
+    const AppIconView* later = add(u"com.example.foo"_qs, u"Foo"_qs, 40);
+    EXPECT_TRUE(later->hasIcon());
+    EXPECT_EQ(window_.grabWindow().pixelColor(58, 18), QColor(Qt::red));
+    EXPECT_EQ(system.scheduler.waitingGlobalTasks(), 0U);
+}
+
+TEST_F(AppIconViewTest, AsksForNothingBeforeItIsShown) {
+    window_.hide();
+    add(u"com.example.foo"_qs, u"Foo"_qs);
+    system.scheduler.settle();
+    EXPECT_TRUE(resolver->cache().isEmpty());
+}
+
+TEST_F(AppIconViewTest, LeavesTheSecondOfTwoNewRowsWithItsPlaceholderUntilItIsRebuilt) {
+    const AppIconView* first = add(u"com.example.foo"_qs, u"Foo"_qs);
+    AppIconView* second = add(u"com.example.foo"_qs, u"Foo"_qs, 40);
+    frame();
+    frame();
+    EXPECT_NE(first->hasIcon(), second->hasIcon()); // whichever was drawn first
+    AppIconView* without = const_cast<AppIconView*>(first->hasIcon() ? second : first);
+    EXPECT_TRUE(shows(without, u"placeholder"_qs));
+    without->rebuild();
+    EXPECT_TRUE(shows(without, u"icon"_qs));
+}
+
+TEST_F(AppIconViewTest, AsksAnewWhenItsApplicationChanges) {
+    AppIconView* view = add(u"com.example.bar"_qs, u"Bar"_qs);
+    frame();
+    EXPECT_TRUE(view->hasIcon()); // the generic one
+    view->setBundleId(u"com.example.foo"_qs);
+    view->setAppName(u"Foo"_qs);
+    EXPECT_FALSE(view->hasIcon());
+    EXPECT_EQ(frame().pixelColor(18, 18), QColor(Qt::red));
+}
+
+TEST_F(AppIconViewTest, LooksUpNoMixtureOfTwoApplications) {
+    AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
+    frame();
+    view->setBundleId(u"com.example.bar"_qs); // the name follows in the same turn
+    view->setAppName(u"Bar"_qs);
+    frame();
+    EXPECT_TRUE(system.workspace.askedPaths.contains(u"/Applications/Bar.app"_qs));
+    EXPECT_FALSE(system.workspace.askedPaths.contains(u"/Applications/Foo.app"_qs));
+}
+
+TEST_F(AppIconViewTest, IgnoresAnAnswerThatComesTooLate) {
+    AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
+    window_.grabWindow();
+    view->setBundleId(u"com.example.bar"_qs);
+    system.scheduler.settle();
+    EXPECT_FALSE(view->hasIcon());
+}
+
+TEST_F(AppIconViewTest, SurvivesItsOwnEndDuringALookup) {
+    const AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
+    window_.grabWindow();
+    delete view;
+    system.scheduler.settle();
+    EXPECT_TRUE(resolver->cache().contains(u"bundle:com.example.foo"_qs));
+}
+
+TEST_F(AppIconViewTest, ShowsAnUnresolvedSourceUnderItsName) {
+    system.workspace.bundles.insert(u"/Applications/Foo.app"_qs);
+    icons.files[u"/Applications/Foo.app"_qs] = square(64, Qt::blue);
+    add(u"app_id_42"_qs, u"Foo"_qs);
+    EXPECT_EQ(frame().pixelColor(18, 18), QColor(Qt::blue));
+    EXPECT_TRUE(add(u"app_id_43"_qs, u"Foo"_qs, 40)->hasIcon());
+}
+
+TEST_F(AppIconViewTest, TakesNamesThatNoAddressCouldHold) {
+    add({}, u"50% / Größe? #1 😀"_qs);
+    EXPECT_EQ(frame().pixelColor(18, 18), QColor(Qt::gray));
+}
+
+TEST_F(AppIconViewTest, ShowsIconsInTheList) {
+    NotificationList list = numbered(3);
+    for (CapturedNotification& notification : list)
+        notification.appBundleId = u"com.example.foo"_qs;
+    makeWindow();
+    publish(list);
+    window->window()->resize(720, 520);
+    show();
+    window->window()->grabWindow();
+    system.scheduler.settle();
+    publish({});
+    publish(list);
+    const QImage picture = window->window()->grabWindow();
+    const QPoint middle = row(u"Title 1"_qs)->mapToScene(QPointF(36, 24)).toPoint();
+    EXPECT_EQ(picture.pixelColor(middle), QColor(Qt::red));
+}
+
+} // namespace
+} // namespace tessarine::testing
