@@ -35,8 +35,8 @@ QString AppIconProvider::address(const QString& key, double rounding) {
 QImage AppIconProvider::requestImage(const QString& id, QSize* size, const QSize& requestedSize) {
     const double rounding = id.section(u'/', 0, 0).toDouble();
     const QByteArray name = id.section(u'/', 1).toLatin1();
-    const QString key = QString::fromUtf8(
-        QByteArray::fromBase64(name, QByteArray::Base64UrlEncoding));
+    const QString key =
+        QString::fromUtf8(QByteArray::fromBase64(name, QByteArray::Base64UrlEncoding));
     QImage icon = resolver_->cache().value(key);
     icon.setDevicePixelRatio(1); // from here on pixels count
     if (size)

@@ -10,8 +10,7 @@ namespace {
 IconSources systemSources() {
     const Platform& platform = Platform::shared();
     const Desktop& desktop = Desktop::shared();
-    return {*platform.workspace, *platform.fileSystem, *desktop.applicationIcons,
-            *desktop.symbols};
+    return {*platform.workspace, *platform.fileSystem, *desktop.applicationIcons, *desktop.symbols};
 }
 
 } // namespace

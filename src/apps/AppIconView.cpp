@@ -79,11 +79,10 @@ void AppIconView::updatePolish() {
     if (hasIcon_ || !icons || startedTask_ == taskId())
         return;
     startedTask_ = taskId();
-    icons->resolve(bundleId_, appName_,
-                   [view = QPointer(this), key = cacheKey()](const QImage&) {
-                       if (view && view->cacheKey() == key)
-                           view->setHasIcon(true);
-                   });
+    icons->resolve(bundleId_, appName_, [view = QPointer(this), key = cacheKey()](const QImage&) {
+        if (view && view->cacheKey() == key)
+            view->setHasIcon(true);
+    });
 }
 
 AppIconResolver* AppIconView::resolver() const {

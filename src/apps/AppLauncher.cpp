@@ -67,10 +67,10 @@ void AppLauncher::openByBundleId(const QString& bundleId) {
 
 // The second folder for utilities, where icons are looked for, is left out.
 std::optional<QString> AppLauncher::findByName(const QString& appName) const {
-    const QStringList folders{
-        QStringLiteral("/Applications"), QStringLiteral("/System/Applications"),
-        QStringLiteral("/System/Applications/Utilities"),
-        fileSystem_.expandingTilde(QStringLiteral("~/Applications"))};
+    const QStringList folders{QStringLiteral("/Applications"),
+                              QStringLiteral("/System/Applications"),
+                              QStringLiteral("/System/Applications/Utilities"),
+                              fileSystem_.expandingTilde(QStringLiteral("~/Applications"))};
     for (const QString& folder : folders) {
         if (const std::optional<QString> path = workspace_.applicationInFolder(folder, appName))
             return path;

@@ -13,8 +13,8 @@ namespace tessarine {
 
 namespace {
 
-constexpr int iconSize = 36;        // points a side
-constexpr int density = 3;          // device pixels for a point, at the most
+constexpr int iconSize = 36;          // points a side
+constexpr int density = 3;            // device pixels for a point, at the most
 constexpr double substituteSize = 16; // an icon no wider is none
 
 // Reads well on light and on dark.
@@ -43,8 +43,7 @@ std::optional<QImage> realIcon(const IconSources& sources, const std::optional<Q
 }
 
 std::optional<QImage> runningIcon(const IconSources& sources, const QString& bundleId) {
-    const std::vector<RunningApplication> running =
-        sources.workspace.runningApplications(bundleId);
+    const std::vector<RunningApplication> running = sources.workspace.runningApplications(bundleId);
     if (running.empty())
         return std::nullopt;
     const QImage icon = sources.icons.iconForRunningApplication(running.front());
@@ -137,13 +136,13 @@ std::optional<QImage> lookUpSystemSettingsIcon(const IconSources& sources, const
         return std::nullopt;
     for (const QString& name :
          {QStringLiteral("System Settings"), QStringLiteral("System Preferences")}) {
-        const auto path = sources.workspace.applicationInFolder(
-            QStringLiteral("/System/Applications"), name);
+        const auto path =
+            sources.workspace.applicationInFolder(QStringLiteral("/System/Applications"), name);
         if (const auto icon = realIcon(sources, path))
             return icon;
     }
-    const QImage symbol = sources.symbols.image(QStringLiteral("gearshape.fill"),
-                                                iconSize * density, symbolColour);
+    const QImage symbol =
+        sources.symbols.image(QStringLiteral("gearshape.fill"), iconSize * density, symbolColour);
     return symbol.isNull() ? std::nullopt : std::optional(finished(symbol));
 }
 

@@ -21,9 +21,9 @@ public:
         NotificationId = Qt::UserRole + 1, // fresh with each reload
         BundleId,
         AppName,
-        Title,          // its beginning: as much as a row can show
-        Body,           // likewise
-        TimeText,       // date and time in the user's style
+        Title,      // its beginning: as much as a row can show
+        Body,       // likewise
+        TimeText,   // date and time in the user's style
         SpokenText, // the whole row for a screen reader
     };
     Q_ENUM(Role)

@@ -1,5 +1,5 @@
-#include "apps/AppIconView.h"
 #include "apps/AppIconResolver.h"
+#include "apps/AppIconView.h"
 #include "core/AppDelegate.h"
 #include "platform/SingleInstance.h"
 #include "theme/ViewEngine.h"

@@ -50,8 +50,7 @@ public:
 
     // The path of the installed application with this bundle identifier, compared exactly. Nothing
     // when there is none.
-    virtual std::optional<QString>
-    pathForApplication(const QString& bundleIdentifier) const = 0;
+    virtual std::optional<QString> pathForApplication(const QString& bundleIdentifier) const = 0;
 
     // The path of the application that lies in this folder under this name, taken as it is and
     // without an ending. Nothing when there is none.

@@ -1,5 +1,4 @@
 #include "apps/AppIconResolver.h"
-
 #include "platform/qt/QtScheduler.h"
 #include "support/EventLoop.h"
 #include "support/Printers.h"
@@ -37,14 +36,15 @@ TEST(AppIconThreadsTest, LooksUpOnAWorkerAndAnswersOnTheMainThread) {
     WatchedIcons icons;
     SimulatedSymbols symbols;
     QtScheduler scheduler;
-    const auto resolver = AppIconResolver::create(
-        scheduler, {system.workspace, system.fileSystem, icons, symbols});
+    const auto resolver =
+        AppIconResolver::create(scheduler, {system.workspace, system.fileSystem, icons, symbols});
     int answers = 0;
     for (int i = 0; i < 20; ++i) {
-        resolver->resolve(u"com.example.%1"_qs.arg(i), u"App"_qs, [&answers, &icons](const QImage&) {
-            EXPECT_EQ(std::this_thread::get_id(), icons.mainThread);
-            ++answers;
-        });
+        resolver->resolve(u"com.example.%1"_qs.arg(i), u"App"_qs,
+                          [&answers, &icons](const QImage&) {
+                              EXPECT_EQ(std::this_thread::get_id(), icons.mainThread);
+                              ++answers;
+                          });
     }
     EXPECT_TRUE(turnsUntil([&answers] { return answers == 20; }, 30000));
     EXPECT_TRUE(icons.askedElsewhere);

@@ -34,8 +34,7 @@ protected:
 
 TEST_F(AppLauncherTest, HandsOverALink) {
     system.workspace.installed[u"com.apple.mail"_qs] = u"/Applications/Mail.app"_qs;
-    EXPECT_EQ(open(u"com.apple.mail"_qs, u"Mail"_qs, u"<Id@Host>"_qs),
-              OpenOutcome::deepLinkOpened);
+    EXPECT_EQ(open(u"com.apple.mail"_qs, u"Mail"_qs, u"<Id@Host>"_qs), OpenOutcome::deepLinkOpened);
     EXPECT_EQ(system.workspace.openedURLs, QStringList({u"message://Id@Host"_qs}));
     EXPECT_EQ(system.workspace.openedApplications, QStringList());
     EXPECT_EQ(said, u"[AppLauncher] Deep link opened: message://Id@Host\n"_qs);

@@ -54,14 +54,13 @@ INSTANTIATE_TEST_SUITE_P(
         Row{u"com.apple.reminders", u"x-apple-reminderkit://"},
         Row{u"com.apple.mail", u"message://"}, Row{u"com.apple.MobileSMS", u"sms://"},
         Row{u"com.apple.facetime", u"facetime://"},
-        Row{u"com.tinyspeck.slackmacgap", u"slack://open"},
-        Row{u"ru.keepcoder.Telegram", u"tg://"}, Row{u"org.telegram.desktop", u"tg://"},
-        Row{u"net.whatsapp.WhatsApp", u"(none)"}, Row{u"com.whatsapp.WhatsApp", u"(none)"},
+        Row{u"com.tinyspeck.slackmacgap", u"slack://open"}, Row{u"ru.keepcoder.Telegram", u"tg://"},
+        Row{u"org.telegram.desktop", u"tg://"}, Row{u"net.whatsapp.WhatsApp", u"(none)"},
+        Row{u"com.whatsapp.WhatsApp", u"(none)"},
         Row{u"com.readdle.smartemail", u"readdle-spark://"},
         Row{u"com.mimestream.Mimestream", u"mimestream://"},
         Row{u"it.bloop.airmail5", u"airmail5://"},
-        Row{u"com.flexibits.fantastical2.mac",
-            u"x-fantastical2://show/calendar?date=978307300"},
+        Row{u"com.flexibits.fantastical2.mac", u"x-fantastical2://show/calendar?date=978307300"},
         Row{u"com.culturedcode.ThingsMac", u"things:///show?id=today"},
         Row{u"com.omnigroup.OmniFocus3", u"omnifocus:///forecast"},
         Row{u"net.shinyfrog.bear", u"bear://"}));
@@ -188,9 +187,8 @@ TEST_P(NoAddressTest, IsNone) {
 
 INSTANTIATE_TEST_SUITE_P(Texts, AddressTest,
                          ::testing::Values(u"message://", u"message://a@b", u"message://a/b@c",
-                                           u"message://A.b_c~d!$&'()*+,;=@[::1]",
-                                           u"calshow://-5", u"message://a%3Cb@c",
-                                           u"x://h:80/p?q=1#f"));
+                                           u"message://A.b_c~d!$&'()*+,;=@[::1]", u"calshow://-5",
+                                           u"message://a%3Cb@c", u"x://h:80/p?q=1#f"));
 INSTANTIATE_TEST_SUITE_P(Texts, NoAddressTest,
                          ::testing::Values(u"", u"message", u"message:/a", u"message://a b",
                                            u"message://a\n", u"message://a%zz@b", u"message://a%",

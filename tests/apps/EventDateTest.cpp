@@ -12,12 +12,12 @@ using namespace Qt::StringLiterals;
 using testing::TimeZoneScope;
 
 // Moments of Europe/Rome in seconds since the reference date, worked out with Python's zoneinfo.
-constexpr double eight = 790671600;              // 2026-01-21 08:00
-constexpr double sevenToday = 790668000;         // 2026-01-21 07:00
-constexpr double sevenTomorrow = 790754400;      // 2026-01-22 07:00
-constexpr double halfPastTen = 790680600;        // 2026-01-21 10:30
-constexpr double fiveNineTomorrow = 790761900;   // 2026-01-22 09:05
-constexpr double fourDaysLater = 791005140;      // 2026-01-25 04:39, 99:99 after 2026-01-21 00:00
+constexpr double eight = 790671600;            // 2026-01-21 08:00
+constexpr double sevenToday = 790668000;       // 2026-01-21 07:00
+constexpr double sevenTomorrow = 790754400;    // 2026-01-22 07:00
+constexpr double halfPastTen = 790680600;      // 2026-01-21 10:30
+constexpr double fiveNineTomorrow = 790761900; // 2026-01-22 09:05
+constexpr double fourDaysLater = 791005140;    // 2026-01-25 04:39, 99:99 after 2026-01-21 00:00
 constexpr double timestamp = 790000000;
 
 class EventDateTest : public ::testing::Test {
@@ -121,7 +121,7 @@ TEST_F(EventDateTest, TakesNoPartOfALongerToken) {
 
 TEST_F(EventDateTest, NamesNoDayWithoutAFullTime) {
     EXPECT_EQ(date(u"today at 9"_qs), timestamp);
-    EXPECT_EQ(date(u"tomorrow 10:30"_qs), halfPastTen); // the bare time alone
+    EXPECT_EQ(date(u"tomorrow 10:30"_qs), halfPastTen);  // the bare time alone
     EXPECT_EQ(date(u"today at 10:305"_qs), halfPastTen); // nothing says where it ends
 }
 
@@ -147,7 +147,7 @@ TEST_F(EventDateTest, FollowsTheTimeZone) {
 // Clock changes: in Rome 2026-03-29 has 23 hours, 2026-10-25 has 25.
 
 TEST_F(EventDateTest, SkipsTheHourThatThereIsNot) {
-    constexpr double halfPastMidnight = 796433400; // 2026-03-29 00:30
+    constexpr double halfPastMidnight = 796433400;                           // 2026-03-29 00:30
     EXPECT_EQ(date(u"today at 2:30"_qs, {}, halfPastMidnight), 796440600.0); // 03:30
     EXPECT_EQ(date(u"today at 10:00"_qs, {}, halfPastMidnight), 796464000.0);
 }
@@ -160,7 +160,7 @@ TEST_F(EventDateTest, TakesTheSecondOfTwoHours) {
 TEST_F(EventDateTest, TakesTomorrowForTheDayAfterTwentyFourHours) {
     constexpr double halfPastMidnight = 814573800; // 2026-10-25 00:30; a day later it is 23:30
     EXPECT_EQ(date(u"tomorrow at 9:00"_qs, {}, halfPastMidnight), 814608000.0); // on the 25th
-    constexpr double noonBefore = 814528800; // 2026-10-24 12:00
+    constexpr double noonBefore = 814528800;                                    // 2026-10-24 12:00
     EXPECT_EQ(date(u"tomorrow at 9:00"_qs, {}, noonBefore), 814608000.0);
 }
 

@@ -202,13 +202,14 @@ TEST_P(OtherNameTest, DoesNotStandForTheSettings) {
     EXPECT_FALSE(isSystemSettingsAlias(text, text));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Names, SettingsNameTest,
-    ::testing::Values(u"system settings", u"System Preferences…", u"x background items y",
-                      u"Background Activity", u"Login Items", u"New Software Update Available",
-                      u"SoftwareUpdateNotificationManager", u"BTMNotificationAgent",
-                      u"App Background Activity", u"Background Items Added", u"Preferences",
-                      u" \t preferences\n", u"softwareupdatenotification"));
+INSTANTIATE_TEST_SUITE_P(Names, SettingsNameTest,
+                         ::testing::Values(u"system settings", u"System Preferences…",
+                                           u"x background items y", u"Background Activity",
+                                           u"Login Items", u"New Software Update Available",
+                                           u"SoftwareUpdateNotificationManager",
+                                           u"BTMNotificationAgent", u"App Background Activity",
+                                           u"Background Items Added", u"Preferences",
+                                           u" \t preferences\n", u"softwareupdatenotification"));
 INSTANTIATE_TEST_SUITE_P(Ids, SettingsIdTest,
                          ::testing::Values(u"com.apple.systempreferences",
                                            u"com.apple.SystemSettings", u"login.items",

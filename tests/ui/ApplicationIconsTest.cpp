@@ -1,5 +1,4 @@
 #include "platform/linux/LinuxApplicationIcons.h"
-
 #include "support/Printers.h"
 #include "support/SimulatedApplicationIcons.h"
 
@@ -60,8 +59,8 @@ protected:
     }
 
     LinuxApplicationIcons icons() const {
-        return LinuxApplicationIcons(IconTheme(u"Own"_qs, {root.filePath(u"icons"_qs)},
-                                               {root.filePath(u"pixmaps"_qs)}));
+        return LinuxApplicationIcons(
+            IconTheme(u"Own"_qs, {root.filePath(u"icons"_qs)}, {root.filePath(u"pixmaps"_qs)}));
     }
 
     static QColor middle(const QImage& icon) {

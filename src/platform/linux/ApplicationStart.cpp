@@ -69,8 +69,8 @@ bool activateOverBus(const DesktopEntry& entry, const std::string& bus) {
     if (!connection)
         return false;
     const int patience = entry.isBusActivatable ? startOverBusMs : raiseOverBusMs;
-    const Message answer(dbus_connection_send_with_reply_and_block(connection.get(), call.get(),
-                                                                   patience, nullptr));
+    const Message answer(
+        dbus_connection_send_with_reply_and_block(connection.get(), call.get(), patience, nullptr));
     return answer != nullptr;
 }
 

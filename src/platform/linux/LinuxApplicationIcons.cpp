@@ -46,8 +46,8 @@ QImage draw(const QString& path) {
         return {};
     QImage image = emptySquare(drawnPixels);
     QPainter painter(&image);
-    const QSizeF size = QSizeF(drawing.defaultSize())
-                            .scaled(drawnPixels, drawnPixels, Qt::KeepAspectRatio);
+    const QSizeF size =
+        QSizeF(drawing.defaultSize()).scaled(drawnPixels, drawnPixels, Qt::KeepAspectRatio);
     drawing.render(&painter, centred(size, drawnPixels));
     return image;
 }

@@ -90,8 +90,7 @@ LinuxWorkspace::runningApplications(const QString& bundleIdentifier) const {
     return applications;
 }
 
-std::optional<QString>
-LinuxWorkspace::pathForApplication(const QString& bundleIdentifier) const {
+std::optional<QString> LinuxWorkspace::pathForApplication(const QString& bundleIdentifier) const {
     const std::lock_guard lock(mutex_);
     return installedPath(entries_.find(bundleIdentifier));
 }
@@ -112,9 +111,8 @@ void LinuxWorkspace::openApplication(const QString& path) {
     }
     if (!entry)
         return;
-    scheduler_.onGlobalQueue(QualityOfService::userInitiated, [entry = *entry, bus = sessionBus_] {
-        startApplication(entry, bus);
-    });
+    scheduler_.onGlobalQueue(QualityOfService::userInitiated,
+                             [entry = *entry, bus = sessionBus_] { startApplication(entry, bus); });
 }
 
 void LinuxWorkspace::openURL(const QString& url) {

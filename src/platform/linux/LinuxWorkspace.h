@@ -14,9 +14,10 @@
 
 namespace tessarine {
 
-// An application is a desktop entry, and its path that of the entry's file; it runs when a process of this user runs its program. The
-// process that draws banners is the one that the banner process stands for; of other applications
-// no launch or termination is told. Sleep is what logind says on the system bus.
+// An application is a desktop entry, and its path that of the entry's file; it runs when a process
+// of this user runs its program. The process that draws banners is the one that the banner process
+// stands for; of other applications no launch or termination is told. Sleep is what logind says on
+// the system bus.
 class LinuxWorkspace : public Workspace {
 public:
     // The addresses of both buses, as D-Bus writes them; an empty one is no bus.

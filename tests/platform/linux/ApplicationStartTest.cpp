@@ -110,15 +110,13 @@ protected:
 
 TEST_F(ApplicationStartTest, StartsTheEntrysCommandWordForWord) {
     writeEntry(u"org.example.App"_qs,
-               "Name=My App\nIcon=app-icon\nPath=" + QFile::encodeName(home.path()) +
-                   "\nExec=\"" + witness() + R"(" --new "two  words" "\\$HOME; `ls`" %U %i %c %%)" +
-                   '\n');
+               "Name=My App\nIcon=app-icon\nPath=" + QFile::encodeName(home.path()) + "\nExec=\"" +
+                   witness() + R"(" --new "two  words" "\\$HOME; `ls`" %U %i %c %%)" + '\n');
     LinuxWorkspace workspace = makeWorkspace();
     open(workspace, u"org.example.App"_qs);
-    EXPECT_EQ(told().first(8),
-              QStringList({home.filePath(u"bin/witness"_qs), u"--new"_qs, u"two  words"_qs,
-                           u"$HOME; `ls`"_qs, u"--icon"_qs, u"app-icon"_qs, u"My App"_qs,
-                           u"%"_qs}));
+    EXPECT_EQ(told().first(8), QStringList({home.filePath(u"bin/witness"_qs), u"--new"_qs,
+                                            u"two  words"_qs, u"$HOME; `ls`"_qs, u"--icon"_qs,
+                                            u"app-icon"_qs, u"My App"_qs, u"%"_qs}));
     EXPECT_EQ(told().at(8), QDir(home.path()).canonicalPath());
 }
 
@@ -229,7 +227,7 @@ public:
 
     void answerFirstCall() {
         thread_ = std::thread([this] {
-            while (!answer() && dbus_connection_read_write(client_.raw(), -1)) {
+            while (!answerArrived() && dbus_connection_read_write(client_.raw(), -1)) {
             }
         });
     }
@@ -241,10 +239,19 @@ public:
     }
 
 private:
-    bool answer() {
-        const testing::BusMessage call(dbus_connection_pop_message(client_.raw()));
-        if (!call || dbus_message_get_type(call.get()) != DBUS_MESSAGE_TYPE_METHOD_CALL)
-            return false;
+    // Whether a call was among what has arrived; the bus sends signals besides.
+    bool answerArrived() {
+        while (const auto message =
+                   testing::BusMessage(dbus_connection_pop_message(client_.raw()))) {
+            if (dbus_message_get_type(message.get()) == DBUS_MESSAGE_TYPE_METHOD_CALL) {
+                answer(message);
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void answer(const testing::BusMessage& call) {
         heard_ = QStringList{QString::fromUtf8(dbus_message_get_path(call.get())),
                              QString::fromUtf8(dbus_message_get_interface(call.get())) + u'.' +
                                  QString::fromUtf8(dbus_message_get_member(call.get())),
@@ -252,7 +259,6 @@ private:
         const testing::BusMessage reply(dbus_message_new_method_return(call.get()));
         dbus_connection_send(client_.raw(), reply.get(), nullptr);
         dbus_connection_flush(client_.raw());
-        return true;
     }
 
     testing::BusClient client_;
@@ -270,8 +276,7 @@ protected:
 TEST_F(BusStartTest, RaisesAnApplicationThatIsMadeForTheBus) {
     BusApplication application(bus.address(), "org.example.My_App.x-y");
     application.answerFirstCall();
-    writeEntry(u"org.example.My_App.x-y"_qs,
-               "Name=App\nDBusActivatable=true\nExec=witness bus\n");
+    writeEntry(u"org.example.My_App.x-y"_qs, "Name=App\nDBusActivatable=true\nExec=witness bus\n");
     LinuxWorkspace workspace = makeWorkspace(bus.address());
     open(workspace, u"org.example.My_App.x-y"_qs);
     EXPECT_EQ(application.heard(),

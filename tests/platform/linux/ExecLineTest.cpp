@@ -76,8 +76,8 @@ TEST(CommandTest, HasNoIconWhereTheEntryHasNone) {
 
 TEST(CommandTest, HasNameAndPathAsOneWordEach) {
     EXPECT_EQ(command(u"app -t %c %k"_qs),
-              QStringList({u"app"_qs, u"-t"_qs, u"My App"_qs,
-                           u"/usr/share/applications/app.desktop"_qs}));
+              QStringList(
+                  {u"app"_qs, u"-t"_qs, u"My App"_qs, u"/usr/share/applications/app.desktop"_qs}));
 }
 
 TEST(CommandTest, HasAPercentSignForTwo) {

@@ -32,9 +32,9 @@ protected:
             QFile::copy(QStandardPaths::findExecutable(u"sleep"_qs), home.filePath(u"waiter"_qs)));
         writeEntry(home.filePath(u"waiter"_qs).toUtf8() + " 60");
         const QByteArray noBus = "unix:path=" + QFile::encodeName(home.filePath(u"no bus"_qs));
-        workspace = std::make_unique<LinuxWorkspace>(
-            scheduler, std::make_shared<BannerProcess>(scheduler),
-            LinuxWorkspace::Buses{{}, noBus.toStdString()});
+        workspace =
+            std::make_unique<LinuxWorkspace>(scheduler, std::make_shared<BannerProcess>(scheduler),
+                                             LinuxWorkspace::Buses{{}, noBus.toStdString()});
     }
 
     ~LinuxWorkspaceTest() override {

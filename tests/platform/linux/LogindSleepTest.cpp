@@ -21,9 +21,9 @@ struct LogindSleepTest : ::testing::Test {
     LogindSleepTest() { bus.start(); }
 
     std::unique_ptr<LinuxWorkspace> watch() {
-        auto workspace = std::make_unique<LinuxWorkspace>(
-            scheduler, std::make_shared<BannerProcess>(scheduler),
-            LinuxWorkspace::Buses{{}, bus.address()});
+        auto workspace =
+            std::make_unique<LinuxWorkspace>(scheduler, std::make_shared<BannerProcess>(scheduler),
+                                             LinuxWorkspace::Buses{{}, bus.address()});
         const auto note = [this](const QString& event) {
             return [this, event](const std::optional<RunningApplication>& application) {
                 EXPECT_EQ(application, std::nullopt);
