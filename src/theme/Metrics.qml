@@ -2,21 +2,49 @@ pragma Singleton
 
 import QtQuick
 
-// Sizes in points that several views share.
+// Sizes in points, and times in milliseconds, that several views share.
 QtObject {
+    // Type
     readonly property int textTiny: 10
     readonly property int textSmall: 11
     readonly property int textBody: 12
     readonly property int textHeadline: 13
     readonly property int textNotice: 15
+    readonly property int textTitle: 17
+    readonly property int textLargeTitle: 22
 
+    // Room between and inside things
     readonly property int spacingTiny: 2
     readonly property int spacingSmall: 4
     readonly property int spacingMedium: 8
     readonly property int spacingLarge: 12
+    readonly property int spacingWide: 16
     readonly property int spacingHuge: 24
+    readonly property int sheetPadding: 20
 
+    // Controls
+    readonly property int controlHeight: 26
+    readonly property int controlRadius: 6
+    readonly property int controlPadding: 10
+    readonly property int menuRowHeight: 26
+    readonly property int menuColumn: 28 // of the symbols before the texts of a menu
+    readonly property int symbolSize: 14
+    readonly property int smallSymbolSize: 12
+    readonly property real disabledOpacity: 0.4
+    readonly property int focusRingWidth: 2
+    readonly property int hairline: 1
+
+    // Panels
     readonly property int cornerRadius: 8
+    readonly property int sheetRadius: 12
+    readonly property int windowMargin: 8
+    readonly property int sheetMargin: 20
+
     readonly property int iconSize: 36
     readonly property int noticeSymbolSize: 32
+
+    // Times
+    readonly property int quick: 100
+    readonly property int gentle: 200
+    readonly property int tipDelay: 700
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import Tessarine.Theme
 
-// A symbol by its name, in one colour, sharp at every density.
+// A symbol by its name, in one colour, sharp at every density. An empty name draws nothing.
 Image {
     required property string symbol
     required property int size
@@ -11,6 +11,6 @@ Image {
     height: size
     sourceSize.width: size
     sourceSize.height: size
-    source: "image://symbols/" + symbol + "/" + tint
+    source: symbol ? "image://symbols/" + symbol + "/" + tint : ""
     Accessible.ignored: true
 }

@@ -23,6 +23,12 @@ const Palette& Theme::colours() const {
     return dark() ? Palette::dark() : Palette::light();
 }
 
+QFont Theme::textFont(int size) const {
+    QFont font = tessarine::textFont();
+    font.setPixelSize(size);
+    return font;
+}
+
 QString Theme::tabularFamily() const {
     return tabularDigitsFamily();
 }

@@ -3,6 +3,7 @@
 #include "platform/SystemAppearance.h"
 #include "theme/Palette.h"
 
+#include <QFont>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -30,6 +31,10 @@ public:
 
     bool dark() const { return appearance_.prefersDark(); }
     const Palette& colours() const;
+
+    // The face of running text at a size in points, for what doesn't take the application's by
+    // itself.
+    Q_INVOKABLE QFont textFont(int size) const;
 
     // The face for numbers that stand in columns.
     QString tabularFamily() const;

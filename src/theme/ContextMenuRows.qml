@@ -1,0 +1,22 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tessarine.Theme
+
+// The rows of a ContextMenu.
+ListView {
+    required property T.Menu menu
+
+    readonly property real widestRow: Array.from(menu.contentChildren).reduce(
+        (widest, row) => Math.max(widest, row.implicitWidth), 0)
+
+    implicitWidth: widestRow
+    implicitHeight: contentHeight
+    model: menu.contentModel
+    currentIndex: menu.currentIndex
+    clip: true
+    boundsBehavior: Flickable.StopAtBounds
+    highlightMoveDuration: 0
+    keyNavigationEnabled: false
+
+    T.ScrollBar.vertical: ThinScrollBar {}
+}

@@ -1,0 +1,52 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tessarine.Theme
+
+// The menu of a MenuPicker: its texts, one under the other, with a check mark at the chosen one.
+T.Popup {
+    id: menu
+
+    required property string accessibleName
+    required property var texts
+    required property int chosenIndex
+    required property real narrowest
+
+    readonly property int widest: 360
+    readonly property int tallest: 320
+    readonly property int textRoom: measure.widest + Metrics.menuColumn + Metrics.controlPadding
+
+    signal chosen(int index)
+
+    implicitWidth: Math.max(narrowest, Math.min(widest, textRoom + leftPadding + rightPadding))
+    implicitHeight: Math.min(tallest, implicitContentHeight + topPadding + bottomPadding)
+    padding: Metrics.spacingSmall
+    margins: Metrics.windowMargin
+    modal: true
+    dim: false
+    focus: true
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    onAboutToShow: focusKeeper.remember(parent)
+    onAboutToHide: focusKeeper.restore(contentItem)
+
+    background: PanelFace {}
+
+    contentItem: MenuPickerList {
+        focus: true
+        texts: menu.texts
+        chosenIndex: menu.chosenIndex
+        open: menu.visible
+        Accessible.name: menu.accessibleName
+        onChosen: index => menu.chosen(index)
+    }
+
+    FocusKeeper {
+        id: focusKeeper
+    }
+
+    TextWidths {
+        id: measure
+
+        texts: menu.texts
+        font.pixelSize: Metrics.textBody
+    }
+}

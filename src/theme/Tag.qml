@@ -1,0 +1,27 @@
+import QtQuick
+import Tessarine.Theme
+
+// A short text, most often a number, on a small rounded ground.
+Rectangle {
+    property alias text: label.text
+
+    implicitWidth: Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 2 * label.anchors.margins)
+    implicitHeight: Math.ceil(label.implicitHeight) + Metrics.spacingTiny
+    radius: height / 2
+    color: Theme.colours.tagFill
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+
+    PlainLabel {
+        id: label
+
+        anchors.fill: parent
+        anchors.margins: Metrics.spacingSmall + 2
+        font.family: Theme.tabularFamily
+        font.pixelSize: Metrics.textTiny
+        color: Theme.colours.secondaryLabel
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+}
