@@ -6,6 +6,7 @@
 
 #include "apps/AppIconResolver.h"
 #include "apps/AppIconView.h"
+#include "apps/AppLauncher.h"
 #include "browser/MainWindow.h"
 #include "core/AppDelegate.h"
 #include "theme/ViewEngine.h"
@@ -61,7 +62,14 @@ int runChild(int argc, char** argv, double start) {
     const auto listener =
         NotificationListener::create({&HoardStore::shared, PreferencesStore::shared(),
                                       DiagnosticsStore::shared(), Platform::shared()});
-    MainWindow window(listener, *Platform::shared().userDefaults, *views);
+    AppLauncher launcher(*Platform::shared().workspace, *Platform::shared().fileSystem,
+                         *Platform::shared().scheduler);
+    MainWindow window({listener, &HoardStore::shared, PreferencesStore::shared(),
+                       *Platform::shared().scheduler, launcher, [](const QString&) {},
+                       [](NotificationList, std::function<void()>) {
+                           return std::unique_ptr<ExportOptionsSheet>();
+                       }},
+                      *Platform::shared().userDefaults, *views);
     reached("3-window-built", start);
     window.showAndMakeKey();
     listener->start();

@@ -1,6 +1,8 @@
 #include "bench/RatioReporter.h"
 
 #include <cstdio>
+#include <string>
+#include <vector>
 
 namespace tessarine::bench {
 
@@ -42,6 +44,20 @@ void RatioReporter::Finalize() {
         std::printf("ratio %-40s %.3f  (spread: ours %.1f %%, bare %.1f %%)\n", name.c_str(),
                     median / baseline->second, spreads_[name] * 100, spreads_[bare] * 100);
     }
+}
+
+int runBenchmarks(int argc, char** argv) {
+    std::vector<char*> arguments{argv, argv + argc};
+    std::string interleaved = "--benchmark_enable_random_interleaving=true";
+    std::string repetitions = "--benchmark_repetitions=15";
+    std::string aggregates = "--benchmark_report_aggregates_only=true";
+    for (std::string* option : {&interleaved, &repetitions, &aggregates})
+        arguments.insert(arguments.begin() + 1, option->data());
+    int count = static_cast<int>(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
 }
 
 } // namespace tessarine::bench

@@ -20,4 +20,9 @@ private:
     std::map<std::string, double> spreads_; // coefficient of variation
 };
 
+// Runs all benchmarks of the program, with the arguments of its command line, and reports as told
+// above. The repetitions of all benchmarks are interleaved by default, so that what disturbs the
+// machine disturbs ours and the baseline alike.
+int runBenchmarks(int argc, char** argv);
+
 } // namespace tessarine::bench

@@ -16,6 +16,10 @@ if(TESSARINE_SANITIZE)
                         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${TESSARINE_SANITIZE})
 endif()
+if(TESSARINE_SANITIZE MATCHES thread)
+    # What Qt generates for QML has fences, which ThreadSanitizer doesn't follow. Ours has none.
+    add_compile_options(-Wno-tsan)
+endif()
 
 # A static library of one folder (or a part of one); links what it names and nothing else. MOC where
 # it has classes with signals: looking for such in every target would cost more than compiling many.
@@ -48,4 +52,16 @@ function(tessarine_test name)
         endif()
         add_dependencies(tests-${label} ${name})
     endforeach()
+endfunction()
+
+# What Qt's QML compiler writes is not ours to mend: no warnings for it. Under sanitizers it writes byte
+# code alone, since compiling a file of C++ for each view would take longer than all else. After
+# qt_add_qml_module.
+function(tessarine_generated_qml_code name)
+    get_target_property(sources ${name} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/qmlcache/")
+    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS "-w;-g0")
+    if(TESSARINE_SANITIZE)
+        set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
+    endif()
 endfunction()

@@ -3,6 +3,216 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="action.cancel">
+        <source>action.cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="action.close">
+        <source>action.close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="banner.deepLink.subtitle">
+        <source>banner.deepLink.subtitle</source>
+        <translation>The app shows the place this notification is about.</translation>
+    </message>
+    <message id="banner.deepLink.title">
+        <source>banner.deepLink.title</source>
+        <translation>Opened in %1</translation>
+    </message>
+    <message id="banner.notInstalled.subtitle">
+        <source>banner.notInstalled.subtitle</source>
+        <translation>The notification may have come from %1 on your phone.</translation>
+    </message>
+    <message id="banner.notInstalled.title">
+        <source>banner.notInstalled.title</source>
+        <translation>%1 is not on this computer</translation>
+    </message>
+    <message id="banner.notInstalled.unknownSubtitle">
+        <source>banner.notInstalled.unknownSubtitle</source>
+        <translation>The system names it only as %1.</translation>
+    </message>
+    <message id="banner.notInstalled.unknownTitle">
+        <source>banner.notInstalled.unknownTitle</source>
+        <translation>The app is not known</translation>
+    </message>
+    <message id="contextMenu.copyNotification">
+        <source>contextMenu.copyNotification</source>
+        <translation>Copy Text</translation>
+    </message>
+    <message id="contextMenu.deleteAllCount" numerus="yes">
+        <source>contextMenu.deleteAllCount</source>
+        <translation>
+            <numerusform>Delete %Ln Notification</numerusform>
+            <numerusform>Delete All %Ln Notifications</numerusform>
+        </translation>
+    </message>
+    <message id="contextMenu.deleteAllFrom">
+        <source>contextMenu.deleteAllFrom</source>
+        <translation>Delete All from %1</translation>
+    </message>
+    <message id="contextMenu.deleteAllFromDate">
+        <source>contextMenu.deleteAllFromDate</source>
+        <translation>Delete All from %1</translation>
+    </message>
+    <message id="contextMenu.deleteThis">
+        <source>contextMenu.deleteThis</source>
+        <translation>Delete This Notification</translation>
+    </message>
+    <message id="contextMenu.openInApp">
+        <source>contextMenu.openInApp</source>
+        <translation>Open %1</translation>
+    </message>
+    <message id="contextMenu.pinNotification">
+        <source>contextMenu.pinNotification</source>
+        <translation>Pin</translation>
+    </message>
+    <message id="contextMenu.unpinNotification">
+        <source>contextMenu.unpinNotification</source>
+        <translation>Unpin</translation>
+    </message>
+    <message id="datePopover.footer">
+        <source>datePopover.footer</source>
+        <translation>Choices add up: each one adds its notifications to the selection.</translation>
+    </message>
+    <message id="datePopover.noData">
+        <source>datePopover.noData</source>
+        <translation>No days to choose from yet</translation>
+    </message>
+    <message id="datePopover.quickRanges">
+        <source>datePopover.quickRanges</source>
+        <translation>Ranges</translation>
+    </message>
+    <message id="datePopover.specificDays">
+        <source>datePopover.specificDays</source>
+        <translation>Days</translation>
+    </message>
+    <message id="datePopover.title">
+        <source>datePopover.title</source>
+        <translation>Select by Date</translation>
+    </message>
+    <message id="datePreset.last30days">
+        <source>datePreset.last30days</source>
+        <translation>Last 30 Days</translation>
+    </message>
+    <message id="datePreset.last7days">
+        <source>datePreset.last7days</source>
+        <translation>Last 7 Days</translation>
+    </message>
+    <message id="datePreset.lastMonth">
+        <source>datePreset.lastMonth</source>
+        <translation>Last Month</translation>
+    </message>
+    <message id="datePreset.thisMonth">
+        <source>datePreset.thisMonth</source>
+        <translation>This Month</translation>
+    </message>
+    <message id="datePreset.thisYear">
+        <source>datePreset.thisYear</source>
+        <translation>This Year</translation>
+    </message>
+    <message id="datePreset.today">
+        <source>datePreset.today</source>
+        <translation>Today</translation>
+    </message>
+    <message id="datePreset.yesterday">
+        <source>datePreset.yesterday</source>
+        <translation>Yesterday</translation>
+    </message>
+    <message id="export.close">
+        <source>export.close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="export.count" numerus="yes">
+        <source>export.count</source>
+        <translation>
+            <numerusform>%n notification</numerusform>
+            <numerusform>%n notifications</numerusform>
+        </translation>
+    </message>
+    <message id="export.done">
+        <source>export.done</source>
+        <translation>Done. Here comes your file.</translation>
+    </message>
+    <message id="export.exportAs">
+        <source>export.exportAs</source>
+        <translation>Export as %1</translation>
+    </message>
+    <message id="export.exporting">
+        <source>export.exporting</source>
+        <translation>Exporting…</translation>
+    </message>
+    <message id="export.format.csv.desc">
+        <source>export.format.csv.desc</source>
+        <translation>One row for each notification, for spreadsheets.</translation>
+    </message>
+    <message id="export.format.header">
+        <source>export.format.header</source>
+        <translation>Format</translation>
+    </message>
+    <message id="export.format.pdf.desc">
+        <source>export.format.pdf.desc</source>
+        <translation>A report to print or pass on, with a summary by app.</translation>
+    </message>
+    <message id="export.format.txt.desc">
+        <source>export.format.txt.desc</source>
+        <translation>A plain text to read, day by day.</translation>
+    </message>
+    <message id="export.plaintextWarning">
+        <source>export.plaintextWarning</source>
+        <translation>Anyone who can open the file can read it. Keep it in a safe place.</translation>
+    </message>
+    <message id="export.privacy.confirmMessage">
+        <source>export.privacy.confirmMessage</source>
+        <translation>Titles and messages that Tessarine hides will be written into the file as they are. Anyone who opens it can read them.</translation>
+    </message>
+    <message id="export.privacy.confirmTitle">
+        <source>export.privacy.confirmTitle</source>
+        <translation>Include hidden content?</translation>
+    </message>
+    <message id="export.privacy.header">
+        <source>export.privacy.header</source>
+        <translation>Privacy</translation>
+    </message>
+    <message id="export.privacy.includeHidden">
+        <source>export.privacy.includeHidden</source>
+        <translation>Include hidden content</translation>
+    </message>
+    <message id="export.privacy.includeHidden.caption">
+        <source>export.privacy.includeHidden.caption</source>
+        <translation>Otherwise titles and messages are written as “[hidden]”.</translation>
+    </message>
+    <message id="export.privacy.includeHidden.warning">
+        <source>export.privacy.includeHidden.warning</source>
+        <translation>The file will show everything that Tessarine hides.</translation>
+    </message>
+    <message id="export.privacy.includeReal">
+        <source>export.privacy.includeReal</source>
+        <translation>Include Content</translation>
+    </message>
+    <message id="export.privacy.keepHidden">
+        <source>export.privacy.keepHidden</source>
+        <translation>Keep Hidden</translation>
+    </message>
+    <message id="export.title">
+        <source>export.title</source>
+        <translation>Export Notifications</translation>
+    </message>
+    <message id="group.collapse">
+        <source>group.collapse</source>
+        <translation>Hide %1</translation>
+    </message>
+    <message id="group.expand">
+        <source>group.expand</source>
+        <translation>Show %1</translation>
+    </message>
+    <message id="hoard.empty.noResults">
+        <source>hoard.empty.noResults</source>
+        <translation>No matches</translation>
+    </message>
+    <message id="hoard.empty.noResults.detail">
+        <source>hoard.empty.noResults.detail</source>
+        <translation>No loaded notification matches the search and the chosen app.</translation>
+    </message>
     <message id="hoard.empty.waiting">
         <source>hoard.empty.waiting</source>
         <translation>No notifications yet</translation>
@@ -26,6 +236,170 @@
     <message id="menu.quit">
         <source>menu.quit</source>
         <translation>Quit Tessarine</translation>
+    </message>
+    <message id="preview.copy">
+        <source>preview.copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="preview.empty">
+        <source>preview.empty</source>
+        <translation>This notification has no text.</translation>
+    </message>
+    <message id="preview.open">
+        <source>preview.open</source>
+        <translation>Open %1</translation>
+    </message>
+    <message id="preview.title">
+        <source>preview.title</source>
+        <translation>Notification</translation>
+    </message>
+    <message id="row.clickToReveal">
+        <source>row.clickToReveal</source>
+        <translation>Click to reveal</translation>
+    </message>
+    <message id="row.deselect">
+        <source>row.deselect</source>
+        <translation>Deselect</translation>
+    </message>
+    <message id="row.select">
+        <source>row.select</source>
+        <translation>Select</translation>
+    </message>
+    <message id="row.singleClickToSelect">
+        <source>row.singleClickToSelect</source>
+        <translation>Click to select, double-click to open %1</translation>
+    </message>
+    <message id="selection.byApp.help">
+        <source>selection.byApp.help</source>
+        <translation>Add all notifications of an app to the selection</translation>
+    </message>
+    <message id="selection.byDate.help">
+        <source>selection.byDate.help</source>
+        <translation>Add all notifications of some days to the selection</translation>
+    </message>
+    <message id="selection.cancel">
+        <source>selection.cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="selection.confirmDelete.btn">
+        <source>selection.confirmDelete.btn</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="selection.confirmDelete.title" numerus="yes">
+        <source>selection.confirmDelete.title</source>
+        <translation>
+            <numerusform>Delete %Ln notification?</numerusform>
+            <numerusform>Delete %Ln notifications?</numerusform>
+        </translation>
+    </message>
+    <message id="selection.confirmDeleteAll.title" numerus="yes">
+        <source>selection.confirmDeleteAll.title</source>
+        <translation>
+            <numerusform>Delete all notifications? (%Ln loaded)</numerusform>
+            <numerusform>Delete all notifications? (%Ln loaded)</numerusform>
+        </translation>
+    </message>
+    <message id="selection.count" numerus="yes">
+        <source>selection.count</source>
+        <translation>
+            <numerusform>%Ln selected</numerusform>
+            <numerusform>%Ln selected</numerusform>
+        </translation>
+    </message>
+    <message id="selection.deleteAll">
+        <source>selection.deleteAll</source>
+        <translation>Delete All</translation>
+    </message>
+    <message id="selection.deleteSelected">
+        <source>selection.deleteSelected</source>
+        <translation>Delete Selected…</translation>
+    </message>
+    <message id="selection.deselectAll">
+        <source>selection.deselectAll</source>
+        <translation>Deselect All</translation>
+    </message>
+    <message id="selection.noSelection">
+        <source>selection.noSelection</source>
+        <translation>Nothing selected</translation>
+    </message>
+    <message id="selection.selectAll">
+        <source>selection.selectAll</source>
+        <translation>Select All</translation>
+    </message>
+    <message id="toolbar.app.all">
+        <source>toolbar.app.all</source>
+        <translation>All Apps</translation>
+    </message>
+    <message id="toolbar.app.label">
+        <source>toolbar.app.label</source>
+        <translation>App</translation>
+    </message>
+    <message id="toolbar.delete.help">
+        <source>toolbar.delete.help</source>
+        <translation>Select and delete notifications</translation>
+    </message>
+    <message id="toolbar.export.help">
+        <source>toolbar.export.help</source>
+        <translation>Export notifications</translation>
+    </message>
+    <message id="toolbar.group.byApp">
+        <source>toolbar.group.byApp</source>
+        <translation>App</translation>
+    </message>
+    <message id="toolbar.group.byDate">
+        <source>toolbar.group.byDate</source>
+        <translation>Date</translation>
+    </message>
+    <message id="toolbar.group.label">
+        <source>toolbar.group.label</source>
+        <translation>Group</translation>
+    </message>
+    <message id="toolbar.group.none">
+        <source>toolbar.group.none</source>
+        <translation>None</translation>
+    </message>
+    <message id="toolbar.loadOlder">
+        <source>toolbar.loadOlder</source>
+        <translation>Load Older</translation>
+    </message>
+    <message id="toolbar.loadOlder.help">
+        <source>toolbar.loadOlder.help</source>
+        <translation>Load the next 500 notifications from the hoard</translation>
+    </message>
+    <message id="toolbar.notifCount" numerus="yes">
+        <source>toolbar.notifCount</source>
+        <translation>
+            <numerusform>%Ln notification</numerusform>
+            <numerusform>%Ln notifications</numerusform>
+        </translation>
+    </message>
+    <message id="toolbar.notifCount.truncated">
+        <source>toolbar.notifCount.truncated</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="toolbar.search.clear">
+        <source>toolbar.search.clear</source>
+        <translation>Clear the search</translation>
+    </message>
+    <message id="toolbar.search.placeholder">
+        <source>toolbar.search.placeholder</source>
+        <translation>Search</translation>
+    </message>
+    <message id="toolbar.sort.appAZ">
+        <source>toolbar.sort.appAZ</source>
+        <translation>App A–Z</translation>
+    </message>
+    <message id="toolbar.sort.label">
+        <source>toolbar.sort.label</source>
+        <translation>Sort</translation>
+    </message>
+    <message id="toolbar.sort.newest">
+        <source>toolbar.sort.newest</source>
+        <translation>Newest First</translation>
+    </message>
+    <message id="toolbar.sort.oldest">
+        <source>toolbar.sort.oldest</source>
+        <translation>Oldest First</translation>
     </message>
 </context>
 </TS>

@@ -31,7 +31,7 @@ AppIconViewState {
             anchors.centerIn: parent
             text: view.initials
             color: "white"
-            font.pixelSize: Metrics.textBody
+            font.pixelSize: Math.min(Metrics.textBody, view.height / 2)
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }

@@ -1,27 +1,237 @@
 #include "browser/ContentView.h"
 
 #include "capture/NotificationListener.h"
+#include "platform/Scheduler.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QPointer>
+
+#include <utility>
 
 namespace tessarine {
 
-ContentView::ContentView(std::shared_ptr<NotificationListener> listener)
-    : listener_(std::move(listener)) {
-    connect(listener_.get(), &NotificationListener::notificationsChanged, this,
+namespace {
+
+constexpr qint64 firstLoadLimit = 500;
+constexpr qint64 loadStep = 500;
+
+// As long as a group takes to open or close, and a little more for the last frame.
+constexpr double togglingSeconds = 0.3;
+
+template <typename Mode, std::size_t Count>
+QStringList labelsOf(const std::array<Mode, Count>& modes) {
+    QStringList labels;
+    for (const Mode mode : modes)
+        labels << label(mode);
+    return labels;
+}
+
+} // namespace
+
+ContentView::ContentView(Services services)
+    : services_(std::move(services)) {
+    marks_.isPrivate = [this](const QString& bundleId) {
+        return services_.preferences.isPrivate(bundleId);
+    };
+    connect(&services_.preferences, &PreferencesStore::changed, this,
+            [this] { lines_.marksChanged(); });
+    connect(services_.listener.get(), &NotificationListener::notificationsChanged, this,
             &ContentView::takeList);
-    if (!listener_->notifications().empty())
+    if (!notifications().empty())
         takeList();
 }
 
-void ContentView::takeList() {
-    notifications_.setNotifications(listener_->notifications());
-    setFace(notifications_.rowCount() > 0 ? Face::List : Face::Empty);
+const NotificationList& ContentView::notifications() const {
+    return services_.listener->notifications();
 }
 
-void ContentView::setFace(Face face) {
-    if (face_ == face)
+// The derived values
+
+NotificationList ContentView::filteredNotifications() const {
+    return sortedBy(sortMode_,
+                    keepingMatches(keepingApp(notifications(), selectedApp_), searchText_));
+}
+
+std::vector<NotificationGroup> ContentView::groupedByApp() const {
+    return tessarine::groupedByApp(filteredNotifications());
+}
+
+std::vector<NotificationGroup> ContentView::groupedByDate() const {
+    return tessarine::groupedByDate(filteredNotifications());
+}
+
+QStringList ContentView::apps() const {
+    return uniqueApps(notifications());
+}
+
+// The list
+
+void ContentView::appear() {
+    hoardTotalCount_ = hoard().totalCount();
+    Q_EMIT listChanged();
+}
+
+void ContentView::takeList() {
+    if (std::exchange(loadedCount_, notifications().size()) != notifications().size())
+        hoardTotalCount_ = hoard().totalCount();
+    if (face_ == Face::Loading)
+        face_ = Face::Waiting;
+    updateLines();
+}
+
+void ContentView::updateLines() {
+    const NotificationList rows = filteredNotifications();
+    shownCount_ = qsizetype(rows.size());
+    if (face_ != Face::Loading)
+        face_ = notifications().empty() ? Face::Waiting
+                : rows.empty()          ? Face::Fruitless
+                                        : Face::List;
+    lines_.setEntries(makeEntries(rows));
+    closeOrphanedPreview();
+    Q_EMIT listChanged();
+    tellOfMarks();
+}
+
+void ContentView::tellOfMarks() {
+    ++revision_;
+    Q_EMIT selectionChanged();
+}
+
+ListEntries ContentView::makeEntries(const NotificationList& rows) const {
+    switch (groupMode_) {
+    case GroupMode::none:
+        break;
+    case GroupMode::app:
+        return groupedEntries(groupMode_, tessarine::groupedByApp(rows), collapsedGroups_);
+    case GroupMode::date:
+        return groupedEntries(groupMode_, tessarine::groupedByDate(rows), collapsedGroups_);
+    }
+    return ungroupedEntries(rows);
+}
+
+bool ContentView::hasNotifications() const {
+    return !notifications().empty();
+}
+
+bool ContentView::canLoadOlder() const {
+    return hoardTotalCount_ > qint64(notifications().size());
+}
+
+QString ContentView::counterText() const {
+    if (!canLoadOlder())
+        return qtTrId("toolbar.notifCount", int(shownCount_));
+    const QLocale locale;
+    return qtTrId("toolbar.notifCount.truncated")
+        .arg(locale.toString(shownCount_), locale.toString(hoardTotalCount_));
+}
+
+void ContentView::refreshList() {
+    services_.listener->setNotifications(hoard().fetchRecent(loadLimit_));
+}
+
+void ContentView::loadOlder() {
+    loadLimit_ += loadStep;
+    refreshList();
+    hoardTotalCount_ = hoard().totalCount();
+    Q_EMIT listChanged();
+}
+
+void ContentView::deleteEverything() {
+    hoard().deleteAll();
+    services_.listener->setNotifications({});
+    loadLimit_ = firstLoadLimit;
+    exitSelectionMode();
+    collapsedGroups_.clear();
+    setSelectedApp(everyApp);
+}
+
+// The toolbar
+
+void ContentView::changeDerivation() {
+    updateLines();
+    Q_EMIT derivationChanged();
+}
+
+void ContentView::setSearchText(const QString& text) {
+    if (std::exchange(searchText_, text) == text)
         return;
-    face_ = face;
-    Q_EMIT faceChanged();
+    Q_EMIT searchTextChanged();
+    changeDerivation();
+}
+
+void ContentView::setSelectedApp(const QString& appName) {
+    if (std::exchange(selectedApp_, appName) != appName)
+        changeDerivation();
+}
+
+QStringList ContentView::appLabels() const {
+    return QStringList(qtTrId("toolbar.app.all")) + apps();
+}
+
+// None for an application whose rows have left the list: the filter holds all the same.
+int ContentView::selectedAppIndex() const {
+    return selectedApp_ == everyApp ? 0
+                                    : int((QStringList(everyApp) + apps()).indexOf(selectedApp_));
+}
+
+void ContentView::setSelectedAppIndex(int index) {
+    setSelectedApp((QStringList(everyApp) + apps()).at(index));
+}
+
+QString ContentView::selectedAppLabel() const {
+    return selectedApp_ == everyApp ? qtTrId("toolbar.app.all") : selectedApp_;
+}
+
+void ContentView::setSortMode(SortMode mode) {
+    if (std::exchange(sortMode_, mode) == mode)
+        return;
+    Q_EMIT sortModeChanged();
+    changeDerivation();
+}
+
+void ContentView::setGroupMode(GroupMode mode) {
+    if (std::exchange(groupMode_, mode) == mode)
+        return;
+    collapsedGroups_.clear();
+    Q_EMIT groupModeChanged();
+    changeDerivation();
+}
+
+void ContentView::setSortModeIndex(int index) {
+    setSortMode(allSortModes.at(std::size_t(index)));
+}
+
+void ContentView::setGroupModeIndex(int index) {
+    setGroupMode(allGroupModes.at(std::size_t(index)));
+}
+
+QStringList ContentView::sortLabels() {
+    return labelsOf(allSortModes);
+}
+
+QStringList ContentView::groupLabels() {
+    return labelsOf(allGroupModes);
+}
+
+void ContentView::toggleGroup(const QString& key) {
+    if (!collapsedGroups_.remove(key))
+        collapsedGroups_.insert(key);
+    ++togglesUnderWay_;
+    if (!std::exchange(togglesGroup_, true))
+        Q_EMIT togglesGroupChanged();
+    updateLines();
+    services_.scheduler.onMainAfter(togglingSeconds, [self = QPointer<ContentView>(this)] {
+        if (self)
+            self->finishToggling();
+    });
+}
+
+void ContentView::finishToggling() {
+    if (--togglesUnderWay_ > 0)
+        return;
+    togglesGroup_ = false;
+    Q_EMIT togglesGroupChanged();
 }
 
 } // namespace tessarine

@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tessarine.Browser
+import Tessarine.Export
 import Tessarine.Theme
 
-// The root of the main window: the list, or what stands in its place.
+// The root of the main window: what narrows the list, the list, or what stands in its place.
 Rectangle {
     id: root
 
@@ -12,46 +12,117 @@ Rectangle {
     implicitWidth: 720
     color: Theme.colours.windowBackground
 
-    Notice {
-        anchors.centerIn: parent
-        visible: root.view.face === ContentViewState.Loading
-        symbol: "clock.arrow.circlepath"
-        title: qsTrId("hoard.loading")
-    }
+    Column {
+        id: top
 
-    Notice {
-        anchors.centerIn: parent
-        visible: root.view.face === ContentViewState.Empty
-        symbol: "bell.slash"
-        title: qsTrId("hoard.empty.waiting")
-        detail: qsTrId("hoard.empty.waiting.detail")
-    }
+        width: parent.width
 
-    ListView {
-        id: list
-
-        objectName: "list"
-        anchors.fill: parent
-        visible: root.view.face === ContentViewState.List
-        focus: true
-        keyNavigationEnabled: false
-        model: root.view.notifications
-        reuseItems: true
-        spacing: Metrics.spacingSmall
-        topMargin: Metrics.spacingSmall
-        bottomMargin: Metrics.spacingSmall
-        boundsBehavior: Flickable.StopAtBounds
-        Accessible.role: Accessible.List
-        Accessible.name: qsTrId("hoard.list")
-
-        delegate: NotificationRow {
-            width: ListView.view.width
+        BrowserHead {
+            width: parent.width
+            view: root.view
         }
 
-        KeyboardScroller {
-            view: list
+        HorizontalDivider {
+            width: parent.width
         }
 
-        T.ScrollBar.vertical: ThinScrollBar {}
+        BannerSlot {
+            width: parent.width
+            height: implicitHeight
+            view: root.view
+        }
+    }
+
+    Item {
+        id: room
+
+        anchors.top: top.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+
+        Notice {
+            anchors.centerIn: parent
+            visible: root.view.face === ContentViewState.Loading
+            symbol: "clock.arrow.circlepath"
+            title: qsTrId("hoard.loading")
+        }
+
+        Notice {
+            anchors.centerIn: parent
+            visible: root.view.face === ContentViewState.Waiting
+            symbol: "bell.slash"
+            title: qsTrId("hoard.empty.waiting")
+            detail: qsTrId("hoard.empty.waiting.detail")
+        }
+
+        Notice {
+            anchors.centerIn: parent
+            visible: root.view.face === ContentViewState.Fruitless
+            symbol: "magnifyingglass"
+            title: qsTrId("hoard.empty.noResults")
+            detail: qsTrId("hoard.empty.noResults.detail")
+        }
+
+        NotificationList {
+            id: list
+
+            anchors.fill: parent
+            visible: root.view.face === ContentViewState.List
+            focus: true
+            view: root.view
+        }
+    }
+
+    NotificationPreviewSheet {
+        view: root.view
+    }
+
+    Loader {
+        active: root.view.showExportSheet
+        onActiveChanged: if (!active) list.forceActiveFocus()
+
+        sourceComponent: Item {
+            ExportOptionsSheet {
+                objectName: "exportSheet"
+                options: root.view.exportSheet
+                visible: true
+            }
+        }
+    }
+
+    AlertDialog {
+        objectName: "deleteSelectedConfirm"
+        text: root.view.deleteSelectedTitle
+        visible: root.view.showDeleteSelectedConfirm
+        onClosed: root.view.showDeleteSelectedConfirm = false
+        actions: [
+            AlertAction {
+                text: qsTrId("selection.confirmDelete.btn")
+                role: AlertAction.Destructive
+                onTriggered: root.view.deleteSelected()
+            },
+            AlertAction {
+                text: qsTrId("action.cancel")
+                role: AlertAction.Cancel
+            }
+        ]
+    }
+
+    AlertDialog {
+        objectName: "deleteAllConfirm"
+        text: root.view.deleteAllTitle
+        visible: root.view.showDeleteAllConfirm
+        onClosed: root.view.showDeleteAllConfirm = false
+        actions: [
+            AlertAction {
+                text: qsTrId("selection.deleteAll")
+                role: AlertAction.Destructive
+                onTriggered: root.view.deleteEverything()
+            },
+            AlertAction {
+                text: qsTrId("action.cancel")
+                role: AlertAction.Cancel
+            }
+        ]
     }
 }

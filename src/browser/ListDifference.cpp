@@ -1,44 +1,54 @@
 #include "browser/ListDifference.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <deque>
 #include <optional>
-#include <unordered_map>
 
 namespace tessarine {
 
 namespace {
 
+// A row's key in the hoard and no text, or a group's key. No row of the hoard has the number 0, and
+// a header's number is below all.
+using LineKey = std::pair<qint64, QString>;
+
+LineKey keyOf(const ListEntry& line) {
+    if (line.kind == ListEntry::Kind::header)
+        return {-1, line.groupKey};
+    return {line.notification.dbId, {}};
+}
+
 // What both lists begin and end with is found without any bookkeeping: a reload mostly adds a few
 // rows at the front.
-std::size_t commonPrefix(const NotificationList& before, const NotificationList& after) {
+std::size_t commonPrefix(const ListEntries& before, const ListEntries& after) {
     const auto end =
-        std::mismatch(before.begin(), before.end(), after.begin(), after.end(), showsSameRow);
+        std::mismatch(before.begin(), before.end(), after.begin(), after.end(), looksTheSame);
     return std::size_t(end.first - before.begin());
 }
 
-std::size_t commonSuffix(const NotificationList& before, const NotificationList& after,
-                         std::size_t prefix) {
+std::size_t commonSuffix(const ListEntries& before, const ListEntries& after, std::size_t prefix) {
     const auto limit = std::ptrdiff_t(std::min(before.size(), after.size()) - prefix);
     const auto end =
-        std::mismatch(before.rbegin(), before.rbegin() + limit, after.rbegin(), showsSameRow);
+        std::mismatch(before.rbegin(), before.rbegin() + limit, after.rbegin(), looksTheSame);
     return std::size_t(end.first - before.rbegin());
 }
 
-// For each old row between prefix and suffix its place in the new list. Rows that share a key
+// For each old line between prefix and suffix its place in the new list. Rows that share a key
 // (those that no hoard has stored) pair up in their order.
-KeptRows pairsByKey(const NotificationList& before, const NotificationList& after,
-                    std::size_t prefix, std::size_t suffix) {
-    std::unordered_map<qint64, std::deque<std::size_t>> places;
+KeptRows pairsByKey(const ListEntries& before, const ListEntries& after, std::size_t prefix,
+                    std::size_t suffix) {
+    QHash<LineKey, std::deque<std::size_t>> places;
     for (std::size_t i = prefix; i < after.size() - suffix; ++i)
-        places[after[i].dbId].push_back(i);
+        places[keyOf(after[i])].push_back(i);
     KeptRows pairs;
     for (std::size_t i = prefix; i < before.size() - suffix; ++i) {
-        const auto found = places.find(before[i].dbId);
-        if (found == places.end() || found->second.empty())
+        const auto found = places.find(keyOf(before[i]));
+        if (found == places.end() || found->empty())
             continue;
-        pairs.emplace_back(i, found->second.front());
-        found->second.pop_front();
+        pairs.emplace_back(i, found->front());
+        found->pop_front();
     }
     return pairs;
 }
@@ -68,7 +78,7 @@ KeptRows longestAscending(const KeptRows& pairs) {
 
 } // namespace
 
-KeptRows keptRows(const NotificationList& before, const NotificationList& after) {
+KeptRows keptRows(const ListEntries& before, const ListEntries& after) {
     const std::size_t prefix = commonPrefix(before, after);
     const std::size_t suffix = commonSuffix(before, after, prefix);
     KeptRows kept;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shared/CapturedNotification.h"
+#include "browser/ListEntry.h"
 
 #include <cstddef>
 #include <utility>
@@ -8,11 +8,11 @@
 
 namespace tessarine {
 
-// Which rows of an old list stay in a new one: pairs of old and new position, ascending in both,
-// found by the rows' keys in the hoard. A kept row may have changed in content. As many rows are
-// kept as their order allows.
+// Which lines of an old list stay in a new one: pairs of old and new position, ascending in both.
+// Rows are found by their keys in the hoard, headers by those of their groups. A kept line may have
+// changed in content. As many lines are kept as their order allows.
 using KeptRows = std::vector<std::pair<std::size_t, std::size_t>>;
 
-KeptRows keptRows(const NotificationList& before, const NotificationList& after);
+KeptRows keptRows(const ListEntries& before, const ListEntries& after);
 
 } // namespace tessarine

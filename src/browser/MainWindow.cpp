@@ -1,6 +1,6 @@
 #include "browser/MainWindow.h"
 
-#include "browser/ContentView.h"
+#include "browser/KeyMonitor.h"
 #include "browser/WindowFrame.h"
 #include "platform/UserDefaults.h"
 
@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 // In the sources that Qt makes for the modules. Naming them keeps a static library's types from
 // being left out of the program.
@@ -41,10 +42,9 @@ QSize firstSize(const QQuickItem& root) {
 
 } // namespace
 
-MainWindow::MainWindow(std::shared_ptr<NotificationListener> listener, UserDefaults& defaults,
-                       QQmlEngine& engine)
+MainWindow::MainWindow(ContentView::Services services, UserDefaults& defaults, QQmlEngine& engine)
     : defaults_(defaults)
-    , content_(std::make_unique<ContentView>(std::move(listener)))
+    , content_(std::make_unique<ContentView>(std::move(services)))
     , window_(std::make_unique<QQuickView>(&engine, nullptr)) {
     load();
     place();
@@ -65,6 +65,7 @@ void MainWindow::load() {
     window_->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Tessarine/Browser/ContentView.qml")));
     if (window_->status() != QQuickView::Ready)
         qFatal("%s", qPrintable(window_->errors().value(0).toString()));
+    keyMonitor_ = std::make_unique<KeyMonitor>(*content_, *window_, *window_->rootObject());
 }
 
 void MainWindow::place() {
@@ -92,8 +93,11 @@ void MainWindow::watchFrame() {
 }
 
 void MainWindow::onVisibleChanged(bool visible) {
-    if (visible)
+    if (visible) {
+        if (!std::exchange(hasAppeared_, true))
+            content_->appear();
         return;
+    }
     saveTimer_.stop();
     saveFrame();
 }

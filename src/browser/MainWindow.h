@@ -1,19 +1,19 @@
 #pragma once
 
+#include "browser/ContentView.h"
+
 #include <QObject>
 #include <QTimer>
 
 #include <memory>
 
 class QQmlEngine;
-class QQuickItem;
 class QQuickView;
 class QQuickWindow;
 
 namespace tessarine {
 
-class ContentView;
-class NotificationListener;
+class KeyMonitor;
 class UserDefaults;
 
 // The browser's window. It is built hidden and lives as long as the program: closing hides it, and
@@ -24,8 +24,7 @@ class MainWindow : public QObject {
 
 public:
     // The defaults and the engine outlive the window.
-    MainWindow(std::shared_ptr<NotificationListener> listener, UserDefaults& defaults,
-               QQmlEngine& engine);
+    MainWindow(ContentView::Services services, UserDefaults& defaults, QQmlEngine& engine);
     ~MainWindow() override; // hides the window
 
     // Shows the window in front of the program's others and asks for the keyboard.
@@ -33,6 +32,7 @@ public:
 
     bool isVisible() const;
     QQuickWindow* window() const;
+    ContentView& content() const { return *content_; }
 
 private:
     void load();
@@ -45,6 +45,8 @@ private:
     QTimer saveTimer_;
     std::unique_ptr<ContentView> content_;
     std::unique_ptr<QQuickView> window_;
+    std::unique_ptr<KeyMonitor> keyMonitor_;
+    bool hasAppeared_ = false;
 };
 
 } // namespace tessarine

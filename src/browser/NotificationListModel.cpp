@@ -5,6 +5,8 @@
 
 #include <QMetaEnum>
 
+#include <algorithm>
+
 namespace tessarine {
 
 namespace {
@@ -20,73 +22,131 @@ QString beginning(const QString& text) {
     return text.left(splitsPair ? longestShownText - 1 : longestShownText) + u'…';
 }
 
+QString timeText(const ListEntry& row) {
+    const RowTimeFormatter& formatter = row.showDate ? rowDateTimeFormatter() : rowTimeFormatter();
+    return formatter.text(row.notification.timestamp);
+}
+
+QString spokenText(const ListEntry& row) {
+    const CapturedNotification& notification = row.notification;
+    QStringList texts{notification.appName, beginning(notification.title),
+                      beginning(notification.body), timeText(row)};
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral(", "));
+}
+
 } // namespace
 
-NotificationListModel::NotificationListModel(QObject* parent)
-    : QAbstractListModel(parent) {}
+NotificationListModel::NotificationListModel(const Marks& marks, QObject* parent)
+    : QAbstractListModel(parent)
+    , marks_(marks) {}
 
 // Takes out what went, from the end so that positions stay valid, puts in what came, from the
-// front, and then tells what changed in the rows that stayed.
-void NotificationListModel::setNotifications(NotificationList notifications) {
-    const KeptRows kept = keptRows(rows_, notifications);
-    std::size_t end = rows_.size();
+// front, and then tells what changed in the lines that stayed.
+void NotificationListModel::setEntries(ListEntries entries) {
+    const KeptRows kept = keptRows(entries_, entries);
+    std::size_t end = entries_.size();
     for (auto pair = kept.rbegin(); pair != kept.rend(); ++pair) {
-        removeRowsAt(int(pair->first) + 1, int(end - pair->first) - 1);
+        removeLinesAt(int(pair->first) + 1, int(end - pair->first) - 1);
         end = pair->first;
     }
-    removeRowsAt(0, int(end));
+    removeLinesAt(0, int(end));
 
     std::size_t begin = 0;
     for (const auto& [before, after] : kept) {
-        insertRowsAt(notifications, begin, after);
+        insertLinesAt(entries, begin, after);
         begin = after + 1;
     }
-    insertRowsAt(notifications, begin, notifications.size());
-    replaceRows(std::move(notifications));
+    insertLinesAt(entries, begin, entries.size());
+    replaceLines(std::move(entries));
 }
 
-void NotificationListModel::removeRowsAt(int first, int count) {
+void NotificationListModel::removeLinesAt(int first, int count) {
     if (count < 1)
         return;
     beginRemoveRows({}, first, first + count - 1);
-    rows_.erase(rows_.begin() + first, rows_.begin() + first + count);
+    entries_.erase(entries_.begin() + first, entries_.begin() + first + count);
     endRemoveRows();
 }
 
-void NotificationListModel::insertRowsAt(const NotificationList& from, std::size_t first,
-                                         std::size_t end) {
+void NotificationListModel::insertLinesAt(const ListEntries& from, std::size_t first,
+                                          std::size_t end) {
     if (first >= end)
         return;
     beginInsertRows({}, int(first), int(end) - 1);
-    rows_.insert(rows_.begin() + std::ptrdiff_t(first), from.begin() + std::ptrdiff_t(first),
-                 from.begin() + std::ptrdiff_t(end));
+    entries_.insert(entries_.begin() + std::ptrdiff_t(first), from.begin() + std::ptrdiff_t(first),
+                    from.begin() + std::ptrdiff_t(end));
     endInsertRows();
 }
 
-void NotificationListModel::replaceRows(NotificationList rows) {
-    const NotificationList before = std::exchange(rows_, std::move(rows));
+void NotificationListModel::replaceLines(ListEntries entries) {
+    const ListEntries before = std::exchange(entries_, std::move(entries));
     bool sameIds = true;
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        sameIds = sameIds && before[i].id == rows_[i].id;
-        if (!showsSameRow(before[i], rows_[i]))
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+        sameIds = sameIds && before[i].notification.id == entries_[i].notification.id;
+        if (!looksTheSame(before[i], entries_[i]))
             Q_EMIT dataChanged(index(int(i)), index(int(i)));
     }
     if (!sameIds)
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {int(Role::NotificationId)});
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1),
+                           {int(Role::NotificationId), int(Role::IsSelected), int(Role::IsFocused),
+                            int(Role::Header)});
+}
+
+void NotificationListModel::marksChanged() {
+    if (!entries_.empty())
+        Q_EMIT dataChanged(
+            index(0), index(rowCount() - 1),
+            {int(Role::IsSelected), int(Role::IsFocused), int(Role::IsPrivate), int(Role::Header)});
+}
+
+bool NotificationListModel::isHeader(int line) const {
+    return entries_[std::size_t(line)].kind == ListEntry::Kind::header;
+}
+
+int NotificationListModel::headerAbove(int line) const {
+    if (line >= rowCount())
+        return -1;
+    while (line >= 0 && !isHeader(line))
+        --line;
+    return std::max(line, -1);
+}
+
+int NotificationListModel::headerBelow(int line) const {
+    for (int next = std::max(line, -1) + 1; next < rowCount(); ++next) {
+        if (isHeader(next))
+            return next;
+    }
+    return -1;
+}
+
+GroupHeader NotificationListModel::header(int line) const {
+    const bool exists = line >= 0 && line < rowCount() && isHeader(line);
+    return exists ? headerOf(entries_[std::size_t(line)]) : GroupHeader();
 }
 
 int NotificationListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(rows_.size());
+    return parent.isValid() ? 0 : int(entries_.size());
 }
 
 QVariant NotificationListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    const CapturedNotification& row = rows_[std::size_t(index.row())];
-    return role == Qt::DisplayRole ? row.title : value(row, Role(role));
+    const ListEntry& entry = entries_[std::size_t(index.row())];
+    return role == Qt::DisplayRole ? entry.notification.title : value(entry, Role(role));
 }
 
-QVariant NotificationListModel::value(const CapturedNotification& row, Role role) const {
+QVariant NotificationListModel::value(const ListEntry& entry, Role role) const {
+    const bool isHeader = entry.kind == ListEntry::Kind::header;
+    if (role == Role::Kind)
+        return isHeader ? QStringLiteral("header") : QStringLiteral("row");
+    if (role == Role::Header)
+        return QVariant::fromValue(isHeader ? headerOf(entry) : GroupHeader());
+    return valueOfRow(entry, role);
+}
+
+QVariant NotificationListModel::valueOfRow(const ListEntry& entry, Role role) const {
+    const CapturedNotification& row = entry.notification;
     switch (role) {
     case Role::NotificationId:
         return row.id;
@@ -99,18 +159,37 @@ QVariant NotificationListModel::value(const CapturedNotification& row, Role role
     case Role::Body:
         return beginning(row.body);
     case Role::TimeText:
-        return rowDateTimeFormatter().text(row.timestamp);
+        return timeText(entry);
+    case Role::Pinned:
+        return row.pinned;
+    case Role::IsPrivate:
+        return marks_.isPrivate && marks_.isPrivate(row.appBundleId);
+    case Role::IsSelected:
+        return marks_.selected.contains(row.id);
+    case Role::IsFocused:
+        return marks_.focused == row.id;
     case Role::SpokenText:
-        return spokenText(row);
+        return spokenText(entry);
+    case Role::Kind:
+    case Role::Header:
+        break;
     }
     return {};
 }
 
-QString NotificationListModel::spokenText(const CapturedNotification& row) const {
-    QStringList texts{row.appName, beginning(row.title), beginning(row.body),
-                      rowDateTimeFormatter().text(row.timestamp)};
-    texts.removeAll(QString());
-    return texts.join(QStringLiteral(", "));
+GroupHeader NotificationListModel::headerOf(const ListEntry& entry) const {
+    GroupHeader header;
+    header.key = entry.groupKey;
+    header.title = entry.title;
+    header.count = qsizetype(entry.ids->size());
+    header.isCollapsed = entry.isCollapsed;
+    header.selectedCount =
+        std::count_if(entry.ids->begin(), entry.ids->end(),
+                      [&](const QUuid& id) { return marks_.selected.contains(id); });
+    header.hasIcon = entry.showsApp;
+    header.bundleId = entry.notification.appBundleId;
+    header.appName = entry.notification.appName;
+    return header;
 }
 
 QHash<int, QByteArray> NotificationListModel::roleNames() const {

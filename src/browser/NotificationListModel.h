@@ -1,15 +1,18 @@
 #pragma once
 
-#include "shared/CapturedNotification.h"
+#include "browser/ListEntry.h"
 
 #include <QAbstractListModel>
+#include <QSet>
 #include <QtQml/qqmlregistration.h>
+
+#include <functional>
 
 namespace tessarine {
 
-// The rows of the browser, in the order of the list that it is given. A new list is told as the
-// rows that went, came and changed, never as a reset: every reload makes new ids, and a view must
-// keep its place all the same. Main thread.
+// The lines of the browser's list: notifications, and headers where they are grouped. A new list is
+// told as the lines that went, came and changed, never as a reset: every reload makes new ids, and
+// a view must keep its place all the same. Main thread.
 class NotificationListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -18,33 +21,62 @@ class NotificationListModel : public QAbstractListModel {
 public:
     // Each is a role in QML, under its name with a small first letter.
     enum class Role {
-        NotificationId = Qt::UserRole + 1, // fresh with each reload
+        Kind = Qt::UserRole + 1, // "row" or "header"; the roles below are a row's, but for Header
+        NotificationId,          // fresh with each reload
         BundleId,
         AppName,
-        Title,      // its beginning: as much as a row can show
-        Body,       // likewise
-        TimeText,   // date and time in the user's style
+        Title,    // its beginning: as much as a row can show
+        Body,     // likewise
+        TimeText, // in the user's style: date and time, or the time alone below a day's header
+        Pinned,
+        IsPrivate, // content is hidden until the user asks for it
+        IsSelected,
+        IsFocused,
         SpokenText, // the whole row for a screen reader
+        Header,     // a GroupHeader
     };
     Q_ENUM(Role)
 
-    explicit NotificationListModel(QObject* parent = nullptr);
+    // What the rows are marked with. Rows are told apart by their ids in memory.
+    struct Marks {
+        QSet<QUuid> selected;
+        QUuid focused;
+        std::function<bool(const QString& bundleId)> isPrivate;
+    };
 
-    void setNotifications(NotificationList notifications);
-    const NotificationList& notifications() const { return rows_; }
+    // The marks outlive the model.
+    explicit NotificationListModel(const Marks& marks, QObject* parent = nullptr);
+
+    void setEntries(ListEntries entries);
+    const ListEntries& entries() const { return entries_; }
+
+    // To be called after each change of the marks.
+    void marksChanged();
+
+    // The header that a line belongs to: the line itself or the nearest above. -1 without groups,
+    // or when there is no such line.
+    Q_INVOKABLE int headerAbove(int line) const;
+
+    // The next header behind a line, -1 when there is none.
+    Q_INVOKABLE int headerBelow(int line) const;
+
+    Q_INVOKABLE tessarine::GroupHeader header(int line) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
 private:
-    QVariant value(const CapturedNotification& row, Role role) const;
-    QString spokenText(const CapturedNotification& row) const;
-    void removeRowsAt(int first, int count);
-    void insertRowsAt(const NotificationList& from, std::size_t first, std::size_t end);
-    void replaceRows(NotificationList rows);
+    bool isHeader(int line) const;
+    QVariant value(const ListEntry& entry, Role role) const;
+    QVariant valueOfRow(const ListEntry& entry, Role role) const;
+    GroupHeader headerOf(const ListEntry& entry) const;
+    void removeLinesAt(int first, int count);
+    void insertLinesAt(const ListEntries& from, std::size_t first, std::size_t end);
+    void replaceLines(ListEntries entries);
 
-    NotificationList rows_;
+    const Marks& marks_;
+    ListEntries entries_;
 };
 
 } // namespace tessarine

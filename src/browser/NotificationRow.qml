@@ -1,56 +1,132 @@
 import QtQuick
 import Tessarine.Apps
+import Tessarine.Browser
 import Tessarine.Theme
 
 // One notification in the list.
 Item {
     id: row
 
+    required property var notificationId
     required property string bundleId
     required property string appName
     required property string title
     required property string body
     required property string timeText
+    required property bool pinned
+    required property bool isPrivate
+    required property bool isSelected
+    required property bool isFocused
     required property string spokenText
+    property bool selectionMode
 
     readonly property int horizontalPadding: 10
     readonly property int verticalPadding: 6
     readonly property int itemSpacing: 10
-    readonly property int iconRadius: 8
-    readonly property real timeOpacity: 0.7
-    readonly property real restingOpacity: 0.5
+    readonly property bool masked: reactions.masked
+    readonly property bool drawnFocused: isFocused && !selectionMode
+
+    signal singleTap(var id)
+    signal doubleTap(var id)
+    signal toggleSelection(var id)
+    signal menuRequested(var id)
 
     implicitHeight: Math.max(icon.height, texts.height) + 2 * verticalPadding
     Accessible.role: Accessible.ListItem
-    Accessible.name: spokenText
-    ListView.onReused: icon.rebuild()
+    Accessible.name: masked ? appName + ", " + qsTrId("row.clickToReveal") : spokenText
+    Accessible.selectable: true
+    Accessible.selected: selectionMode ? isSelected : isFocused
+    Accessible.checkable: selectionMode
+    Accessible.checked: selectionMode && isSelected
+    Accessible.onPressAction: reactions.click()
+
+    NotificationRowState {
+        id: reactions
+
+        notificationId: row.notificationId
+        isPrivate: row.isPrivate
+        selectionMode: row.selectionMode
+        onSingleTap: id => row.singleTap(id)
+        onDoubleTap: id => row.doubleTap(id)
+        onToggleSelection: id => row.toggleSelection(id)
+    }
 
     HoverHandler {
         id: pointer
+
+        cursorShape: row.selectionMode ? Qt.ArrowCursor : Qt.PointingHandCursor
     }
 
-    Rectangle {
+    MouseArea {
+        anchors.fill: card
+        acceptedButtons: Qt.LeftButton
+        onPressed: reactions.press()
+        onClicked: reactions.click()
+        onDoubleClicked: reactions.doubleClick()
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        gesturePolicy: TapHandler.WithinBounds
+        onTapped: row.menuRequested(row.notificationId)
+    }
+
+    HoverTip {
+        text: row.selectionMode ? (row.isSelected ? qsTrId("row.deselect") : qsTrId("row.select"))
+            : row.masked ? qsTrId("row.clickToReveal") : qsTrId("row.singleClickToSelect").arg(row.appName)
+        visible: pointer.hovered
+    }
+
+    RowBackground {
         id: card
 
         anchors.fill: parent
         anchors.leftMargin: Metrics.spacingMedium
         anchors.rightMargin: Metrics.spacingMedium
-        radius: Metrics.cornerRadius
-        color: Theme.colours.controlBackground
-        opacity: pointer.hovered ? 1 : row.restingOpacity
+        focused: row.drawnFocused
+        selected: row.isSelected
+        hovered: pointer.hovered
+    }
+
+    SelectionCircle {
+        id: circle
+
+        anchors.left: card.left
+        anchors.leftMargin: row.horizontalPadding
+        y: row.verticalPadding
+        shown: row.selectionMode
+        checked: row.isSelected
     }
 
     AppIconView {
         id: icon
 
-        anchors.left: card.left
-        anchors.leftMargin: row.horizontalPadding
+        anchors.left: circle.right
+        anchors.leftMargin: circle.shown ? row.itemSpacing : 0
         y: row.verticalPadding
         width: Metrics.iconSize
         height: Metrics.iconSize
+        cornerRadius: Metrics.cornerRadius
         bundleId: row.bundleId
         appName: row.appName
-        cornerRadius: row.iconRadius
+
+        IconBadge {
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            symbol: "lock.fill"
+            size: 9
+            color: Qt.alpha(Theme.colours.secondaryLabel, 0.8)
+            visible: row.masked
+        }
+
+        IconBadge {
+            anchors.right: parent.right
+            anchors.top: parent.top
+            symbol: "pin.fill"
+            size: 8
+            color: Theme.colours.accentFill
+            visible: row.pinned
+        }
     }
 
     Column {
@@ -63,43 +139,21 @@ Item {
         y: row.verticalPadding
         spacing: Metrics.spacingTiny
 
-        Item {
+        RowTopLine {
             width: parent.width
-            height: name.height
+            appName: row.appName
+            timeText: row.timeText
+            masked: row.masked
+        }
 
-            PlainLabel {
-                id: name
-
-                anchors.left: parent.left
-                anchors.right: time.left
-                anchors.rightMargin: Metrics.spacingMedium
-                text: row.appName
-                font.pixelSize: Metrics.textSmall
-                font.weight: Font.DemiBold
-                color: Theme.colours.secondaryLabel
-                maximumLineCount: 1
-                wrapMode: Text.WrapAnywhere
-                Accessible.ignored: true
-            }
-
-            PlainLabel {
-                id: time
-
-                anchors.right: parent.right
-                anchors.baseline: name.baseline
-                text: row.timeText
-                font.family: Theme.tabularFamily
-                font.pixelSize: Metrics.textTiny
-                color: Theme.colours.secondaryLabel
-                opacity: row.timeOpacity
-                Accessible.ignored: true
-            }
+        RowMask {
+            visible: row.masked
         }
 
         PlainLabel {
             width: parent.width
             text: row.title
-            visible: row.title
+            visible: row.title && !row.masked
             font.pixelSize: Metrics.textHeadline
             font.weight: Font.Medium
             maximumLineCount: 2
@@ -110,7 +164,7 @@ Item {
         PlainLabel {
             width: parent.width
             text: row.body
-            visible: row.body
+            visible: row.body && !row.masked
             color: Theme.colours.secondaryLabel
             maximumLineCount: 3
             wrapMode: Text.Wrap

@@ -1,37 +1,29 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-
-#include <memory>
+#include "shared/DateFormatter.h"
 
 namespace tessarine {
 
-// The moment of a notification as a row shows it: always a plain date and time in the user's
-// medium style, never an age. Made once for a purpose, since making one is far dearer than using
-// it. Main thread.
+// The moment of a notification as the browser shows it: always a plain date and time in the user's
+// medium style, or a day in the full one, never an age. Main thread.
 class RowTimeFormatter {
 public:
-    enum class Style { dateAndTime, timeOnly };
+    enum class Style { dateAndTime, timeOnly, fullDate };
 
     // A locale by its ICU name ("de_DE"), a time zone by its Olson name; without one, the user's.
     RowTimeFormatter(Style style, const QByteArray& locale, const QString& timeZone = {});
-    ~RowTimeFormatter();
 
     // Of a moment in seconds since the reference date. Nothing for one that is no finite number;
     // one outside the calendar's range reads as the range's end.
-    QString text(double timestamp) const;
+    QString text(double timestamp) const { return format_.text(timestamp); }
 
 private:
-    struct Format;
-    std::unique_ptr<Format> format_;
+    DateFormatter format_;
 };
 
 // In the user's locale and time zone, made at their first use.
 const RowTimeFormatter& rowDateTimeFormatter();
 const RowTimeFormatter& rowTimeFormatter();
-
-// The ICU name of the locale in which the user reads dates.
-QByteArray userDateLocale();
+const RowTimeFormatter& dayTitleFormatter();
 
 } // namespace tessarine

@@ -2,7 +2,8 @@
 
 #include "core/Retention.h"
 
-#include <QCoreApplication>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QQuickWindow>
 
 namespace tessarine {
@@ -15,7 +16,9 @@ const QString restoreWindowsKey = QStringLiteral("NSQuitAlwaysKeepsWindows");
 
 AppDelegate::AppDelegate(Services services)
     : services_(std::move(services))
-    , listener_(NotificationListener::create(services_.capture)) {}
+    , listener_(NotificationListener::create(services_.capture))
+    , launcher_(*services_.capture.platform.workspace, *services_.capture.platform.fileSystem,
+                *services_.capture.platform.scheduler) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -28,8 +31,22 @@ void AppDelegate::applicationDidFinishLaunching() {
     menuBarController_ = std::make_unique<MenuBarController>(
         *services_.desktop.statusItem, listener_, *platform.userDefaults,
         [this] { showMainWindow(); }, [] { QCoreApplication::quit(); });
-    mainWindow_ = std::make_unique<MainWindow>(listener_, *platform.userDefaults, services_.views);
+    mainWindow_ =
+        std::make_unique<MainWindow>(browserServices(), *platform.userDefaults, services_.views);
     beginLaunchFlow();
+}
+
+ContentView::Services AppDelegate::browserServices() {
+    const NotificationListener::Services& capture = services_.capture;
+    return {listener_,
+            capture.hoard,
+            capture.preferences,
+            *capture.platform.scheduler,
+            launcher_,
+            [](const QString& text) { QGuiApplication::clipboard()->setText(text); },
+            [](NotificationList list, std::function<void()> onDismiss) {
+                return std::make_unique<ExportOptionsSheet>(std::move(list), std::move(onDismiss));
+            }};
 }
 
 void AppDelegate::beginLaunchFlow() {

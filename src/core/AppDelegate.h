@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/AppLauncher.h"
 #include "browser/MainWindow.h"
 #include "capture/NotificationListener.h"
 #include "core/PreferencesStore.h"
@@ -50,12 +51,14 @@ public:
     bool fdaConfirmedAtLaunch() const { return fdaConfirmedAtLaunch_; }
 
 private:
+    ContentView::Services browserServices();
     void beginLaunchFlow();
     void finishStartup();
     void applyRetention();
 
     Services services_;
     std::shared_ptr<NotificationListener> listener_;
+    AppLauncher launcher_;
     std::unique_ptr<MenuBarController> menuBarController_;
     std::unique_ptr<MainWindow> mainWindow_;
     bool fdaConfirmedAtLaunch_ = false;

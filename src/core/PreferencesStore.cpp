@@ -54,7 +54,10 @@ PreferencesStore& PreferencesStore::shared() {
 template <typename Field, typename Value, typename Write>
 void PreferencesStore::assign(Field& field, const Value& value, const Write& write) {
     Q_EMIT objectWillChange();
-    field = value;
+    {
+        const std::lock_guard lock(mutex_);
+        field = value;
+    }
     write();
     Q_EMIT changed();
 }
@@ -103,6 +106,7 @@ void PreferencesStore::setAppearanceMode(const QString& value) {
 }
 
 bool PreferencesStore::isPrivate(const QString& bundleId) const {
+    const std::lock_guard lock(mutex_);
     return globalPrivacyMode_ || privacyApps_.contains(bundleId);
 }
 

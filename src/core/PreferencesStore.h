@@ -5,13 +5,15 @@
 #include <QObject>
 #include <QString>
 
+#include <mutex>
 #include <set>
 
 namespace tessarine {
 
 // The user's settings, in memory and written through: a setter tells observers, publishes the
 // value and has it on disk before it returns, also when the value is the one that was there.
-// Values are taken as they come, without clamping. Main thread; other threads read the defaults.
+// Values are taken as they come, without clamping. Main thread, apart from isPrivate; other threads
+// read the defaults.
 class PreferencesStore : public QObject {
     Q_OBJECT
 
@@ -43,7 +45,8 @@ public:
     void setExcludedBundleIds(const std::set<QString>& value);
     void setAppearanceMode(const QString& value);
 
-    // Whether the content of this application's notifications is masked. Exact comparison.
+    // Whether the content of this application's notifications is masked, by what is set at this
+    // moment. Exact comparison. Any thread.
     bool isPrivate(const QString& bundleId) const;
 
 Q_SIGNALS:
@@ -55,6 +58,7 @@ private:
     void assign(Field& field, const Value& value, const Write& write);
 
     UserDefaults& defaults_;
+    mutable std::mutex mutex_; // guards what isPrivate reads; only the main thread writes
     qint64 retentionDays_ = 0;
     bool globalPrivacyMode_ = false;
     std::set<QString> privacyApps_;

@@ -2,6 +2,8 @@
 
 #include "platform/ApplicationControl.h"
 #include "platform/ApplicationIcons.h"
+#include "platform/FileViewer.h"
+#include "platform/SavePanel.h"
 #include "platform/StatusItem.h"
 #include "platform/Symbols.h"
 #include "platform/SystemAppearance.h"
@@ -18,6 +20,8 @@ struct Desktop {
     std::unique_ptr<SystemAppearance> appearance;
     std::unique_ptr<ApplicationControl> application;
     std::unique_ptr<StatusItem> statusItem;
+    std::unique_ptr<SavePanel> savePanel;
+    std::unique_ptr<FileViewer> fileViewer;
 
     // The desktop of the running process, which main installs. Never destroyed: the process ends.
     static void install(std::unique_ptr<Desktop> desktop);

@@ -4,6 +4,7 @@
 #include <unicode/locid.h>
 #include <unicode/utext.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <memory>
@@ -78,6 +79,16 @@ QStringView trimmedBlanks(QStringView text) {
     while (!text.isEmpty() && isBlank(text.back()))
         text.chop(1);
     return text;
+}
+
+bool plainTextLess(QStringView left, QStringView right) {
+    const auto [here, there] = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
+    if (here == left.end() || there == right.end())
+        return there != right.end();
+    // Surrogates stand for scalars above all others, the last units of the basic plane included.
+    if (here->isSurrogate() != there->isSurrogate())
+        return there->isSurrogate();
+    return *here < *there;
 }
 
 QByteArray storedUtf8(const QString& text) {

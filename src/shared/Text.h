@@ -15,6 +15,10 @@ qsizetype characterCount(QStringView text);
 // The text without blanks and tabs of any script at its ends. Line breaks stay.
 QStringView trimmedBlanks(QStringView text);
 
+// Plain text order: by Unicode scalar value, so that "～" comes before "😀". UTF-16 units alone
+// would turn these two round.
+bool plainTextLess(QStringView left, QStringView right);
+
 // UTF-8 for storage. Half a surrogate pair, which UTF-8 cannot hold, becomes U+FFFD.
 QByteArray storedUtf8(const QString& text);
 

@@ -6,8 +6,8 @@ import Tessarine.Theme
 ListView {
     required property T.Menu menu
 
-    readonly property real widestRow: Array.from(menu.contentChildren).reduce(
-        (widest, row) => Math.max(widest, row.implicitWidth), 0)
+    readonly property real widestRow: Array.from({ length: menu.count }, (nothing, index) => menu.itemAt(index))
+        .reduce((widest, row) => Math.max(widest, row?.implicitWidth ?? 0), 0)
 
     implicitWidth: widestRow
     implicitHeight: contentHeight

@@ -12,6 +12,12 @@ QFont textFont() {
     return font;
 }
 
+QFont monospacedFont() {
+    QFont font = textFont();
+    font.setFamilies(QStringList(QStringLiteral("Noto Sans Mono")) + font.families());
+    return font;
+}
+
 QString tabularDigitsFamily() {
     return QStringLiteral("Noto Sans");
 }

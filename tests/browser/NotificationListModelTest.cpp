@@ -3,6 +3,7 @@
 #include "support/Printers.h"
 
 #include <QAbstractItemModelTester>
+#include <QMetaEnum>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -55,8 +56,8 @@ public:
 private:
     void insert(int first, int last) {
         ++told;
-        rows.insert(rows.begin() + first, model_.notifications().begin() + first,
-                    model_.notifications().begin() + last + 1);
+        for (int line = first; line <= last; ++line)
+            rows.insert(rows.begin() + line, shownAt(line));
     }
     void remove(int first, int last) {
         ++told;
@@ -64,8 +65,12 @@ private:
     }
     void change(int first, int last) {
         ++told;
-        std::copy(model_.notifications().begin() + first, model_.notifications().begin() + last + 1,
-                  rows.begin() + first);
+        for (int line = first; line <= last; ++line)
+            rows[std::size_t(line)] = shownAt(line);
+    }
+
+    const CapturedNotification& shownAt(int line) const {
+        return model_.entries()[std::size_t(line)].notification;
     }
 
     const NotificationListModel& model_;
@@ -75,7 +80,10 @@ class ModelTest : public ::testing::Test {
 protected:
     QVariant at(int index, Role role) const { return model_.data(model_.index(index), int(role)); }
 
-    NotificationListModel model_;
+    void setRows(const NotificationList& list) { model_.setEntries(ungroupedEntries(list)); }
+
+    NotificationListModel::Marks marks_;
+    NotificationListModel model_{marks_};
     QAbstractItemModelTester tester_{&model_,
                                      QAbstractItemModelTester::FailureReportingMode::Fatal};
     Mirror mirror_{model_};
@@ -90,19 +98,18 @@ TEST_F(ModelTest, RolesAreNamedAsTheEnumerationHasThem) {
     EXPECT_EQ(names.value(int(Role::AppName)), QByteArray("appName"));
     EXPECT_EQ(names.value(int(Role::Title)), QByteArray("title"));
     EXPECT_EQ(names.value(int(Role::SpokenText)), QByteArray("spokenText"));
-    EXPECT_EQ(names.size(), 7);
+    EXPECT_EQ(names.size(), QMetaEnum::fromType<Role>().keyCount());
 }
 
 TEST_F(ModelTest, ARowHasItsTexts) {
     CapturedNotification notification = row(7, u"Hello"_qs);
     notification.body = u"World"_qs;
-    notification.appBundleId = u"com.apple.mail"_qs;
-    model_.setNotifications({notification});
+    setRows({notification});
     EXPECT_EQ(at(0, Role::NotificationId).toUuid(), notification.id);
     EXPECT_EQ(at(0, Role::AppName).toString(), u"Mail"_qs);
     EXPECT_EQ(at(0, Role::Title).toString(), u"Hello"_qs);
     EXPECT_EQ(at(0, Role::Body).toString(), u"World"_qs);
-    EXPECT_EQ(at(0, Role::BundleId).toString(), u"com.apple.mail"_qs);
+    EXPECT_EQ(at(0, Role::Kind).toString(), u"row"_qs);
     EXPECT_TRUE(at(0, Role::TimeText).toString().contains(u"2001"_qs) ||
                 at(0, Role::TimeText).toString().contains(u"2000"_qs));
     EXPECT_TRUE(at(0, Role::SpokenText).toString().startsWith(u"Mail, Hello, World, "_qs));
@@ -112,34 +119,36 @@ TEST_F(ModelTest, ARowHasItsTexts) {
 TEST_F(ModelTest, AHugeTextIsCutBetweenTwoCharacters) {
     const QString fits = u"x"_qs.repeated(2000);
     const QString pairs = u"x"_qs + u"😀"_qs.repeated(5000);
-    model_.setNotifications({row(1, fits), row(2, pairs)});
+    setRows({row(1, fits), row(2, pairs)});
     EXPECT_EQ(at(0, Role::Title).toString(), fits);
     const QString cut = at(1, Role::Title).toString();
     EXPECT_EQ(cut, u"x"_qs + u"😀"_qs.repeated(999) + u"…"_qs);
 }
 
 TEST_F(ModelTest, AReloadTellsNothingButTheFreshIds) {
-    model_.setNotifications(rows({3, 2, 1}));
+    setRows(rows({3, 2, 1}));
     inserted_.clear();
-    model_.setNotifications(rows({3, 2, 1}));
+    setRows(rows({3, 2, 1}));
     EXPECT_EQ(inserted_.count(), 0);
     EXPECT_EQ(removed_.count(), 0);
     ASSERT_EQ(changed_.count(), 1);
-    EXPECT_EQ(changed_[0][2].value<QList<int>>(), QList<int>{int(Role::NotificationId)});
+    EXPECT_EQ(changed_[0][2].value<QList<int>>(),
+              (QList<int>{int(Role::NotificationId), int(Role::IsSelected), int(Role::IsFocused),
+                          int(Role::Header)}));
 }
 
 TEST_F(ModelTest, TheVerySameListTellsNothingAtAll) {
     const NotificationList list = rows({3, 2, 1});
-    model_.setNotifications(list);
+    setRows(list);
     const int told = mirror_.told;
-    model_.setNotifications(list);
+    setRows(list);
     EXPECT_EQ(mirror_.told, told);
 }
 
 TEST_F(ModelTest, ANewRowInFrontIsOneInsertion) {
-    model_.setNotifications(rows({3, 2, 1}));
+    setRows(rows({3, 2, 1}));
     inserted_.clear();
-    model_.setNotifications(rows({4, 3, 2, 1}));
+    setRows(rows({4, 3, 2, 1}));
     ASSERT_EQ(inserted_.count(), 1);
     EXPECT_EQ(inserted_[0][1].toInt(), 0);
     EXPECT_EQ(inserted_[0][2].toInt(), 0);
@@ -147,9 +156,9 @@ TEST_F(ModelTest, ANewRowInFrontIsOneInsertion) {
 }
 
 TEST_F(ModelTest, AFullListDropsItsLastRowForANewFirstOne) {
-    model_.setNotifications(rows({3, 2, 1}));
+    setRows(rows({3, 2, 1}));
     inserted_.clear();
-    model_.setNotifications(rows({4, 3, 2}));
+    setRows(rows({4, 3, 2}));
     ASSERT_EQ(removed_.count(), 1);
     EXPECT_EQ(removed_[0][1].toInt(), 2);
     ASSERT_EQ(inserted_.count(), 1);
@@ -157,11 +166,11 @@ TEST_F(ModelTest, AFullListDropsItsLastRowForANewFirstOne) {
 }
 
 TEST_F(ModelTest, APinnedRowThatMovesUpLeavesTheOthersAlone) {
-    model_.setNotifications(rows({4, 3, 2, 1}));
+    setRows(rows({4, 3, 2, 1}));
     inserted_.clear();
     NotificationList pinned = rows({2, 4, 3, 1});
     pinned[0].pinned = true;
-    model_.setNotifications(pinned);
+    setRows(pinned);
     ASSERT_EQ(removed_.count(), 1);
     EXPECT_EQ(removed_[0][1].toInt(), 2);
     ASSERT_EQ(inserted_.count(), 1);
@@ -169,16 +178,123 @@ TEST_F(ModelTest, APinnedRowThatMovesUpLeavesTheOthersAlone) {
 }
 
 TEST_F(ModelTest, AChangedRowIsToldAsAChange) {
-    model_.setNotifications(rows({3, 2, 1}));
+    setRows(rows({3, 2, 1}));
     inserted_.clear();
     NotificationList list = rows({3, 2, 1});
     list[1].title = u"changed"_qs;
-    model_.setNotifications(list);
+    setRows(list);
     EXPECT_EQ(inserted_.count(), 0);
     EXPECT_EQ(removed_.count(), 0);
     ASSERT_EQ(changed_.count(), 2); // the row, then the fresh ids
     EXPECT_EQ(changed_[0][0].toModelIndex().row(), 1);
     EXPECT_TRUE(changed_[0][2].value<QList<int>>().isEmpty());
+}
+
+// Marks
+
+TEST_F(ModelTest, MarksFollowTheIdsInMemory) {
+    const NotificationList list = rows({2, 1});
+    setRows(list);
+    changed_.clear();
+    marks_.selected = {list[0].id};
+    marks_.focused = list[1].id;
+    marks_.isPrivate = [](const QString& bundleId) { return bundleId == u"secret"_qs; };
+    model_.marksChanged();
+    EXPECT_EQ(changed_.count(), 1);
+    EXPECT_TRUE(at(0, Role::IsSelected).toBool());
+    EXPECT_FALSE(at(0, Role::IsFocused).toBool());
+    EXPECT_FALSE(at(1, Role::IsSelected).toBool());
+    EXPECT_TRUE(at(1, Role::IsFocused).toBool());
+    EXPECT_FALSE(at(0, Role::IsPrivate).toBool());
+
+    setRows(rows({2, 1})); // the same rows under fresh ids
+    EXPECT_FALSE(at(0, Role::IsSelected).toBool());
+    EXPECT_FALSE(at(1, Role::IsFocused).toBool());
+}
+
+// Groups
+
+class GroupedModelTest : public ModelTest {
+protected:
+    // Zoom with the rows 1 and 2, mail with row 3.
+    GroupedModelTest() {
+        list_ = rows({1, 2, 3});
+        list_[0].appName = list_[1].appName = u"Zoom"_qs;
+        list_[0].appBundleId = u"us.zoom"_qs;
+        list_[1].appBundleId = u"us.zoom.other"_qs;
+        list_[2].appName = u"mail"_qs;
+        group({});
+    }
+
+    void group(const QSet<QString>& collapsed) {
+        model_.setEntries(groupedEntries(GroupMode::app, groupedByApp(list_), collapsed));
+    }
+
+    QStringList kinds() const {
+        QStringList kinds;
+        for (int line = 0; line < model_.rowCount(); ++line)
+            kinds << at(line, Role::Kind).toString();
+        return kinds;
+    }
+
+    NotificationList list_;
+};
+
+TEST_F(GroupedModelTest, HeadersStandAboveTheirRows) {
+    EXPECT_EQ(kinds(), QStringList({u"header"_qs, u"row"_qs, u"row"_qs, u"header"_qs, u"row"_qs}));
+    const GroupHeader first = at(0, Role::Header).value<GroupHeader>();
+    EXPECT_EQ(first.key, u"Zoom"_qs);
+    EXPECT_EQ(first.title, u"Zoom"_qs);
+    EXPECT_EQ(first.count, 2);
+    EXPECT_EQ(first.bundleId, u"us.zoom"_qs); // of the first row
+    EXPECT_TRUE(first.hasIcon);
+    EXPECT_FALSE(first.isCollapsed);
+    EXPECT_EQ(model_.header(3).key, u"mail"_qs);
+}
+
+TEST_F(GroupedModelTest, ACollapsedGroupIsItsHeaderAlone) {
+    removed_.clear();
+    group({u"Zoom"_qs});
+    EXPECT_EQ(kinds(), QStringList({u"header"_qs, u"header"_qs, u"row"_qs}));
+    EXPECT_TRUE(model_.header(0).isCollapsed);
+    EXPECT_EQ(model_.header(0).count, 2);
+    ASSERT_EQ(removed_.count(), 1);
+    EXPECT_EQ(removed_[0][1].toInt(), 1);
+    EXPECT_EQ(removed_[0][2].toInt(), 2);
+}
+
+TEST_F(GroupedModelTest, AHeaderCountsTheSelectedRowsOfItsGroupAlsoWhileItIsCollapsed) {
+    marks_.selected = {list_[1].id, list_[2].id};
+    EXPECT_EQ(model_.header(0).selectedCount, 1);
+    group({u"Zoom"_qs});
+    EXPECT_EQ(model_.header(0).selectedCount, 1);
+}
+
+TEST_F(GroupedModelTest, KnowsTheHeadersAroundALine) {
+    EXPECT_EQ(model_.headerAbove(0), 0);
+    EXPECT_EQ(model_.headerAbove(2), 0);
+    EXPECT_EQ(model_.headerAbove(4), 3);
+    EXPECT_EQ(model_.headerAbove(5), -1);
+    EXPECT_EQ(model_.headerAbove(-1), -1);
+    EXPECT_EQ(model_.headerBelow(-1), 0);
+    EXPECT_EQ(model_.headerBelow(0), 3);
+    EXPECT_EQ(model_.headerBelow(3), -1);
+    EXPECT_EQ(model_.header(1), GroupHeader());
+    EXPECT_EQ(model_.header(-1), GroupHeader());
+}
+
+TEST_F(GroupedModelTest, ADaysGroupHasItsDateInTheTitleAndTheTimeInItsRows) {
+    model_.setEntries(groupedEntries(GroupMode::date, groupedByDate(list_), {}));
+    EXPECT_FALSE(model_.header(0).hasIcon);
+    EXPECT_TRUE(model_.header(0).title.contains(u"2001"_qs))
+        << model_.header(0).title.toStdString();
+    EXPECT_FALSE(at(1, Role::TimeText).toString().contains(u"2001"_qs));
+    EXPECT_FALSE(at(1, Role::TimeText).toString().isEmpty());
+}
+
+TEST(DayTitle, IsTheKeyItselfWhereThatIsNoDay) {
+    EXPECT_EQ(dayTitle(u"someday"_qs), u"someday"_qs);
+    EXPECT_EQ(dayTitle({}), QString());
 }
 
 // Lists that share some rows with the one before, in another order, with changes, and some rows
@@ -208,9 +324,9 @@ TEST_P(RandomListsTest, AreToldSoThatAViewEndsWithTheListItself) {
     NotificationList list;
     for (int step = 0; step < 200; ++step) {
         list = randomList(random, list);
-        model_.setNotifications(list);
+        setRows(list);
         ASSERT_EQ(mirror_.rows, list) << "at step " << step;
-        ASSERT_EQ(model_.notifications(), list);
+        ASSERT_EQ(model_.rowCount(), int(list.size()));
     }
     EXPECT_EQ(mirror_.resets, 0);
 }

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <optional>
 
 namespace tessarine {
 namespace {
@@ -61,33 +60,6 @@ TEST(RowTime, AnUnknownLocaleStillGivesADate) {
                     .contains(u"2025"_qs));
     EXPECT_TRUE(
         RowTimeFormatter(Style::dateAndTime, "C", u"UTC"_qs).text(afternoon).contains(u"2025"_qs));
-}
-
-class UserDateLocaleTest : public ::testing::Test {
-protected:
-    UserDateLocaleTest() {
-        for (const char* name : names_)
-            qunsetenv(name);
-    }
-    ~UserDateLocaleTest() override {
-        for (std::size_t i = 0; i < std::size(names_); ++i)
-            qputenv(names_[i], before_[i]);
-    }
-
-private:
-    static constexpr const char* names_[]{"LC_ALL", "LC_TIME", "LANG"};
-    const QByteArray before_[3]{qgetenv("LC_ALL"), qgetenv("LC_TIME"), qgetenv("LANG")};
-};
-
-TEST_F(UserDateLocaleTest, TheMoreSpecialVariableWins) {
-    qputenv("LANG", "en_US.UTF-8");
-    EXPECT_EQ(userDateLocale(), QByteArray("en_US"));
-    qputenv("LC_TIME", "de_DE@euro");
-    EXPECT_EQ(userDateLocale(), QByteArray("de_DE"));
-    qputenv("LC_ALL", "sv_SE");
-    EXPECT_EQ(userDateLocale(), QByteArray("sv_SE"));
-    qputenv("LC_ALL", "");
-    EXPECT_EQ(userDateLocale(), QByteArray("de_DE"));
 }
 
 } // namespace

@@ -216,7 +216,11 @@ class DesktopTestCase(SessionTestCase):
         super().setUp()
         self.bus = Bus(self.session)
         self.daemon = NotificationDaemon(self.session, self.bus, self.daemon_name)
+        self.start_services()
         self.program = self.session.start_program()
+
+    def start_services(self):
+        """What else the session has before the program starts."""
 
     def application(self, name="Application"):
         application = Application(self.bus, name)

@@ -1,7 +1,12 @@
 #pragma once
 
+#include "platform/FileViewer.h"
+#include "platform/SavePanel.h"
 #include "platform/StatusItem.h"
 #include "platform/SystemAppearance.h"
+
+#include <functional>
+#include <vector>
 
 namespace tessarine::testing {
 
@@ -40,6 +45,28 @@ public:
 
     Appearance appearance = Appearance::system;
     bool desktopIsDark = false;
+};
+
+// A user who answers every question for a path alike.
+class SimulatedSavePanel : public SavePanel {
+public:
+    std::optional<QString> runModal(const Request& request) override {
+        requests.push_back(request);
+        if (meanwhile)
+            meanwhile();
+        return answer;
+    }
+
+    std::optional<QString> answer;   // nothing: the user cancels
+    std::function<void()> meanwhile; // what happens while the user thinks
+    std::vector<Request> requests;
+};
+
+class SimulatedFileViewer : public FileViewer {
+public:
+    void reveal(const QString& path) override { revealed.push_back(path); }
+
+    std::vector<QString> revealed;
 };
 
 } // namespace tessarine::testing

@@ -1,3 +1,4 @@
+#include "support/EventLoop.h"
 #include "ui/UiFixture.h"
 
 #include <QDir>
@@ -10,7 +11,34 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-enum class Scene { Loading, Empty, Five, FiveHundred, LongWords, RightToLeft, Emoji, LongTexts };
+enum class Scene {
+    Loading,
+    Empty,
+    Five,
+    FiveHundred,
+    LongWords,
+    RightToLeft,
+    Emoji,
+    LongTexts,
+    Fruitless,
+    GroupedByApp,
+    GroupedByDate,
+    ScrolledGroups,
+    LoadOlder,
+    Focused,
+    Selection,
+    DatePopover,
+    DeleteSelected,
+    DeleteAll,
+    Masked,
+    Preview,
+    EmptyPreview,
+    InfoBanner,
+    WarningBanner,
+    RowMenu,
+    AppMenu,
+    Export,
+};
 
 constexpr const char* nameOf(Scene scene) {
     switch (scene) {
@@ -30,6 +58,42 @@ constexpr const char* nameOf(Scene scene) {
         return "emoji";
     case Scene::LongTexts:
         return "longTexts";
+    case Scene::Fruitless:
+        return "fruitless";
+    case Scene::GroupedByApp:
+        return "groupedByApp";
+    case Scene::GroupedByDate:
+        return "groupedByDate";
+    case Scene::ScrolledGroups:
+        return "scrolledGroups";
+    case Scene::LoadOlder:
+        return "loadOlder";
+    case Scene::Focused:
+        return "focused";
+    case Scene::Selection:
+        return "selection";
+    case Scene::DatePopover:
+        return "datePopover";
+    case Scene::DeleteSelected:
+        return "deleteSelected";
+    case Scene::DeleteAll:
+        return "deleteAll";
+    case Scene::Masked:
+        return "masked";
+    case Scene::Preview:
+        return "preview";
+    case Scene::EmptyPreview:
+        return "emptyPreview";
+    case Scene::InfoBanner:
+        return "infoBanner";
+    case Scene::WarningBanner:
+        return "warningBanner";
+    case Scene::RowMenu:
+        return "rowMenu";
+    case Scene::AppMenu:
+        return "appMenu";
+    case Scene::Export:
+        return "export";
     }
     return "";
 }
@@ -128,8 +192,19 @@ NotificationList contentOf(Scene scene) {
         return emoji();
     case Scene::LongTexts:
         return longTexts();
+    case Scene::GroupedByApp:
+    case Scene::GroupedByDate:
+    case Scene::ScrolledGroups:
+        return fiveHundred();
+    case Scene::EmptyPreview:
+        return longTexts();
+    default:
+        break;
     }
-    return {};
+    NotificationList list = five();
+    list[1].pinned = true;
+    list[2].appBundleId = QStringLiteral("com.example.messages");
+    return list;
 }
 
 // Texts that reach out of the window, by their content.
@@ -149,7 +224,95 @@ QStringList textsOutside(const QQuickItem& item, const QRectF& room) {
 
 using Look = std::tuple<Scene, bool, int>; // scene, dark, width
 
-class PicturesTest : public UiTest, public ::testing::WithParamInterface<Look> {};
+class PicturesTest : public UiTest, public ::testing::WithParamInterface<Look> {
+protected:
+    const QUuid& idAt(std::size_t line) const { return listener->notifications()[line].id; }
+
+    // What a user does to bring the window into the state of the scene.
+    void bringAbout(Scene scene) {
+        ContentView& browser = view();
+        switch (scene) {
+        case Scene::Fruitless:
+            browser.setSearchText(u"nowhere to be found"_qs);
+            break;
+        case Scene::GroupedByApp:
+            browser.setGroupMode(GroupMode::app);
+            browser.toggleGroup(u"Mail"_qs);
+            break;
+        case Scene::GroupedByDate:
+            browser.setGroupMode(GroupMode::date);
+            break;
+        case Scene::ScrolledGroups:
+            browser.setGroupMode(GroupMode::app);
+            draw();
+            list().setProperty("contentY", 700.0);
+            break;
+        case Scene::LoadOlder:
+            for (int i = 1; i <= 9; ++i)
+                storeOld(i);
+            browser.appear();
+            break;
+        case Scene::Focused:
+            browser.onSingleTap(idAt(1));
+            break;
+        case Scene::Selection:
+        case Scene::DatePopover:
+        case Scene::DeleteSelected:
+        case Scene::DeleteAll:
+            browser.enterSelectionMode();
+            browser.toggleSelection(idAt(0));
+            browser.toggleSelection(idAt(2));
+            browser.setShowDatePickerPopover(scene == Scene::DatePopover);
+            browser.setShowDeleteSelectedConfirm(scene == Scene::DeleteSelected);
+            browser.setShowDeleteAllConfirm(scene == Scene::DeleteAll);
+            break;
+        case Scene::Masked:
+            preferences.setGlobalPrivacyMode(true);
+            break;
+        case Scene::Preview:
+        case Scene::EmptyPreview:
+            browser.onSingleTap(idAt(scene == Scene::Preview ? 0 : 2));
+            browser.setShowPreview(true);
+            break;
+        case Scene::InfoBanner:
+            browser.showBanner(deepLinkBanner(u"Calendar"_qs));
+            break;
+        case Scene::WarningBanner:
+            browser.openInApp(idAt(0));
+            break;
+        case Scene::RowMenu:
+            click(*row(u"Dentist"_qs), Qt::RightButton);
+            break;
+        case Scene::AppMenu:
+            click(item(u"appPicker"_qs));
+            break;
+        case Scene::Export:
+            browser.setShowExportSheet(true);
+            break;
+        default:
+            break;
+        }
+    }
+
+    void storeOld(int number) {
+        CapturedNotification row;
+        row.noteId = number;
+        row.title = u"old"_qs;
+        ASSERT_TRUE(hoard.insert(row));
+    }
+
+    // Once nothing moves any more: two pictures in a row are the same.
+    QImage stillPicture() {
+        QImage before;
+        QImage picture = window->window()->grabWindow();
+        EXPECT_TRUE(turnsUntil([&] {
+            turnFor(250);
+            before = std::exchange(picture, window->window()->grabWindow());
+            return before == picture;
+        }));
+        return picture;
+    }
+};
 
 TEST_P(PicturesTest, ShowsTheSceneWithoutCuttingIt) {
     const auto [scene, dark, width] = GetParam();
@@ -159,11 +322,14 @@ TEST_P(PicturesTest, ShowsTheSceneWithoutCuttingIt) {
         publish(contentOf(scene));
     window->window()->resize(width, 520);
     show();
+    draw();
+    bringAbout(scene);
 
-    const QImage picture = window->window()->grabWindow();
+    const QImage picture = stillPicture();
     const double density = window->window()->effectiveDevicePixelRatio();
     EXPECT_EQ(picture.size(), QSize(width, 520) * density);
-    EXPECT_EQ(textsOutside(root(), QRectF(0, 0, width, 520)), QStringList());
+    EXPECT_EQ(textsOutside(*window->window()->contentItem(), QRectF(0, 0, width, 520)),
+              QStringList());
 
     const QString name =
         u"%1-%2-%3@%4x.png"_qs.arg(QLatin1String(nameOf(scene)), dark ? u"dark"_qs : u"light"_qs)
@@ -178,12 +344,24 @@ std::string lookName(const ::testing::TestParamInfo<Look>& info) {
     return std::string(nameOf(scene)) + (dark ? "Dark" : "Light") + std::to_string(width);
 }
 
-INSTANTIATE_TEST_SUITE_P(Pictures, PicturesTest,
-                         ::testing::Combine(::testing::Values(Scene::Loading, Scene::Empty,
-                                                              Scene::Five, Scene::FiveHundred,
-                                                              Scene::LongWords, Scene::RightToLeft,
-                                                              Scene::Emoji, Scene::LongTexts),
-                                            ::testing::Bool(), ::testing::Values(720, 1100)),
+INSTANTIATE_TEST_SUITE_P(
+    Pictures, PicturesTest,
+    ::testing::Combine(
+        ::testing::Values(Scene::Loading, Scene::Empty, Scene::Five, Scene::FiveHundred,
+                          Scene::LongWords, Scene::RightToLeft, Scene::Emoji, Scene::LongTexts,
+                          Scene::Fruitless, Scene::GroupedByApp, Scene::GroupedByDate,
+                          Scene::ScrolledGroups, Scene::LoadOlder, Scene::Focused, Scene::Selection,
+                          Scene::DatePopover, Scene::DeleteSelected, Scene::DeleteAll,
+                          Scene::Masked, Scene::Preview, Scene::EmptyPreview, Scene::InfoBanner,
+                          Scene::WarningBanner, Scene::RowMenu, Scene::AppMenu, Scene::Export),
+        ::testing::Bool(), ::testing::Values(720)),
+    lookName);
+
+INSTANTIATE_TEST_SUITE_P(WidePictures, PicturesTest,
+                         ::testing::Combine(::testing::Values(Scene::FiveHundred, Scene::LongWords,
+                                                              Scene::GroupedByApp,
+                                                              Scene::Selection),
+                                            ::testing::Bool(), ::testing::Values(1100)),
                          lookName);
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "apps/AppIconResolver.h"
 #include "apps/AppIconView.h"
+#include "apps/AppLauncher.h"
 #include "browser/MainWindow.h"
 #include "capture/NotificationListener.h"
 #include "platform/linux/LinuxSymbols.h"
@@ -38,8 +39,36 @@ protected:
     void publish(NotificationList list) { listener->setNotifications(std::move(list)); }
     void show();
 
+    // The same notifications as rows of the hoard, and the window over them with the keyboard.
+    void showHoard(int count);
+    void showHoard(NotificationList rows); // each with its own noteId
+    void reload() { listener->setNotifications(hoard.fetchRecent(500)); } // as a capture does
+
+    ContentView& view() const { return window->content(); }
     QQuickItem& root() const { return *window->window()->contentItem()->childItems().front(); }
     QQuickItem& list() const { return *root().findChild<QQuickItem*>(QStringLiteral("list")); }
+
+    // The item with this objectName that is in the window now, also in menus, popovers and sheets.
+    // A test ends where there is none.
+    QQuickItem& item(const QString& name) const;
+    QQuickItem* findItem(const QString& name) const; // null when there is none
+    bool isShown(const QString& name) const; // the item, or the popup of that name, fully open
+    bool isGone(const QString& name) const;  // the popup, fully closed
+
+    // The entry of an open menu or picker, or the button, with this text.
+    QQuickItem* entry(const QString& text) const;
+
+    // What a user does. Each waits for the window to be drawn.
+    void click(QQuickItem& item, Qt::MouseButton button = Qt::LeftButton);
+    void clickAt(QQuickItem& item, QPointF place, Qt::MouseButton button = Qt::LeftButton);
+    void doubleClick(QQuickItem& item);
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void type(const QString& text);
+    void draw() { window->window()->grabWindow(); }
+
+    // All visible texts below an item, in the order of the items.
+    static QStringList textsIn(const QQuickItem& item);
+    static QStringList textsInWindow(const MainWindow& window);
 
     void resizeTo(int width, int height);
 
@@ -60,6 +89,11 @@ protected:
         system.scheduler, {system.workspace, system.fileSystem, icons, symbols});
     Theme theme{appearance};
     std::unique_ptr<QQmlEngine> engine = makeViewEngine(theme, symbols);
+    AppLauncher launcher{*system.platform.workspace, *system.platform.fileSystem, system.scheduler};
+    QStringList pasteboard; // each text that was put there
+    SimulatedSavePanel savePanel;
+    SimulatedFileViewer fileViewer;
+    ExportManager exports{{preferences, system.scheduler, savePanel}};
     std::unique_ptr<MainWindow> window;
 };
 

@@ -2,6 +2,8 @@
 
 #include "platform/Desktop.h"
 #include "platform/linux/LinuxApplicationIcons.h"
+#include "platform/linux/LinuxFileViewer.h"
+#include "platform/linux/LinuxSavePanel.h"
 #include "platform/linux/LinuxStatusItem.h"
 #include "platform/linux/LinuxSymbols.h"
 #include "platform/linux/LinuxSystemAppearance.h"
@@ -24,6 +26,8 @@ std::unique_ptr<Desktop> makeDesktop() {
     desktop->application = std::make_unique<LinuxApplicationControl>();
     desktop->statusItem =
         std::make_unique<LinuxStatusItem>(*desktop->symbols, *desktop->appearance);
+    desktop->savePanel = std::make_unique<LinuxSavePanel>(*desktop->appearance);
+    desktop->fileViewer = std::make_unique<LinuxFileViewer>(QDBusConnection::sessionBus());
     return desktop;
 }
 

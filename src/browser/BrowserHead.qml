@@ -1,0 +1,88 @@
+import QtQuick
+import Tessarine.Browser
+import Tessarine.Theme
+
+// The head of the main window: the search field with the buttons that act on the whole list, and
+// below it the toolbar or, while rows are being selected, the selection bar.
+Item {
+    id: head
+
+    required property ContentViewState view
+
+    readonly property int sidePadding: Metrics.spacingLarge
+
+    implicitHeight: 2 * Metrics.controlHeight + Metrics.spacingMedium + 2 * Metrics.spacingLarge - 2
+
+    SearchField {
+        id: search
+
+        objectName: "searchField"
+        anchors.left: parent.left
+        anchors.leftMargin: head.sidePadding
+        anchors.right: actions.visible ? actions.left : parent.right
+        anchors.rightMargin: actions.visible ? Metrics.spacingMedium : head.sidePadding
+        y: Metrics.spacingLarge - 1
+        placeholderText: qsTrId("toolbar.search.placeholder")
+        clearLabel: qsTrId("toolbar.search.clear")
+        text: head.view.searchText
+        onTextEdited: head.view.searchText = text
+    }
+
+    Row {
+        id: actions
+
+        anchors.right: parent.right
+        anchors.rightMargin: head.sidePadding - Metrics.spacingSmall
+        anchors.verticalCenter: search.verticalCenter
+        spacing: Metrics.spacingSmall
+        visible: head.view.hasNotifications && !head.view.selectionMode
+
+        IconButton {
+            objectName: "export"
+            symbol: "square.and.arrow.up"
+            accessibleName: qsTrId("toolbar.export.help")
+            toolTipText: qsTrId("toolbar.export.help")
+            onClicked: head.view.showExportSheet = true
+        }
+
+        IconButton {
+            objectName: "enterSelection"
+            symbol: "trash"
+            accessibleName: qsTrId("toolbar.delete.help")
+            toolTipText: qsTrId("toolbar.delete.help")
+            onClicked: head.view.enterSelectionMode()
+        }
+    }
+
+    BrowserToolbar {
+        anchors.top: search.bottom
+        anchors.topMargin: Metrics.spacingMedium
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: head.sidePadding
+        anchors.rightMargin: head.sidePadding
+        view: head.view
+        opacity: head.view.selectionMode ? 0 : 1
+        visible: opacity > 0
+
+        Behavior on opacity {
+            NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }
+        }
+    }
+
+    SelectionBar {
+        anchors.top: search.bottom
+        anchors.topMargin: Metrics.spacingMedium
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: head.sidePadding
+        anchors.rightMargin: head.sidePadding
+        view: head.view
+        opacity: head.view.selectionMode ? 1 : 0
+        visible: opacity > 0
+
+        Behavior on opacity {
+            NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }
+        }
+    }
+}

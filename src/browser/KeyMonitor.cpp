@@ -1,0 +1,80 @@
+#include "browser/KeyMonitor.h"
+
+#include "browser/ContentView.h"
+
+#include <QKeyEvent>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace tessarine {
+
+namespace {
+
+constexpr auto commandModifiers =
+    Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+
+bool isPlain(const QKeyEvent& event, Qt::Key key) {
+    return event.key() == key && !(event.modifiers() & commandModifiers);
+}
+
+// A field in which text is selected copies that text, as everywhere.
+bool hasSelectedText(const QQuickItem* item) {
+    return item && !item->property("selectedText").toString().isEmpty();
+}
+
+} // namespace
+
+KeyMonitor::KeyMonitor(ContentView& view, QQuickWindow& window, QQuickItem& root)
+    : view_(view)
+    , window_(window)
+    , root_(root) {
+    window.installEventFilter(this);
+}
+
+bool KeyMonitor::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !keysAreOurs())
+        return false;
+    return takesKey(static_cast<const QKeyEvent&>(*event));
+}
+
+bool KeyMonitor::keysAreOurs() const {
+    const QQuickItem* const focused = window_.activeFocusItem();
+    return view_.isPreviewing() || !focused || focused == window_.contentItem() ||
+           focused == &root_ || root_.isAncestorOf(focused);
+}
+
+bool KeyMonitor::takesKey(const QKeyEvent& event) {
+    if (isPlain(event, Qt::Key_Space))
+        return takesSpace(event);
+    if (event.key() == Qt::Key_Escape)
+        return takesEscape();
+    return event.matches(QKeySequence::Copy) && takesCopy();
+}
+
+// A key that is held down opens once.
+bool KeyMonitor::takesSpace(const QKeyEvent& event) {
+    if (!view_.focusedNotification())
+        return false;
+    if (!event.isAutoRepeat())
+        view_.setShowPreview(!view_.isPreviewing());
+    return true;
+}
+
+bool KeyMonitor::takesEscape() {
+    if (view_.selectionMode())
+        return false;
+    view_.clearFocus();
+    return true;
+}
+
+bool KeyMonitor::takesCopy() {
+    if (!view_.focusedNotification() || hasSelectedText(window_.activeFocusItem()))
+        return false;
+    if (view_.isPreviewing())
+        view_.copyPreview();
+    else
+        view_.copyToPasteboard(view_.focusedNotifId());
+    return true;
+}
+
+} // namespace tessarine

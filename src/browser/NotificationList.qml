@@ -1,0 +1,149 @@
+import QtQuick
+import QtQuick.Templates as T
+import Qt.labs.qmlmodels
+import Tessarine.Browser
+import Tessarine.Theme
+
+// The notifications, grouped or not. The header of the group in sight stays at the top while its
+// rows scroll, until the next header pushes it out.
+FocusScope {
+    id: root
+
+    required property ContentViewState view
+
+    clip: true
+
+    function showBeginning() {
+        list.positionViewAtBeginning();
+    }
+
+    ListView {
+        id: list
+
+        objectName: "list"
+        anchors.fill: parent
+        focus: true
+        activeFocusOnTab: true
+        keyNavigationEnabled: false
+        model: root.view.lines
+        spacing: Metrics.spacingSmall
+        topMargin: Metrics.spacingSmall
+        bottomMargin: Metrics.spacingSmall
+        boundsBehavior: Flickable.StopAtBounds
+        Accessible.role: Accessible.List
+        Accessible.name: qsTrId("hoard.list")
+
+        // The line at the upper edge; -1 above the first one. The room between two lines belongs to
+        // the lower one.
+        readonly property int topLine: (root.view.revision, contentHeight, originY,
+                                        lineAt(contentY + 1) >= 0 ? lineAt(contentY + 1)
+                                                                  : lineAt(contentY + 1 + spacing))
+        readonly property int pinnedLine: (root.view.revision, root.view.lines.headerAbove(topLine))
+        readonly property Item pinnedItem: (root.view.revision, contentY, itemAtIndex(pinnedLine))
+        readonly property Item nextItem: (root.view.revision, contentY, itemAtIndex(root.view.lines.headerBelow(topLine)))
+
+        function lineAt(y: real): int {
+            return indexAt(width / 2, y);
+        }
+
+        delegate: DelegateChooser {
+            role: "kind"
+
+            DelegateChoice {
+                roleValue: "header"
+
+                SectionHeader {
+                    width: list.width
+                    selectionMode: root.view.selectionMode
+                    onToggled: key => root.view.toggleGroup(key)
+                    onSelectAll: key => root.view.selectGroup(key)
+                    onDeselectAll: key => root.view.deselectGroup(key)
+                    onMenuRequested: (key, count) => groupMenu.openFor(key, count)
+                }
+            }
+
+            DelegateChoice {
+                roleValue: "row"
+
+                NotificationRow {
+                    width: list.width
+                    selectionMode: root.view.selectionMode
+                    onSingleTap: id => root.tapRow(id)
+                    onDoubleTap: id => root.view.onDoubleTap(id)
+                    onToggleSelection: id => root.view.toggleSelection(id)
+                    onMenuRequested: id => rowMenu.openFor(id)
+                }
+            }
+        }
+
+        footer: LoadOlderFooter {
+            width: list.width
+            shown: root.view.canLoadOlder
+            onClicked: root.view.loadOlder()
+        }
+
+        add: Transition {
+            enabled: root.view.togglesGroup
+
+            NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Metrics.gentle; easing.type: Easing.InOutQuad }
+        }
+
+        remove: Transition {
+            enabled: root.view.togglesGroup
+
+            NumberAnimation { property: "opacity"; to: 0; duration: Metrics.gentle; easing.type: Easing.InOutQuad }
+        }
+
+        displaced: Transition {
+            enabled: root.view.togglesGroup
+
+            NumberAnimation { property: "y"; duration: Metrics.gentle; easing.type: Easing.InOutQuad }
+            NumberAnimation { property: "opacity"; to: 1; duration: Metrics.gentle }
+        }
+
+        KeyboardScroller {
+            view: list
+        }
+
+        T.ScrollBar.vertical: ThinScrollBar {}
+    }
+
+    function tapRow(id) {
+        list.forceActiveFocus(Qt.MouseFocusReason);
+        root.view.onSingleTap(id);
+    }
+
+    SectionHeader {
+        objectName: "pinnedHeader"
+        width: list.width
+        y: Math.min(0, list.nextItem ? list.nextItem.y - list.contentY - height : 0)
+        header: (root.view.revision, root.view.lines.header(list.pinnedLine))
+        selectionMode: root.view.selectionMode
+        visible: list.pinnedLine >= 0 && (!list.pinnedItem || list.pinnedItem.y < list.contentY)
+        Accessible.ignored: true
+        onToggled: key => root.view.toggleGroup(key)
+        onSelectAll: key => root.view.selectGroup(key)
+        onDeselectAll: key => root.view.deselectGroup(key)
+        onMenuRequested: (key, count) => groupMenu.openFor(key, count)
+    }
+
+    RowMenu {
+        id: rowMenu
+
+        view: root.view
+    }
+
+    GroupMenu {
+        id: groupMenu
+
+        onDeleteRequested: key => root.view.deleteGroup(key)
+    }
+
+    Connections {
+        target: root.view
+
+        function onDerivationChanged() {
+            root.showBeginning();
+        }
+    }
+}

@@ -1,0 +1,30 @@
+import QtQuick
+import Tessarine.Browser
+
+// The days of one month in the date popover.
+Column {
+    id: rows
+
+    required property var month
+
+    signal daySelected(string text)
+
+    SectionLabel {
+        width: parent.width
+        text: rows.month.title
+    }
+
+    Repeater {
+        model: rows.month.days
+
+        PopoverRow {
+            required property var modelData
+
+            width: rows.width
+            icon.name: "calendar"
+            text: modelData.label
+            badge: modelData.badge
+            onClicked: rows.daySelected(modelData.text)
+        }
+    }
+}

@@ -1,0 +1,102 @@
+import QtQuick
+import Tessarine.Apps
+import Tessarine.Browser
+import Tessarine.Theme
+
+// The header of a group: it opens and closes the group, and in selection mode selects it whole.
+Rectangle {
+    id: section
+
+    required property groupHeader header
+    property bool selectionMode
+
+    readonly property int chevronColumn: 12
+    readonly property int iconSize: 18
+    readonly property int lineHeight: 28
+    readonly property bool everySelected: header.selectedCount === header.count
+
+    signal toggled(string key)
+    signal menuRequested(string key, int count)
+    signal selectAll(string key)
+    signal deselectAll(string key)
+
+    implicitHeight: lineHeight
+    color: Theme.colours.windowBackground
+    Accessible.role: Accessible.Heading
+    Accessible.name: header.title
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        gesturePolicy: TapHandler.WithinBounds
+        enabled: !section.selectionMode
+        onTapped: section.menuRequested(section.header.key, section.header.count)
+    }
+
+    IconButton {
+        id: chevron
+
+        anchors.left: parent.left
+        anchors.leftMargin: Metrics.spacingMedium
+        anchors.verticalCenter: parent.verticalCenter
+        width: section.chevronColumn + Metrics.spacingMedium
+        height: section.lineHeight - Metrics.spacingSmall
+        symbol: section.header.isCollapsed ? "chevron.right" : "chevron.down"
+        size: section.chevronColumn
+        accessibleName: (section.header.isCollapsed ? qsTrId("group.expand") : qsTrId("group.collapse"))
+            .arg(section.header.title)
+        onClicked: section.toggled(section.header.key)
+    }
+
+    AppIconView {
+        id: icon
+
+        anchors.left: chevron.right
+        anchors.leftMargin: Metrics.spacingSmall
+        anchors.verticalCenter: parent.verticalCenter
+        width: section.header.hasIcon ? section.iconSize : 0
+        height: section.iconSize
+        cornerRadius: Metrics.spacingSmall
+        bundleId: section.header.bundleId
+        appName: section.header.appName
+        visible: section.header.hasIcon
+    }
+
+    PlainLabel {
+        id: title
+
+        anchors.left: icon.right
+        anchors.leftMargin: section.header.hasIcon ? Metrics.spacingMedium - 2 : 0
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, (selectButton.visible ? selectButton.x : section.width - Metrics.spacingMedium)
+                        - x - tag.width - 2 * Metrics.spacingMedium)
+        text: section.header.title
+        font.weight: Font.DemiBold
+        maximumLineCount: 1
+        Accessible.ignored: true
+    }
+
+    Tag {
+        id: tag
+
+        anchors.left: title.right
+        anchors.leftMargin: Metrics.spacingMedium
+        anchors.verticalCenter: parent.verticalCenter
+        text: section.header.count
+    }
+
+    TextButton {
+        id: selectButton
+
+        anchors.right: parent.right
+        anchors.rightMargin: Metrics.spacingMedium
+        anchors.verticalCenter: parent.verticalCenter
+        height: section.lineHeight - Metrics.spacingSmall
+        plain: true
+        font.pixelSize: Metrics.textTiny
+        ink: Theme.colours.accentLabel
+        text: section.everySelected ? qsTrId("selection.deselectAll") : qsTrId("selection.selectAll")
+        visible: section.selectionMode
+        onClicked: section.everySelected ? section.deselectAll(section.header.key)
+                                         : section.selectAll(section.header.key)
+    }
+}

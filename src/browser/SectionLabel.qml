@@ -1,0 +1,13 @@
+import QtQuick
+import Tessarine.Theme
+
+// A small heading inside a popover.
+PlainLabel {
+    leftPadding: Metrics.spacingSmall
+    topPadding: Metrics.spacingTiny
+    font.pixelSize: Metrics.textSmall
+    font.weight: Font.DemiBold
+    color: Theme.colours.secondaryLabel
+    Accessible.role: Accessible.Heading
+    Accessible.name: text
+}

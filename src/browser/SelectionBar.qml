@@ -1,0 +1,118 @@
+import QtQuick
+import Tessarine.Browser
+import Tessarine.Theme
+
+// What stands in the toolbar's place while rows are being selected.
+Item {
+    id: bar
+
+    required property ContentViewState view
+
+    readonly property int dividerHeight: 16
+
+    implicitHeight: first.height
+
+    Row {
+        id: first
+
+        spacing: Metrics.spacingMedium
+
+        TextButton {
+            objectName: "cancelSelection"
+            text: qsTrId("selection.cancel")
+            onClicked: bar.view.exitSelectionMode()
+        }
+
+        VerticalDivider {
+            anchors.verticalCenter: parent.verticalCenter
+            height: bar.dividerHeight
+        }
+
+        TextButton {
+            id: byApp
+
+            objectName: "selectByApp"
+            symbol: "square.grid.2x2"
+            text: qsTrId("toolbar.group.byApp")
+            toolTipText: qsTrId("selection.byApp.help")
+            onClicked: appMenu.popup(byApp, 0, byApp.height + Metrics.spacingSmall)
+
+            ContextMenu {
+                id: appMenu
+
+                objectName: "appMenu"
+
+                Repeater {
+                    model: bar.view.apps
+
+                    ContextMenuItem {
+                        required property string modelData
+
+                        text: modelData
+                        onTriggered: bar.view.selectApp(modelData)
+                    }
+                }
+            }
+        }
+
+        TextButton {
+            objectName: "selectByDate"
+            symbol: "calendar"
+            text: qsTrId("toolbar.group.byDate")
+            toolTipText: qsTrId("selection.byDate.help")
+            onClicked: bar.view.showDatePickerPopover = true
+
+            DateSelectionPopover {
+                view: bar.view
+            }
+        }
+
+        TextButton {
+            objectName: "selectAll"
+            text: bar.view.everySelected ? qsTrId("selection.deselectAll") : qsTrId("selection.selectAll")
+            onClicked: bar.view.selectAllVisible()
+        }
+    }
+
+    PlainLabel {
+        objectName: "selectionCount"
+        anchors.left: first.right
+        anchors.leftMargin: Metrics.spacingMedium
+        anchors.right: last.left
+        anchors.rightMargin: Metrics.spacingMedium
+        anchors.verticalCenter: first.verticalCenter
+        text: bar.view.selectionText
+        font.pixelSize: Metrics.textSmall
+        color: Theme.colours.secondaryLabel
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+
+    Row {
+        id: last
+
+        anchors.right: parent.right
+        spacing: Metrics.spacingMedium
+
+        VerticalDivider {
+            anchors.verticalCenter: parent.verticalCenter
+            height: bar.dividerHeight
+        }
+
+        TextButton {
+            objectName: "deleteSelected"
+            text: qsTrId("selection.deleteSelected")
+            destructive: enabled
+            ink: enabled ? Theme.colours.red : Theme.colours.secondaryLabel
+            enabled: bar.view.selectedCount > 0
+            onClicked: bar.view.showDeleteSelectedConfirm = true
+        }
+
+        TextButton {
+            objectName: "deleteAll"
+            text: qsTrId("selection.deleteAll")
+            destructive: true
+            onClicked: bar.view.showDeleteAllConfirm = true
+        }
+    }
+}

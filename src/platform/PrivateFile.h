@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <system_error>
+
+namespace tessarine {
+
+// Files with what nobody but their owner may read, at no moment of the writing either: a new file
+// is private before its first byte, one that was there is narrowed before it is filled. A file that
+// can't be narrowed, as on a disk without modes, is written all the same. Any thread.
+
+// Writes into the file that is there, or a new one. A failure half-way leaves half a file.
+std::error_code writePrivately(const QString& path, const QByteArray& bytes);
+
+// Puts a file in the place of the one that is there, all at once: whatever fails, the old one is
+// untouched and nothing else left behind. A symbolic link stays; what it points to is replaced.
+std::error_code replacePrivately(const QString& path, const QByteArray& bytes);
+
+} // namespace tessarine

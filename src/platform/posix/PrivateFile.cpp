@@ -1,0 +1,148 @@
+#include "platform/PrivateFile.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tessarine {
+
+namespace {
+
+constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
+constexpr int mostLinks = 40; // as many as the system itself follows
+
+std::error_code lastError() {
+    return {errno, std::generic_category()};
+}
+
+// An open file that is closed with the object.
+class Descriptor {
+public:
+    explicit Descriptor(int number)
+        : number_(number) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() { close(); }
+
+    bool isOpen() const { return number_ >= 0; }
+    int number() const { return number_; }
+
+    // Some file systems tell only here that the bytes found no room.
+    std::error_code close() {
+        if (!isOpen())
+            return {};
+        const int closing = number_;
+        number_ = -1;
+        return ::close(closing) == 0 || errno == EINTR ? std::error_code() : lastError();
+    }
+
+private:
+    int number_;
+};
+
+std::error_code writeAll(const Descriptor& file, const QByteArray& bytes) {
+    const char* next = bytes.constData();
+    auto left = static_cast<std::size_t>(bytes.size());
+    while (left > 0) {
+        const ssize_t written = write(file.number(), next, left);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return lastError();
+        next += written;
+        left -= static_cast<std::size_t>(written);
+    }
+    return {};
+}
+
+// Devices and pipes keep the mode that others rely on.
+bool isRegular(const Descriptor& file) {
+    struct stat status {};
+    return fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+// Not an error where it fails: the file may belong to somebody else, the disk know no modes.
+void narrow(const Descriptor& file) {
+    static_cast<void>(fchmod(file.number(), ownerOnly));
+}
+
+std::error_code emptyOut(const Descriptor& file) {
+    return ftruncate(file.number(), 0) == 0 ? std::error_code() : lastError();
+}
+
+std::error_code writeRegular(const Descriptor& file, const QByteArray& bytes) {
+    narrow(file);
+    if (const std::error_code error = emptyOut(file))
+        return error;
+    if (const std::error_code error = writeAll(file, bytes))
+        return error;
+    narrow(file); // whatever has happened to it meanwhile
+    return {};
+}
+
+QByteArray folderOf(const QByteArray& path) {
+    return path.left(path.lastIndexOf('/') + 1);
+}
+
+// Where a symbolic link leads, also when nothing is there yet. Nothing for one that leads nowhere.
+std::optional<QByteArray> linkTarget(QByteArray path) {
+    for (int links = 0; links < mostLinks; ++links) {
+        QByteArray target(PATH_MAX, '\0');
+        const ssize_t size =
+            readlink(path.constData(), target.data(), static_cast<std::size_t>(target.size()));
+        if (size < 0)
+            return path;
+        target.truncate(size);
+        path = target.startsWith('/') ? target : folderOf(path) + target;
+    }
+    return std::nullopt;
+}
+
+std::error_code fill(Descriptor& file, const QByteArray& bytes) {
+    narrow(file); // whatever the process masks
+    if (const std::error_code error = writeAll(file, bytes))
+        return error;
+    // On the disk before it takes the name, or a power cut may leave an empty file in its place.
+    if (fsync(file.number()) != 0 && errno != EINVAL && errno != ENOTSUP)
+        return lastError();
+    return file.close();
+}
+
+} // namespace
+
+std::error_code writePrivately(const QString& path, const QByteArray& bytes) {
+    Descriptor file(
+        open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_CLOEXEC, ownerOnly));
+    if (!file.isOpen())
+        return lastError();
+    const std::error_code error =
+        isRegular(file) ? writeRegular(file, bytes) : writeAll(file, bytes);
+    return error ? error : file.close();
+}
+
+std::error_code replacePrivately(const QString& path, const QByteArray& bytes) {
+    const std::optional<QByteArray> target = linkTarget(QFile::encodeName(path));
+    if (!target)
+        return {ELOOP, std::generic_category()};
+    // Its name owes nothing to the target's, which may be as long as names can be.
+    QByteArray temporary = folderOf(*target) + ".tessarine-XXXXXX";
+    Descriptor file(mkostemp(temporary.data(), O_CLOEXEC));
+    if (!file.isOpen())
+        return lastError();
+    std::error_code error = fill(file, bytes);
+    if (!error && rename(temporary.constData(), target->constData()) != 0)
+        error = lastError();
+    if (error)
+        unlink(temporary.constData());
+    return error;
+}
+
+} // namespace tessarine

@@ -1,0 +1,95 @@
+#include "shared/DateFormatter.h"
+
+#include "shared/ReferenceTime.h"
+
+#include <unicode/calendar.h>
+#include <unicode/datefmt.h>
+#include <unicode/smpdtfmt.h>
+#include <unicode/timezone.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessarine {
+
+namespace {
+
+// The range in which every calendar of ICU gives a sensible date: 100 million days around 1970.
+constexpr double greatestMilliseconds = 8.64e15;
+
+using IcuStyle = icu::DateFormat::EStyle;
+
+IcuStyle icuStyle(DateFormatter::Style style) {
+    switch (style) {
+    case DateFormatter::Style::none:
+        return icu::DateFormat::kNone;
+    case DateFormatter::Style::medium:
+        return icu::DateFormat::kMedium;
+    case DateFormatter::Style::full:
+        return icu::DateFormat::kFull;
+    }
+    return icu::DateFormat::kNone;
+}
+
+icu::UnicodeString icuText(const QString& text) {
+    return {reinterpret_cast<const char16_t*>(text.utf16()), int32_t(text.size())};
+}
+
+} // namespace
+
+// Null members when ICU lacks its data: texts are then empty. The calendar is kept because ICU
+// would else copy one for every text.
+struct DateFormatter::Format {
+    std::unique_ptr<icu::DateFormat> format;
+    std::unique_ptr<icu::Calendar> calendar;
+
+    Format(std::unique_ptr<icu::DateFormat> made, const QString& timeZone)
+        : format(std::move(made)) {
+        if (!format)
+            return;
+        if (!timeZone.isEmpty())
+            format->adoptTimeZone(icu::TimeZone::createTimeZone(icuText(timeZone)));
+        calendar.reset(format->getCalendar()->clone());
+    }
+};
+
+DateFormatter DateFormatter::withPattern(const QString& pattern, const QByteArray& locale,
+                                         const QString& timeZone) {
+    UErrorCode status = U_ZERO_ERROR;
+    std::unique_ptr<icu::DateFormat> format = std::make_unique<icu::SimpleDateFormat>(
+        icuText(pattern), icu::Locale(locale.constData()), status);
+    if (U_FAILURE(status))
+        format.reset();
+    return DateFormatter(std::make_unique<Format>(std::move(format), timeZone));
+}
+
+DateFormatter DateFormatter::withStyles(Style date, Style time, const QByteArray& locale,
+                                        const QString& timeZone) {
+    std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
+        icuStyle(date), icuStyle(time), icu::Locale(locale.constData())));
+    return DateFormatter(std::make_unique<Format>(std::move(format), timeZone));
+}
+
+DateFormatter::DateFormatter(std::unique_ptr<Format> format)
+    : format_(std::move(format)) {}
+
+DateFormatter::DateFormatter(DateFormatter&& other) noexcept = default;
+DateFormatter& DateFormatter::operator=(DateFormatter&& other) noexcept = default;
+DateFormatter::~DateFormatter() = default;
+
+QString DateFormatter::text(double timestamp) const {
+    if (!format_->format || !std::isfinite(timestamp))
+        return {};
+    const double milliseconds = (timestamp + unixSecondsAtReferenceDate) * 1000.0;
+    UErrorCode status = U_ZERO_ERROR;
+    format_->calendar->setTime(
+        std::clamp(milliseconds, -greatestMilliseconds, greatestMilliseconds), status);
+    if (U_FAILURE(status))
+        return {};
+    icu::UnicodeString text;
+    icu::FieldPosition ignored(icu::FieldPosition::DONT_CARE);
+    format_->format->format(*format_->calendar, text, ignored);
+    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+}
+
+} // namespace tessarine

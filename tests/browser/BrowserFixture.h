@@ -1,0 +1,99 @@
+#pragma once
+
+#include "apps/AppLauncher.h"
+#include "browser/ContentView.h"
+#include "capture/NotificationListener.h"
+#include "support/HoardFile.h"
+#include "support/Printers.h"
+#include "support/SimulatedDesktop.h"
+#include "support/SimulatedPlatform.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace tessarine::testing {
+
+// The browser's state over a real hoard in a temporary folder.
+class BrowserTest : public ::testing::Test {
+protected:
+    // Stores a row, as a capture would, and gives its key in the hoard.
+    qint64 store(const QString& app, const QString& title, double age, const QString& body = {}) {
+        CapturedNotification row;
+        row.noteId = ++lastNoteId;
+        row.appBundleId = QStringLiteral("com.example.") + app;
+        row.appName = app;
+        row.title = title;
+        row.body = body;
+        row.timestamp = system.scheduler.now() - age;
+        EXPECT_TRUE(hoard.insert(row));
+        return lastNoteId;
+    }
+
+    // So many rows of one application, the first one the newest, a second apart.
+    void storeMany(int count, const QString& app = QStringLiteral("Mail")) {
+        for (int i = 0; i < count; ++i)
+            store(app, QStringLiteral("Title %1").arg(i), i);
+    }
+
+    // What a capture does to the list.
+    void reload() { listener->setNotifications(hoard.fetchRecent(500)); }
+
+    ContentView& open() {
+        reload();
+        view = std::make_unique<ContentView>(services());
+        view->appear();
+        return *view;
+    }
+
+    ContentView::Services services() {
+        return {listener,
+                [this]() -> HoardStore& { return hoard; },
+                preferences,
+                system.scheduler,
+                launcher,
+                [this](const QString& text) { pasteboard << text; },
+                [this](NotificationList list, std::function<void()> onDismiss) {
+                    exported = list;
+                    return std::make_unique<ExportOptionsSheet>(
+                        std::move(list), std::move(onDismiss),
+                        ExportOptionsSheet::Services{exports, preferences, system.scheduler,
+                                                     fileViewer});
+                }};
+    }
+
+    QUuid idOf(const QString& title) const {
+        for (const CapturedNotification& row : listener->notifications()) {
+            if (row.title == title)
+                return row.id;
+        }
+        return {};
+    }
+
+    QStringList shown() const {
+        QStringList titles;
+        for (const CapturedNotification& row : view->filteredNotifications())
+            titles << row.title;
+        return titles;
+    }
+
+    QTemporaryDir folder;
+    SimulatedPlatform system{folder.path()};
+    HoardStore hoard{system.fileSystem, system.defaults, system.scheduler};
+    PreferencesStore preferences{system.defaults};
+    DiagnosticsStore diagnostics{system.scheduler, [this]() -> HoardStore& { return hoard; }};
+    std::shared_ptr<NotificationListener> listener = NotificationListener::create(
+        {[this]() -> HoardStore& { return hoard; }, preferences, diagnostics, system.platform});
+    AppLauncher launcher{*system.platform.workspace, *system.platform.fileSystem, system.scheduler};
+    QStringList pasteboard;    // each text that was put there
+    NotificationList exported; // what the last export sheet was given
+    SimulatedSavePanel savePanel;
+    SimulatedFileViewer fileViewer;
+    ExportManager exports{{preferences, system.scheduler, savePanel}};
+    qint64 lastNoteId = 0;
+    std::unique_ptr<ContentView> view;
+};
+
+} // namespace tessarine::testing

@@ -1,0 +1,46 @@
+"""What a screen reader sees of the program: run in a session with accessibility on.
+
+    screen_reader.py list              every element that shows, a line each: role, TAB, name
+    screen_reader.py place ROLE NAME   the middle of the element on the screen: x y
+"""
+
+import sys
+
+import pyatspi
+
+
+def elements(top):
+    if top is None:
+        return
+    yield top
+    for index in range(top.childCount):
+        try:
+            yield from elements(top.getChildAtIndex(index))
+        except Exception:  # the element went while it was looked at
+            continue
+
+
+def showing():
+    desktop = pyatspi.Registry.getDesktop(0)
+    for application in desktop:
+        if application is None or application.name != "Tessarine":
+            continue
+        for element in elements(application):
+            if element.getState().contains(pyatspi.STATE_SHOWING):
+                yield element
+
+
+def main():
+    if sys.argv[1] == "list":
+        for element in showing():
+            print(f"{element.getRoleName()}\t{element.name}".replace("\n", " "))
+        return
+    role, name = sys.argv[2:]
+    for element in showing():
+        if element.getRoleName() == role and element.name == name:
+            box = element.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+            print(box.x + box.width // 2, box.y + box.height // 2)
+            return
+
+
+main()

@@ -1,0 +1,45 @@
+"""What the judges of exported files share: running the exporter, a folder, records."""
+
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PATIENCE = 120
+
+# Midnight of 3 March 2026, universal time, in seconds since 2001.
+MARCH_3 = 794188800
+
+
+def main():
+    """Runs the tests of the calling script; the exporter's path is its first argument."""
+    if len(sys.argv) < 2:
+        sys.exit("usage: %s EXPORT_LINES [unittest arguments]" % sys.argv[0])
+    JudgeTestCase.exporter = os.path.abspath(sys.argv.pop(1))
+    unittest.main()
+
+
+def record(app="Mail", title="Title", body="Body", time=MARCH_3 + 9 * 3600):
+    return {"app": app, "id": "com.example." + app.lower(), "title": title, "body": body,
+            "time": time}
+
+
+class JudgeTestCase(unittest.TestCase):
+    exporter = None
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(prefix="export-judge-")
+        self.addCleanup(folder.cleanup)
+        self.folder = folder.name
+
+    def export(self, file_format, records, *private_ids, locale="en_US.UTF-8"):
+        """Exports the records; gives the path of the file."""
+        path = os.path.join(self.folder, "out." + file_format)
+        lines = "".join(json.dumps(each) + "\n" for each in records)
+        environment = dict(os.environ, TZ="UTC", LC_ALL=locale)
+        done = subprocess.run([self.exporter, file_format, path, *private_ids], env=environment,
+                              input=lines, text=True, encoding="utf-8", timeout=PATIENCE)
+        self.assertEqual(done.returncode, 0)
+        return path

@@ -1,0 +1,150 @@
+#include "support/EventLoop.h"
+#include "ui/UiFixture.h"
+
+namespace tessarine::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class GroupsTest : public UiTest {
+protected:
+    // Alpha and Beta with forty rows each, in turns.
+    GroupsTest() {
+        NotificationList rows = numbered(80);
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            rows[i].appName = i % 2 == 0 ? u"Alpha"_qs : u"Beta"_qs;
+        showHoard(rows);
+        view().setGroupMode(GroupMode::app);
+        draw();
+    }
+
+    QQuickItem* header(const QString& title) const {
+        for (QQuickItem* item : list().property("contentItem").value<QQuickItem*>()->childItems()) {
+            if (item->isVisible() && item->property("header").isValid() &&
+                item->property("header").value<GroupHeader>().title == title)
+                return item;
+        }
+        return nullptr;
+    }
+
+    QString pinnedTitle() const {
+        QQuickItem* pinned = findItem(u"pinnedHeader"_qs);
+        return pinned ? pinned->property("header").value<GroupHeader>().title : QString();
+    }
+
+    void scrollTo(double y) {
+        list().setProperty("contentY", y);
+        draw();
+    }
+
+    void clickChevron(QQuickItem& header) { clickAt(header, {18, header.height() / 2}); }
+
+    int lines() const { return list().property("count").toInt(); }
+};
+
+TEST_F(GroupsTest, AHeaderStandsAboveItsRows) {
+    ASSERT_NE(header(u"Alpha"_qs), nullptr);
+    EXPECT_TRUE(textsIn(*header(u"Alpha"_qs)).contains(u"Alpha"_qs));
+    EXPECT_TRUE(textsIn(*header(u"Alpha"_qs)).contains(u"40"_qs));
+    EXPECT_EQ(lines(), 82);
+    EXPECT_EQ(pinnedTitle(), QString()); // nothing to pin while the header itself is in sight
+}
+
+TEST_F(GroupsTest, TheHeaderStaysAtTheTopWhileItsRowsScroll) {
+    scrollTo(300);
+    EXPECT_EQ(pinnedTitle(), u"Alpha"_qs);
+    EXPECT_EQ(item(u"pinnedHeader"_qs).y(), 0);
+}
+
+TEST_F(GroupsTest, TheNextHeaderPushesItOut) {
+    scrollTo(1700);
+    while (!header(u"Beta"_qs) && list().property("contentY").toDouble() < 4000)
+        scrollTo(list().property("contentY").toDouble() + 100);
+    ASSERT_NE(header(u"Beta"_qs), nullptr);
+    scrollTo(header(u"Beta"_qs)->y() - 10);
+    EXPECT_EQ(pinnedTitle(), u"Alpha"_qs);
+    QQuickItem& pinned = item(u"pinnedHeader"_qs);
+    EXPECT_EQ(pinned.y() + pinned.height(), 10);
+    scrollTo(header(u"Beta"_qs)->y() + 30);
+    EXPECT_EQ(pinnedTitle(), u"Beta"_qs);
+}
+
+TEST_F(GroupsTest, AGroupClosesAndOpensByItsChevron) {
+    clickChevron(*header(u"Alpha"_qs));
+    EXPECT_EQ(lines(), 42);
+    EXPECT_TRUE(view().togglesGroup());
+    EXPECT_TRUE(turnsUntil([&] {
+        draw();
+        return header(u"Beta"_qs) && header(u"Beta"_qs)->y() < 60;
+    }));
+    system.scheduler.advance(1);
+    clickChevron(*header(u"Alpha"_qs));
+    EXPECT_EQ(lines(), 82);
+    EXPECT_TRUE(turnsUntil([&] {
+        draw();
+        return row(u"Title 80"_qs) && row(u"Title 80"_qs)->opacity() == 1;
+    }));
+}
+
+TEST_F(GroupsTest, RowsThatFadedAreSolidWhenTheyComeBackElsewhere) {
+    clickChevron(*header(u"Alpha"_qs));
+    EXPECT_TRUE(turnsUntil([&] {
+        draw();
+        return header(u"Beta"_qs) && header(u"Beta"_qs)->y() < 60;
+    }));
+    system.scheduler.advance(1);
+    view().setGroupMode(GroupMode::none);
+    draw();
+    for (const int number : {80, 79, 78, 77})
+        EXPECT_EQ(row(u"Title %1"_qs.arg(number))->opacity(), 1) << number;
+}
+
+TEST_F(GroupsTest, ThePinnedHeaderClosesItsGroup) {
+    scrollTo(300);
+    clickChevron(item(u"pinnedHeader"_qs));
+    EXPECT_EQ(lines(), 42);
+}
+
+TEST_F(GroupsTest, AHeadersMenuDeletesTheGroup) {
+    click(*header(u"Alpha"_qs), Qt::RightButton);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"groupMenu"_qs); }));
+    draw();
+    ASSERT_NE(entry(u"Delete All 40 Notifications"_qs), nullptr);
+    click(*entry(u"Delete All 40 Notifications"_qs));
+    EXPECT_EQ(hoard.totalCount(), 40);
+}
+
+TEST_F(GroupsTest, SelectionModeSelectsAGroupByItsButton) {
+    view().enterSelectionMode();
+    draw();
+    QQuickItem* group = header(u"Alpha"_qs);
+    clickAt(*group, {group->width() - 40, group->height() / 2});
+    EXPECT_EQ(view().selectedCount(), 40);
+    EXPECT_TRUE(textsIn(*group).contains(u"Deselect All"_qs));
+    clickAt(*group, {group->width() - 40, group->height() / 2});
+    EXPECT_EQ(view().selectedCount(), 0);
+    click(*group, Qt::RightButton); // no menu now
+    EXPECT_FALSE(isShown(u"groupMenu"_qs));
+}
+
+TEST_F(GroupsTest, ACaptureKeepsThePlaceInTheList) {
+    scrollTo(900);
+    CapturedNotification fresh = numbered(1, 500)[0];
+    fresh.noteId = 500;
+    fresh.appName = u"Alpha"_qs;
+    ASSERT_TRUE(hoard.insert(fresh));
+    QString inSight;
+    for (int number = 80; number > 0 && inSight.isEmpty(); --number) {
+        const QString title = u"Title %1"_qs.arg(number);
+        if (row(title) && row(title)->mapToItem(&list(), QPointF(0, 0)).y() > 60)
+            inSight = title;
+    }
+    const double before = row(inSight)->mapToScene(QPointF(0, 0)).y();
+    reload();
+    draw();
+    ASSERT_NE(row(inSight), nullptr);
+    EXPECT_EQ(row(inSight)->mapToScene(QPointF(0, 0)).y(), before);
+}
+
+} // namespace
+} // namespace tessarine::testing

@@ -1,0 +1,236 @@
+#include "support/EventLoop.h"
+#include "ui/UiFixture.h"
+
+#include <QTest>
+
+namespace tessarine::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class RowReactionsTest : public UiTest {
+protected:
+    RowReactionsTest() { showHoard(5); }
+
+    bool isFocused(const QString& title) const {
+        const auto focused = view().focusedNotification();
+        return focused && focused->title == title;
+    }
+
+    QQuickItem& rowOf(const QString& title) const {
+        QQuickItem* found = row(title);
+        if (!found)
+            qFatal("no row named %s is in sight", qPrintable(title));
+        return *found;
+    }
+
+    // The context menu of a row, open.
+    void openMenu(const QString& title) {
+        click(rowOf(title), Qt::RightButton);
+        ASSERT_TRUE(turnsUntil([&] { return isShown(u"rowMenu"_qs); }));
+        draw();
+    }
+
+    void choose(const QString& text) {
+        QQuickItem* chosen = entry(text);
+        ASSERT_NE(chosen, nullptr) << text.toStdString();
+        click(*chosen);
+        ASSERT_TRUE(turnsUntil([&] { return isGone(u"rowMenu"_qs); }));
+    }
+};
+
+// Focus
+
+TEST_F(RowReactionsTest, AClickFocusesARowAndEscapeTakesTheFocusAway) {
+    click(rowOf(u"Title 3"_qs));
+    EXPECT_TRUE(isFocused(u"Title 3"_qs));
+    EXPECT_TRUE(rowOf(u"Title 3"_qs).property("drawnFocused").toBool());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(view().focusedNotification());
+}
+
+TEST_F(RowReactionsTest, EscapeInTheSearchFieldClearsTheFocusAndLeavesTheText) {
+    click(rowOf(u"Title 3"_qs));
+    click(item(u"searchField"_qs));
+    type(u"Title"_qs);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(view().focusedNotification());
+    EXPECT_EQ(view().searchText(), u"Title"_qs);
+}
+
+TEST_F(RowReactionsTest, TheCopyShortcutCopiesTheFocusedRow) {
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(pasteboard.isEmpty());
+    click(rowOf(u"Title 3"_qs));
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(pasteboard, QStringList(u"Title 3\nBody 3"_qs));
+}
+
+TEST_F(RowReactionsTest, ACaptureEndsTheFocusSilently) {
+    click(rowOf(u"Title 3"_qs));
+    reload();
+    draw();
+    EXPECT_FALSE(rowOf(u"Title 3"_qs).property("drawnFocused").toBool());
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(pasteboard.isEmpty());
+}
+
+TEST_F(RowReactionsTest, ADoubleClickOnTheRowOfAnUnknownAppFocusesItAndShowsTheBanner) {
+    doubleClick(rowOf(u"Title 2"_qs));
+    EXPECT_TRUE(isFocused(u"Title 2"_qs));
+    EXPECT_TRUE(view().hasInlineBanner());
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"inlineBanner"_qs); }));
+    EXPECT_TRUE(turnsUntil([&] {
+        draw();
+        return textsInWindow(*window).contains(u"Mail is not on this computer"_qs);
+    }));
+}
+
+TEST_F(RowReactionsTest, TheBannerGoesByItsButton) {
+    doubleClick(rowOf(u"Title 2"_qs));
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"inlineBanner"_qs); }));
+    QQuickItem& banner = item(u"inlineBanner"_qs);
+    ASSERT_TRUE(turnsUntil([&] { return banner.mapToScene(QPointF(0, 0)).y() >= 82; }));
+    draw();
+    click(item(u"dismissBanner"_qs));
+    EXPECT_FALSE(view().hasInlineBanner());
+    EXPECT_TRUE(turnsUntil([&] { return !isShown(u"inlineBanner"_qs); }));
+}
+
+TEST_F(RowReactionsTest, TheBannerGoesByItselfAfterFourSeconds) {
+    doubleClick(rowOf(u"Title 2"_qs));
+    system.scheduler.advance(2);
+    doubleClick(rowOf(u"Title 3"_qs)); // replaces it
+    system.scheduler.advance(3);
+    EXPECT_TRUE(view().hasInlineBanner());
+    system.scheduler.advance(1.1);
+    EXPECT_FALSE(view().hasInlineBanner());
+}
+
+// Masks
+
+TEST_F(RowReactionsTest, AMaskedRowShowsNothingOfItsContent) {
+    preferences.setGlobalPrivacyMode(true);
+    draw();
+    const QStringList texts = textsIn(rowOf(u"Title 3"_qs));
+    EXPECT_FALSE(texts.contains(u"Title 3"_qs));
+    EXPECT_FALSE(texts.contains(u"Body 3"_qs));
+    EXPECT_TRUE(texts.contains(u"Click to reveal"_qs));
+    EXPECT_TRUE(texts.contains(u"Mail"_qs));
+}
+
+TEST_F(RowReactionsTest, AClickRevealsTheNextOneFocuses) {
+    preferences.setGlobalPrivacyMode(true);
+    draw();
+    click(rowOf(u"Title 3"_qs));
+    EXPECT_TRUE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
+    EXPECT_FALSE(view().focusedNotification());
+    click(rowOf(u"Title 3"_qs));
+    EXPECT_TRUE(isFocused(u"Title 3"_qs));
+}
+
+TEST_F(RowReactionsTest, ADoubleClickOnAMaskedRowRevealsAndOpensNothing) {
+    preferences.setGlobalPrivacyMode(true);
+    draw();
+    doubleClick(rowOf(u"Title 3"_qs));
+    EXPECT_TRUE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
+    EXPECT_FALSE(view().hasInlineBanner());
+}
+
+TEST_F(RowReactionsTest, SelectionModeLiftsTheMaskAndACaptureBringsItBack) {
+    preferences.setGlobalPrivacyMode(true);
+    view().enterSelectionMode();
+    draw();
+    EXPECT_TRUE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
+    view().exitSelectionMode();
+    click(rowOf(u"Title 2"_qs));
+    reload();
+    draw();
+    EXPECT_FALSE(textsIn(rowOf(u"Title 2"_qs)).contains(u"Body 2"_qs));
+}
+
+TEST_F(RowReactionsTest, OneAppsPrivacyMasksItsRowsAlone) {
+    preferences.setPrivacyApps({u"com.example.other"_qs});
+    draw();
+    EXPECT_TRUE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
+    preferences.setPrivacyApps({view().filteredNotifications()[0].appBundleId});
+    draw();
+    EXPECT_FALSE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
+}
+
+// Context menu
+
+TEST_F(RowReactionsTest, TheMenuIsAsWideAsItsWidestEntry) {
+    openMenu(u"Title 2"_qs);
+    for (const QString& text : {u"Delete This Notification"_qs, u"Delete All from Mail"_qs}) {
+        QQuickItem* shown = entry(text);
+        ASSERT_NE(shown, nullptr);
+        EXPECT_GE(shown->width(), shown->implicitWidth()) << text.toStdString();
+    }
+}
+
+TEST_F(RowReactionsTest, TheMenuPinsAndUnpins) {
+    openMenu(u"Title 2"_qs);
+    choose(u"Pin"_qs);
+    EXPECT_TRUE(view().filteredNotifications()[3].pinned);
+    openMenu(u"Title 2"_qs);
+    choose(u"Unpin"_qs);
+    EXPECT_FALSE(view().filteredNotifications()[3].pinned);
+}
+
+TEST_F(RowReactionsTest, TheMenuCopies) {
+    openMenu(u"Title 2"_qs);
+    choose(u"Copy Text"_qs);
+    EXPECT_EQ(pasteboard, QStringList(u"Title 2\nBody 2"_qs));
+}
+
+TEST_F(RowReactionsTest, TheMenuOpensWithoutTouchingTheFocus) {
+    click(rowOf(u"Title 1"_qs));
+    openMenu(u"Title 2"_qs);
+    choose(u"Open Mail"_qs);
+    EXPECT_TRUE(view().hasInlineBanner());
+    EXPECT_TRUE(isFocused(u"Title 1"_qs));
+}
+
+TEST_F(RowReactionsTest, TheMenuDeletesARowAtOnce) {
+    openMenu(u"Title 2"_qs);
+    choose(u"Delete This Notification"_qs);
+    EXPECT_EQ(hoard.totalCount(), 4);
+    draw();
+    EXPECT_EQ(row(u"Title 2"_qs), nullptr);
+}
+
+TEST_F(RowReactionsTest, TheMenuDeletesAnAppAndADay) {
+    NotificationList other = numbered(1, 100);
+    other[0].noteId = 100;
+    other[0].appName = u"Chat"_qs;
+    other[0].timestamp += 3 * 86400.0;
+    ASSERT_TRUE(hoard.insert(other[0]));
+    reload();
+    draw();
+    openMenu(u"Title 2"_qs);
+    choose(u"Delete All from Mail"_qs);
+    EXPECT_EQ(hoard.totalCount(), 1);
+    draw();
+    openMenu(u"Title 100"_qs);
+    choose(u"Delete All from Wednesday, November 19, 2025"_qs);
+    EXPECT_EQ(hoard.totalCount(), 0);
+}
+
+TEST_F(RowReactionsTest, ThereIsNoMenuInSelectionMode) {
+    view().enterSelectionMode();
+    draw();
+    click(rowOf(u"Title 2"_qs), Qt::RightButton);
+    QTest::qWait(50);
+    EXPECT_FALSE(isShown(u"rowMenu"_qs));
+}
+
+TEST_F(RowReactionsTest, ACaptureWhileTheMenuIsOpenMakesItsEntriesHarmless) {
+    openMenu(u"Title 2"_qs);
+    reload();
+    choose(u"Delete This Notification"_qs);
+    EXPECT_EQ(hoard.totalCount(), 5);
+}
+
+} // namespace
+} // namespace tessarine::testing

@@ -1,0 +1,136 @@
+#include "support/EventLoop.h"
+#include "ui/UiFixture.h"
+
+namespace tessarine::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class ToolbarTest : public UiTest {
+protected:
+    // Six rows of two applications.
+    ToolbarTest() {
+        NotificationList rows = numbered(6);
+        rows[1].appName = u"Chat"_qs;
+        rows[3].appName = u"Chat"_qs;
+        rows[3].body = u"Your café is open"_qs;
+        showHoard(rows);
+    }
+
+    void pick(const QString& picker, const QString& text) {
+        click(item(picker));
+        ASSERT_TRUE(turnsUntil([&] { return entry(text) != nullptr; }));
+        click(*entry(text));
+    }
+
+    QString counter() const { return item(u"counter"_qs).property("text").toString(); }
+};
+
+TEST_F(ToolbarTest, ATypedSearchNarrowsTheListAndTheCounter) {
+    EXPECT_EQ(counter(), u"6 notifications"_qs);
+    click(item(u"searchField"_qs));
+    type(u"caf"_qs);
+    EXPECT_EQ(view().searchText(), u"caf"_qs);
+    EXPECT_EQ(list().property("count").toInt(), 1);
+    EXPECT_EQ(counter(), u"1 notification"_qs);
+}
+
+TEST_F(ToolbarTest, TheClearButtonEmptiesTheSearch) {
+    click(item(u"searchField"_qs));
+    type(u"zzz"_qs);
+    EXPECT_TRUE(textsInWindow(*window).contains(u"No matches"_qs));
+    QQuickItem& field = item(u"searchField"_qs);
+    clickAt(field, {field.width() - 10, field.height() / 2});
+    EXPECT_EQ(view().searchText(), QString());
+    EXPECT_EQ(list().property("count").toInt(), 6);
+}
+
+TEST_F(ToolbarTest, AnAppIsPicked) {
+    pick(u"appPicker"_qs, u"Chat"_qs);
+    EXPECT_EQ(view().selectedApp(), u"Chat"_qs);
+    EXPECT_EQ(list().property("count").toInt(), 2);
+    pick(u"appPicker"_qs, u"All Apps"_qs);
+    EXPECT_EQ(view().selectedApp(), u"All"_qs);
+}
+
+TEST_F(ToolbarTest, TheOrderIsPicked) {
+    pick(u"sortPicker"_qs, u"Oldest First"_qs);
+    EXPECT_EQ(view().sortMode(), SortMode::oldest);
+    ASSERT_NE(row(u"Title 1"_qs), nullptr);
+    EXPECT_LT(row(u"Title 1"_qs)->y(), row(u"Title 6"_qs)->y());
+}
+
+TEST_F(ToolbarTest, TheGroupingIsPickedAtOnce) {
+    click(*entry(u"Date"_qs));
+    EXPECT_EQ(view().groupMode(), GroupMode::date);
+    click(*entry(u"App"_qs));
+    EXPECT_EQ(view().groupMode(), GroupMode::app);
+    click(*entry(u"None"_qs));
+    EXPECT_EQ(view().groupMode(), GroupMode::none);
+}
+
+TEST_F(ToolbarTest, ExportAndDeleteAreThereOnlyWhileThereAreRows) {
+    EXPECT_TRUE(isShown(u"export"_qs));
+    EXPECT_TRUE(isShown(u"enterSelection"_qs));
+    publish({});
+    draw();
+    EXPECT_FALSE(isShown(u"export"_qs));
+    EXPECT_FALSE(isShown(u"enterSelection"_qs));
+}
+
+TEST_F(ToolbarTest, TheExportSheetOpensAndCancelGivesTheKeyboardBack) {
+    click(item(u"export"_qs));
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"exportSheet"_qs); }));
+    draw();
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(turnsUntil([&] { return !view().showExportSheet() && list().hasActiveFocus(); }));
+}
+
+TEST_F(ToolbarTest, ACaptureInTheMiddleOfTypingLeavesTheSearch) {
+    click(item(u"searchField"_qs));
+    type(u"ca"_qs);
+    reload();
+    draw();
+    EXPECT_TRUE(item(u"searchField"_qs).hasActiveFocus());
+    type(u"f"_qs);
+    EXPECT_EQ(view().searchText(), u"caf"_qs);
+}
+
+TEST_F(ToolbarTest, AnotherListBeginsAtItsTop) {
+    showHoard(0);
+    publish(numbered(300));
+    draw();
+    list().setProperty("contentY", 2000.0);
+    draw();
+    pick(u"sortPicker"_qs, u"Oldest First"_qs);
+    EXPECT_TRUE(turnsUntil([&] { return row(u"Title 1"_qs) != nullptr; }));
+}
+
+// Older rows
+
+TEST_F(ToolbarTest, OlderRowsAreLoadedFromTheEndOfTheList) {
+    for (int i = 0; i < 520; ++i) {
+        CapturedNotification older;
+        older.noteId = 1000 + i;
+        older.appName = u"Old"_qs;
+        older.title = u"Older %1"_qs.arg(i);
+        older.timestamp = ManualScheduler::startOfTime - 1000.0 - i;
+        ASSERT_TRUE(hoard.insert(older));
+    }
+    reload();
+    draw();
+    EXPECT_EQ(counter(), u"500 of 526"_qs);
+    list().forceActiveFocus();
+    press(Qt::Key_End);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"loadOlder"_qs); }));
+    press(Qt::Key_End);
+    const double before = list().property("contentY").toDouble();
+    click(item(u"loadOlder"_qs));
+    EXPECT_EQ(list().property("count").toInt(), 526);
+    EXPECT_EQ(counter(), u"526 notifications"_qs);
+    EXPECT_FALSE(isShown(u"loadOlder"_qs));
+    EXPECT_GE(list().property("contentY").toDouble(), before - 60); // nobody was sent elsewhere
+}
+
+} // namespace
+} // namespace tessarine::testing
