@@ -42,8 +42,8 @@ Connection connectTo(const std::string& bus) {
     return dbus_bus_register(connection.get(), nullptr) ? std::move(connection) : nullptr;
 }
 
-// The call that raises an application, as the specification derives it from the entry's id. Null
-// where the id is no name for a bus.
+// The call that raises an application, which follows from its entry's id. Null where the id is no
+// name for a bus.
 Message activation(const DesktopEntry& entry) {
     const QByteArray name = entry.id.toUtf8();
     const QByteArray path = '/' + QByteArray(name).replace('.', '/').replace('-', '_');
