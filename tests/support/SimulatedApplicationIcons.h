@@ -4,6 +4,7 @@
 #include "platform/Symbols.h"
 
 #include <map>
+#include <mutex>
 #include <vector>
 
 namespace tessarine::testing {
@@ -19,7 +20,10 @@ inline QImage square(int pixels, const QColor& colour) {
 class SimulatedApplicationIcons : public ApplicationIcons {
 public:
     QImage iconForFile(const QString& path) const override {
-        askedPaths.push_back(path);
+        {
+            const std::lock_guard lock(mutex_); // lookups come from several threads
+            askedPaths.push_back(path);
+        }
         const auto found = files.find(path);
         return found == files.end() ? QImage() : found->second;
     }
@@ -33,6 +37,9 @@ public:
     std::map<qint32, QImage> running; // by process
     QImage generic = square(64, Qt::gray);
     mutable std::vector<QString> askedPaths;
+
+private:
+    mutable std::mutex mutex_;
 };
 
 // Symbols that are squares in their tint, but for those that the test takes away.

@@ -130,7 +130,10 @@ SimulatedWorkspace::pathForApplication(const QString& bundleIdentifier) const {
 std::optional<QString> SimulatedWorkspace::applicationInFolder(const QString& folder,
                                                                const QString& name) const {
     const QString path = folder + u'/' + name + QStringLiteral(".app");
-    askedPaths << path;
+    {
+        const std::lock_guard lock(mutex_); // lookups come from several threads
+        askedPaths << path;
+    }
     return bundles.contains(path) ? std::optional(path) : std::nullopt;
 }
 

@@ -8,6 +8,7 @@
 #include <QVariant>
 
 #include <map>
+#include <mutex>
 #include <set>
 #include <vector>
 
@@ -97,6 +98,7 @@ public:
 private:
     class Observation;
 
+    mutable std::mutex mutex_;
     std::multimap<WorkspaceEvent, std::shared_ptr<Handler>> handlers_;
 };
 
