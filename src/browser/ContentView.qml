@@ -1,3 +1,5 @@
+// qmllint disable unqualified
+
 import QtQuick
 import Tessarine.Browser
 import Tessarine.Export

@@ -1,3 +1,5 @@
+// qmllint disable unqualified deferred-property-id
+
 import QtQuick
 import QtQuick.Templates as T
 import Tessarine.Browser

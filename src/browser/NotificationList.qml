@@ -1,3 +1,5 @@
+// qmllint disable unqualified
+
 import QtQuick
 import QtQuick.Templates as T
 import Qt.labs.qmlmodels
@@ -26,6 +28,7 @@ FocusScope {
         activeFocusOnTab: true
         keyNavigationEnabled: false
         model: root.view.lines
+        reuseItems: true
         spacing: Metrics.spacingSmall
         topMargin: Metrics.spacingSmall
         bottomMargin: Metrics.spacingSmall
@@ -86,19 +89,6 @@ FocusScope {
             enabled: root.view.togglesGroup
 
             NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Metrics.gentle; easing.type: Easing.InOutQuad }
-        }
-
-        remove: Transition {
-            enabled: root.view.togglesGroup
-
-            NumberAnimation { property: "opacity"; to: 0; duration: Metrics.gentle; easing.type: Easing.InOutQuad }
-        }
-
-        displaced: Transition {
-            enabled: root.view.togglesGroup
-
-            NumberAnimation { property: "y"; duration: Metrics.gentle; easing.type: Easing.InOutQuad }
-            NumberAnimation { property: "opacity"; to: 1; duration: Metrics.gentle }
         }
 
         KeyboardScroller {

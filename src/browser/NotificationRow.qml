@@ -1,3 +1,5 @@
+// qmllint disable type
+
 import QtQuick
 import Tessarine.Apps
 import Tessarine.Browser
@@ -39,6 +41,12 @@ Item {
     Accessible.checkable: selectionMode
     Accessible.checked: selectionMode && isSelected
     Accessible.onPressAction: reactions.click()
+
+    // The row may have been put by in the middle of a fade.
+    ListView.onReused: {
+        opacity = 1;
+        icon.rebuild();
+    }
 
     NotificationRowState {
         id: reactions

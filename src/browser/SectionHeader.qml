@@ -1,3 +1,5 @@
+// qmllint disable type
+
 import QtQuick
 import Tessarine.Apps
 import Tessarine.Browser
@@ -24,6 +26,11 @@ Rectangle {
     color: Theme.colours.windowBackground
     Accessible.role: Accessible.Heading
     Accessible.name: header.title
+
+    ListView.onReused: {
+        opacity = 1;
+        icon.rebuild();
+    }
 
     TapHandler {
         acceptedButtons: Qt.RightButton

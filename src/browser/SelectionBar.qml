@@ -1,3 +1,5 @@
+// qmllint disable unqualified type
+
 import QtQuick
 import Tessarine.Browser
 import Tessarine.Theme

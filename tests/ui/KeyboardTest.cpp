@@ -18,39 +18,63 @@ protected:
     }
 
     double top() const { return list().property("contentY").toDouble(); }
-    const double first = -4; // the margin above the first row
+    // Where the list begins: the margin above its first row. A list that builds its rows as they
+    // come into sight learns on the way where that is.
+    double first() const { return list().property("originY").toDouble() - 4; }
     const double line = 48;
+    // A row that is in sight, and where it lies in the list's room, also a page above it.
+    QString titleInTheMiddle() const {
+        for (int number = 500; number > 0; --number) {
+            const QString title = QStringLiteral("Title %1").arg(number);
+            if (row(title) && place(title) > 150)
+                return title;
+        }
+        return {};
+    }
+    double place(const QString& title) const {
+        for (int line = 0; line < 500; ++line) {
+            QQuickItem* item = nullptr;
+            QMetaObject::invokeMethod(&list(), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item),
+                                      Q_ARG(int, line));
+            if (item && item->property("title").toString() == title)
+                return item->mapToItem(&list(), QPointF(0, 0)).y();
+        }
+        return -1e9;
+    }
     double page() const { return list().height() - line; }
 };
 
 TEST_F(KeyboardTest, TheListHasTheKeyboardFromTheStart) {
     EXPECT_TRUE(list().hasActiveFocus());
-    EXPECT_EQ(top(), first);
+    EXPECT_EQ(top(), first());
 }
 
 TEST_F(KeyboardTest, ArrowsScrollByALine) {
     press(Qt::Key_Down);
     press(Qt::Key_Down);
-    EXPECT_EQ(top(), first + 2 * line);
+    EXPECT_EQ(top(), first() + 2 * line);
     press(Qt::Key_Up);
-    EXPECT_EQ(top(), first + line);
+    EXPECT_EQ(top(), first() + line);
 }
 
 TEST_F(KeyboardTest, PagesScrollByTheWindowLessALine) {
     press(Qt::Key_PageDown);
-    EXPECT_EQ(top(), first + page());
+    EXPECT_EQ(top(), first() + page());
+    const QString title = titleInTheMiddle();
+    const double before = place(title);
     press(Qt::Key_Space);
-    EXPECT_EQ(top(), first + 2 * page());
+    EXPECT_EQ(place(title), before - page());
     press(Qt::Key_Space, Qt::ShiftModifier);
-    EXPECT_EQ(top(), first + page());
+    // Rows that are built again above those in sight may move these, by less than a line.
+    EXPECT_NEAR(place(title), before, line);
     press(Qt::Key_PageUp);
-    EXPECT_EQ(top(), first);
+    EXPECT_EQ(top(), first());
 }
 
 TEST_F(KeyboardTest, NothingScrollsBeyondTheFirstRow) {
     press(Qt::Key_Up);
     press(Qt::Key_PageUp);
-    EXPECT_EQ(top(), first);
+    EXPECT_EQ(top(), first());
 }
 
 TEST_F(KeyboardTest, EndShowsTheLastRowAndHomeTheFirst) {
@@ -59,13 +83,13 @@ TEST_F(KeyboardTest, EndShowsTheLastRowAndHomeTheFirst) {
     EXPECT_EQ(row(QStringLiteral("Title 500")), nullptr);
     press(Qt::Key_Home);
     EXPECT_NE(row(QStringLiteral("Title 500")), nullptr);
-    EXPECT_EQ(top(), first);
+    EXPECT_EQ(top(), first());
 }
 
 TEST_F(KeyboardTest, KeysWithAModifierStayWithTheView) {
     press(Qt::Key_Down, Qt::AltModifier);
     press(Qt::Key_Space, Qt::ControlModifier);
-    EXPECT_EQ(top(), first);
+    EXPECT_EQ(top(), first());
 }
 
 } // namespace
