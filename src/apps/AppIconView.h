@@ -39,7 +39,7 @@ public:
     QColor placeholderColour() const;
 
     // Starts over, as a view made anew would: for a list that uses its rows again.
-    Q_INVOKABLE void rebuild();
+    void rebuild();
 
 Q_SIGNALS:
     void bundleIdChanged();

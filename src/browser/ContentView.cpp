@@ -17,7 +17,7 @@ constexpr qint64 firstLoadLimit = 500;
 constexpr qint64 loadStep = 500;
 
 // As long as a group takes to open or close, and a little more for the last frame.
-constexpr double togglingSeconds = 0.3;
+constexpr double togglingSeconds = 0.2;
 
 template <typename Mode, std::size_t Count>
 QStringList labelsOf(const std::array<Mode, Count>& modes) {
@@ -99,13 +99,16 @@ void ContentView::tellOfMarks() {
 }
 
 ListEntries ContentView::makeEntries(const NotificationList& rows) const {
+    const QSet<QString> changing(changingGroups_.keyBegin(), changingGroups_.keyEnd());
     switch (groupMode_) {
     case GroupMode::none:
         break;
     case GroupMode::app:
-        return groupedEntries(groupMode_, tessarine::groupedByApp(rows), collapsedGroups_);
+        return groupedEntries(groupMode_, tessarine::groupedByApp(rows), collapsedGroups_,
+                              changing);
     case GroupMode::date:
-        return groupedEntries(groupMode_, tessarine::groupedByDate(rows), collapsedGroups_);
+        return groupedEntries(groupMode_, tessarine::groupedByDate(rows), collapsedGroups_,
+                              changing);
     }
     return ungroupedEntries(rows);
 }
@@ -194,6 +197,7 @@ void ContentView::setGroupMode(GroupMode mode) {
     if (std::exchange(groupMode_, mode) == mode)
         return;
     collapsedGroups_.clear();
+    changingGroups_.clear();
     Q_EMIT groupModeChanged();
     changeDerivation();
 }
@@ -217,21 +221,22 @@ QStringList ContentView::groupLabels() {
 void ContentView::toggleGroup(const QString& key) {
     if (!collapsedGroups_.remove(key))
         collapsedGroups_.insert(key);
-    ++togglesUnderWay_;
-    if (!std::exchange(togglesGroup_, true))
-        Q_EMIT togglesGroupChanged();
+    const int number = ++toggleCount_;
+    changingGroups_.insert(key, number);
     updateLines();
-    services_.scheduler.onMainAfter(togglingSeconds, [self = QPointer<ContentView>(this)] {
-        if (self)
-            self->finishToggling();
-    });
+    services_.scheduler.onMainAfter(togglingSeconds,
+                                    [self = QPointer<ContentView>(this), key, number] {
+                                        if (self)
+                                            self->finishToggle(key, number);
+                                    });
 }
 
-void ContentView::finishToggling() {
-    if (--togglesUnderWay_ > 0)
+// A group that was toggled again in the meantime goes on fading.
+void ContentView::finishToggle(const QString& key, int number) {
+    if (changingGroups_.value(key) != number)
         return;
-    togglesGroup_ = false;
-    Q_EMIT togglesGroupChanged();
+    changingGroups_.remove(key);
+    updateLines();
 }
 
 } // namespace tessarine

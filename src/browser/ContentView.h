@@ -50,7 +50,6 @@ class ContentView : public QObject {
     Q_PROPERTY(int groupMode READ groupModeIndex WRITE setGroupModeIndex NOTIFY groupModeChanged)
     Q_PROPERTY(QStringList sortLabels READ sortLabels CONSTANT)
     Q_PROPERTY(QStringList groupLabels READ groupLabels CONSTANT)
-    Q_PROPERTY(bool togglesGroup READ togglesGroup NOTIFY togglesGroupChanged)
 
     // Selection and deletion.
     Q_PROPERTY(int revision READ revision NOTIFY selectionChanged)
@@ -134,7 +133,6 @@ public:
     void setGroupMode(GroupMode mode);
     Q_INVOKABLE void toggleGroup(const QString& key);
     const QSet<QString>& collapsedGroups() const { return collapsedGroups_; }
-    bool togglesGroup() const { return togglesGroup_; } // for as long as that is animated
 
     // Selection
 
@@ -200,7 +198,6 @@ Q_SIGNALS:
     void sortModeChanged();
     void groupModeChanged();
     void derivationChanged(); // the user wants another list: a view begins at its top
-    void togglesGroupChanged();
     void selectionChanged();
     void presentationChanged();
     void inlineBannerChanged();
@@ -220,7 +217,7 @@ private:
     QSet<QUuid> idsOfGroup(const QString& key) const;
     void addToSelection(const NotificationList& rows);
     void keepKnownSelection();
-    void finishToggling();
+    void finishToggle(const QString& key, int number);
     QStringList appLabels() const;
     int selectedAppIndex() const;
     void setSelectedAppIndex(int index);
@@ -245,6 +242,9 @@ private:
     SortMode sortMode_ = SortMode::newest;
     QString selectedApp_ = everyApp;
     QSet<QString> collapsedGroups_;
+    QHash<QString, int>
+        changingGroups_; // groups whose rows fade, each with its last toggle's number
+    int toggleCount_ = 0;
     bool showExportSheet_ = false;
     QPointer<ExportOptionsSheet> exportSheet_;
     std::optional<InlineBanner> inlineBanner_;
@@ -262,8 +262,6 @@ private:
     std::size_t loadedCount_ = 0; // of the list when it was last taken
     qsizetype shownCount_ = 0;    // of the rows that pass the filters
     int revision_ = 0; // of lines and marks, for views that ask the model by a line's number
-    int togglesUnderWay_ = 0;
-    bool togglesGroup_ = false;
     NotificationListModel lines_{marks_};
 };
 

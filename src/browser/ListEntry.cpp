@@ -20,10 +20,12 @@ ListEntry headerOf(const NotificationGroup& group) {
     return header;
 }
 
-ListEntry rowOf(const CapturedNotification& notification, bool showDate) {
+ListEntry rowOf(const CapturedNotification& notification, bool showDate,
+                ListEntry::Fade fade = ListEntry::Fade::none) {
     ListEntry row;
     row.notification = notification;
     row.showDate = showDate;
+    row.fade = fade;
     return row;
 }
 
@@ -41,7 +43,8 @@ bool looksTheSame(const ListEntry& left, const ListEntry& right) {
         return false;
     if (left.kind == ListEntry::Kind::header)
         return looksLikeSameHeader(left, right);
-    return left.showDate == right.showDate && showsSameRow(left.notification, right.notification);
+    return left.showDate == right.showDate && left.fade == right.fade &&
+           showsSameRow(left.notification, right.notification);
 }
 
 ListEntries ungroupedEntries(const NotificationList& rows) {
@@ -53,7 +56,8 @@ ListEntries ungroupedEntries(const NotificationList& rows) {
 }
 
 ListEntries groupedEntries(GroupMode mode, const std::vector<NotificationGroup>& groups,
-                           const QSet<QString>& collapsed) {
+                           const QSet<QString>& collapsed, const QSet<QString>& changing) {
+    using Fade = ListEntry::Fade;
     const bool byDate = mode == GroupMode::date;
     ListEntries entries;
     for (const NotificationGroup& group : groups) {
@@ -61,12 +65,14 @@ ListEntries groupedEntries(GroupMode mode, const std::vector<NotificationGroup>&
         header.title = byDate ? dayTitle(group.key) : group.key;
         header.showsApp = !byDate;
         header.isCollapsed = collapsed.contains(group.key);
-        const bool showsRows = !header.isCollapsed;
+        const bool isCollapsed = header.isCollapsed;
         entries.push_back(std::move(header));
-        if (!showsRows)
+        const bool isChanging = changing.contains(group.key);
+        if (isCollapsed && !isChanging)
             continue;
+        const Fade fade = !isChanging ? Fade::none : isCollapsed ? Fade::out : Fade::in;
         for (const CapturedNotification& notification : group.notifications)
-            entries.push_back(rowOf(notification, !byDate));
+            entries.push_back(rowOf(notification, !byDate, fade));
     }
     return entries;
 }

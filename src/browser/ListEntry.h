@@ -13,10 +13,12 @@ namespace tessarine {
 // One line of the browser's list: a notification, or the header above a group of them.
 struct ListEntry {
     enum class Kind { row, header };
+    enum class Fade { none, in, out };
 
     Kind kind = Kind::row;
     CapturedNotification notification; // of a header: the first of its group
     bool showDate = true;              // of a row: whether its time line shows the date too
+    Fade fade = Fade::none;            // of a row: whether it comes or goes with its group
 
     // Of a header only.
     QString groupKey;
@@ -35,9 +37,11 @@ bool looksTheSame(const ListEntry& left, const ListEntry& right);
 ListEntries ungroupedEntries(const NotificationList& rows);
 
 // The lines of groups: each header, then its rows unless its key is among the collapsed ones.
-// Groups of GroupMode::date have the date in their titles and not in their rows.
+// Groups of GroupMode::date have the date in their titles and not in their rows. A group whose key
+// is among the changing ones has just been opened or closed: its rows are there either way, and
+// fade in or out.
 ListEntries groupedEntries(GroupMode mode, const std::vector<NotificationGroup>& groups,
-                           const QSet<QString>& collapsed);
+                           const QSet<QString>& collapsed, const QSet<QString>& changing = {});
 
 // A day key as a title in the user's full date style; the key itself if it is none.
 QString dayTitle(const QString& key);

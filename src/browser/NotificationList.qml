@@ -28,7 +28,6 @@ FocusScope {
         activeFocusOnTab: true
         keyNavigationEnabled: false
         model: root.view.lines
-        reuseItems: true
         spacing: Metrics.spacingSmall
         topMargin: Metrics.spacingSmall
         bottomMargin: Metrics.spacingSmall
@@ -83,12 +82,6 @@ FocusScope {
             width: list.width
             shown: root.view.canLoadOlder
             onClicked: root.view.loadOlder()
-        }
-
-        add: Transition {
-            enabled: root.view.togglesGroup
-
-            NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Metrics.gentle; easing.type: Easing.InOutQuad }
         }
 
         KeyboardScroller {

@@ -168,6 +168,10 @@ QVariant NotificationListModel::valueOfRow(const ListEntry& entry, Role role) co
         return marks_.selected.contains(row.id);
     case Role::IsFocused:
         return marks_.focused == row.id;
+    case Role::IsArriving:
+        return entry.fade == ListEntry::Fade::in;
+    case Role::IsLeaving:
+        return entry.fade == ListEntry::Fade::out;
     case Role::SpokenText:
         return spokenText(entry);
     case Role::Kind:

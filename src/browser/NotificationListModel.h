@@ -32,6 +32,8 @@ public:
         IsPrivate, // content is hidden until the user asks for it
         IsSelected,
         IsFocused,
+        IsArriving, // fades in with its group; read when a view makes the row
+        IsLeaving,  // fades out with its group, and is gone after that
         SpokenText, // the whole row for a screen reader
         Header,     // a GroupHeader
     };

@@ -19,6 +19,8 @@ Item {
     required property bool isPrivate
     required property bool isSelected
     required property bool isFocused
+    required property bool isArriving
+    required property bool isLeaving
     required property string spokenText
     property bool selectionMode
 
@@ -26,6 +28,8 @@ Item {
     readonly property int verticalPadding: 6
     readonly property int itemSpacing: 10
     readonly property bool masked: reactions.masked
+    readonly property bool showsTitle: title.text && !masked
+    readonly property bool showsBody: body.text && !masked
     readonly property bool drawnFocused: isFocused && !selectionMode
 
     signal singleTap(var id)
@@ -33,6 +37,10 @@ Item {
     signal toggleSelection(var id)
     signal menuRequested(var id)
 
+    property bool hasArrived: !isArriving
+
+    opacity: hasArrived && !isLeaving ? 1 : 0
+    enabled: !isLeaving
     implicitHeight: Math.max(icon.height, texts.height) + 2 * verticalPadding
     Accessible.role: Accessible.ListItem
     Accessible.name: masked ? appName + ", " + qsTrId("row.clickToReveal") : spokenText
@@ -42,10 +50,13 @@ Item {
     Accessible.checked: selectionMode && isSelected
     Accessible.onPressAction: reactions.click()
 
-    // The row may have been put by in the middle of a fade.
-    ListView.onReused: {
-        opacity = 1;
-        icon.rebuild();
+    Component.onCompleted: hasArrived = true
+
+    Behavior on opacity {
+        NumberAnimation {
+            duration: Metrics.gentle
+            easing.type: Easing.InOutQuad
+        }
     }
 
     NotificationRowState {
@@ -137,7 +148,9 @@ Item {
         }
     }
 
-    Column {
+    // The texts are placed by bindings and not by a positioner, which waits for the next frame: a row
+    // has its height from the moment it is made, or those in sight would move when it grows.
+    Item {
         id: texts
 
         anchors.left: icon.right
@@ -145,9 +158,13 @@ Item {
         anchors.right: card.right
         anchors.rightMargin: row.horizontalPadding
         y: row.verticalPadding
-        spacing: Metrics.spacingTiny
+        height: row.masked ? mask.y + mask.height
+            : row.showsBody ? body.y + body.height
+            : row.showsTitle ? title.y + title.height : topLine.height
 
         RowTopLine {
+            id: topLine
+
             width: parent.width
             appName: row.appName
             timeText: row.timeText
@@ -155,13 +172,19 @@ Item {
         }
 
         RowMask {
+            id: mask
+
+            y: topLine.height + Metrics.spacingTiny
             visible: row.masked
         }
 
         PlainLabel {
+            id: title
+
+            y: topLine.height + Metrics.spacingTiny
             width: parent.width
             text: row.title
-            visible: row.title && !row.masked
+            visible: row.showsTitle
             font.pixelSize: Metrics.textHeadline
             font.weight: Font.Medium
             maximumLineCount: 2
@@ -170,9 +193,12 @@ Item {
         }
 
         PlainLabel {
+            id: body
+
+            y: title.y + (row.showsTitle ? title.height + Metrics.spacingTiny : 0)
             width: parent.width
             text: row.body
-            visible: row.body && !row.masked
+            visible: row.showsBody
             color: Theme.colours.secondaryLabel
             maximumLineCount: 3
             wrapMode: Text.Wrap

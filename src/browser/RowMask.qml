@@ -2,24 +2,32 @@ import QtQuick
 import Tessarine.Theme
 
 // Two bars in the place of a hidden title and body.
-Column {
+Item {
+    id: mask
+
     readonly property int barRadius: 3
 
-    topPadding: Metrics.spacingTiny
-    spacing: Metrics.spacingSmall
+    implicitWidth: lower.width
+    implicitHeight: lower.y + lower.height
 
     Rectangle {
+        id: upper
+
+        y: Metrics.spacingTiny
         width: 160
         height: 12
-        radius: parent.barRadius
+        radius: mask.barRadius
         color: Theme.colours.secondaryLabel
         opacity: 0.2
     }
 
     Rectangle {
+        id: lower
+
+        y: upper.y + upper.height + Metrics.spacingSmall
         width: 220
         height: 10
-        radius: parent.barRadius
+        radius: mask.barRadius
         color: Theme.colours.secondaryLabel
         opacity: 0.13
     }

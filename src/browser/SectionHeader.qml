@@ -27,11 +27,6 @@ Rectangle {
     Accessible.role: Accessible.Heading
     Accessible.name: header.title
 
-    ListView.onReused: {
-        opacity = 1;
-        icon.rebuild();
-    }
-
     TapHandler {
         acceptedButtons: Qt.RightButton
         gesturePolicy: TapHandler.WithinBounds

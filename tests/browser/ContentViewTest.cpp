@@ -131,6 +131,7 @@ TEST_F(ContentViewTest, AGroupOpensAndClosesAndAnotherGroupingForgetsIt) {
     open().setGroupMode(GroupMode::app);
     EXPECT_EQ(view->lines()->rowCount(), 4);
     view->toggleGroup(u"Mail"_qs);
+    system.scheduler.advance(0.2); // its rows fade
     EXPECT_EQ(view->lines()->rowCount(), 3);
     view->setSearchText(u"b"_qs); // the group goes
     view->setSearchText({});      // and comes back collapsed
@@ -141,17 +142,42 @@ TEST_F(ContentViewTest, AGroupOpensAndClosesAndAnotherGroupingForgetsIt) {
     EXPECT_TRUE(view->collapsedGroups().isEmpty());
 }
 
-TEST_F(ContentViewTest, AGroupIsAnimatedForAsLongAsItTakes) {
+TEST_F(ContentViewTest, RowsOfAGroupAreThereWhileTheyFade) {
+    using Role = NotificationListModel::Role;
     storeMany(2);
     open().setGroupMode(GroupMode::app);
-    EXPECT_FALSE(view->togglesGroup());
+    const NotificationListModel& lines = *view->lines();
+    const auto isLast = [&](Role role) { return lines.data(lines.index(2), int(role)).toBool(); };
+    EXPECT_FALSE(isLast(Role::IsArriving));
     view->toggleGroup(u"Mail"_qs);
-    system.scheduler.advance(0.2);
+    EXPECT_TRUE(lines.header(0).isCollapsed);
+    EXPECT_TRUE(isLast(Role::IsLeaving));
+    system.scheduler.advance(0.1);
     view->toggleGroup(u"Mail"_qs);
-    system.scheduler.advance(0.2);
-    EXPECT_TRUE(view->togglesGroup());
-    system.scheduler.advance(0.2);
-    EXPECT_FALSE(view->togglesGroup());
+    EXPECT_FALSE(isLast(Role::IsLeaving));
+    EXPECT_TRUE(isLast(Role::IsArriving));
+    system.scheduler.advance(0.1); // the first toggle's time is over, the second's isn't
+    EXPECT_TRUE(isLast(Role::IsArriving));
+    system.scheduler.advance(0.1);
+    EXPECT_FALSE(isLast(Role::IsArriving));
+    view->toggleGroup(u"Mail"_qs);
+    system.scheduler.advance(0.1);
+    EXPECT_EQ(lines.rowCount(), 3);
+    system.scheduler.advance(0.1);
+    EXPECT_EQ(lines.rowCount(), 1);
+}
+
+TEST_F(ContentViewTest, AnotherGroupingEndsAFadeAtOnce) {
+    storeMany(2);
+    open().setGroupMode(GroupMode::app);
+    view->toggleGroup(u"Mail"_qs);
+    view->setGroupMode(GroupMode::none);
+    view->setGroupMode(GroupMode::app);
+    const NotificationListModel& lines = *view->lines();
+    EXPECT_FALSE(lines.data(lines.index(1), int(NotificationListModel::Role::IsArriving)).toBool());
+    EXPECT_EQ(lines.rowCount(), 3);
+    system.scheduler.advance(1);
+    EXPECT_EQ(lines.rowCount(), 3);
 }
 
 // Loaded and stored

@@ -238,6 +238,7 @@ protected:
         case Scene::GroupedByApp:
             browser.setGroupMode(GroupMode::app);
             browser.toggleGroup(u"Mail"_qs);
+            system.scheduler.advance(1);
             break;
         case Scene::GroupedByDate:
             browser.setGroupMode(GroupMode::date);

@@ -78,7 +78,7 @@ void UiTest::show() {
 
 QQuickItem* UiTest::row(const QString& title) const {
     const QRectF room(0, 0, list().width(), list().height());
-    // Asked by number: items that wait to be used again lie around too.
+    // Asked by number: items that fade away lie around too.
     for (int line = 0; line < list().property("count").toInt(); ++line) {
         QQuickItem* item = nullptr;
         QMetaObject::invokeMethod(&list(), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item),
