@@ -38,7 +38,7 @@ public:
     QString initials() const;
     QColor placeholderColour() const;
 
-    // Starts over, as a view made anew would: for a list that uses its rows again.
+    // Starts over, as a view made anew would.
     void rebuild();
 
 Q_SIGNALS:

@@ -54,7 +54,7 @@ class ContentView : public QObject {
     // Selection and deletion.
     Q_PROPERTY(int revision READ revision NOTIFY selectionChanged)
     Q_PROPERTY(bool selectionMode READ selectionMode NOTIFY selectionChanged)
-    Q_PROPERTY(qsizetype selectedCount READ selectedCount NOTIFY selectionChanged)
+    Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
     Q_PROPERTY(QString selectionText READ selectionText NOTIFY selectionChanged)
     Q_PROPERTY(bool everySelected READ everySelected NOTIFY selectionChanged)
     Q_PROPERTY(QString deleteSelectedTitle READ deleteSelectedTitle NOTIFY selectionChanged)
@@ -138,7 +138,7 @@ public:
 
     bool selectionMode() const { return selectionMode_; }
     const QSet<QUuid>& selectedIds() const { return marks_.selected; }
-    qsizetype selectedCount() const { return marks_.selected.size(); }
+    int selectedCount() const { return int(marks_.selected.size()); }
     QString selectionText() const;
     bool everySelected() const;
     Q_INVOKABLE void enterSelectionMode();

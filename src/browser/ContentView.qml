@@ -1,5 +1,3 @@
-// qmllint disable unqualified
-
 import QtQuick
 import Tessarine.Browser
 import Tessarine.Export
@@ -83,10 +81,11 @@ Rectangle {
         active: root.view.showExportSheet
         onActiveChanged: if (!active) list.forceActiveFocus()
 
+        // A loader can't make a component that is bound to this file.
         sourceComponent: Item {
             ExportOptionsSheet {
                 objectName: "exportSheet"
-                options: root.view.exportSheet
+                options: root.view.exportSheet // qmllint disable unqualified
                 visible: true
             }
         }

@@ -52,9 +52,9 @@ class GroupHeader {
     QML_VALUE_TYPE(groupHeader)
     Q_PROPERTY(QString key MEMBER key CONSTANT)
     Q_PROPERTY(QString title MEMBER title CONSTANT)
-    Q_PROPERTY(qsizetype count MEMBER count CONSTANT)
+    Q_PROPERTY(int count MEMBER count CONSTANT)
     Q_PROPERTY(bool isCollapsed MEMBER isCollapsed CONSTANT)
-    Q_PROPERTY(qsizetype selectedCount MEMBER selectedCount CONSTANT)
+    Q_PROPERTY(int selectedCount MEMBER selectedCount CONSTANT)
     Q_PROPERTY(bool hasIcon MEMBER hasIcon CONSTANT)
     Q_PROPERTY(QString bundleId MEMBER bundleId CONSTANT)
     Q_PROPERTY(QString appName MEMBER appName CONSTANT)
@@ -64,9 +64,9 @@ public:
 
     QString key;
     QString title;
-    qsizetype count = 0;
+    int count = 0;
     bool isCollapsed = false;
-    qsizetype selectedCount = 0;
+    int selectedCount = 0;
     bool hasIcon = false;
     QString bundleId;
     QString appName;

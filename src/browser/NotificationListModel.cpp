@@ -185,11 +185,11 @@ GroupHeader NotificationListModel::headerOf(const ListEntry& entry) const {
     GroupHeader header;
     header.key = entry.groupKey;
     header.title = entry.title;
-    header.count = qsizetype(entry.ids->size());
+    header.count = int(entry.ids->size());
     header.isCollapsed = entry.isCollapsed;
     header.selectedCount =
-        std::count_if(entry.ids->begin(), entry.ids->end(),
-                      [&](const QUuid& id) { return marks_.selected.contains(id); });
+        int(std::count_if(entry.ids->begin(), entry.ids->end(),
+                          [&](const QUuid& id) { return marks_.selected.contains(id); }));
     header.hasIcon = entry.showsApp;
     header.bundleId = entry.notification.appBundleId;
     header.appName = entry.notification.appName;

@@ -2,9 +2,16 @@
 
 #include <QObject>
 #include <QUuid>
-#include <QtQml/qqmlregistration.h>
+#include <qqml.h>
 
 namespace tessarine {
+
+// Names the type of a row's id for QML.
+struct UuidValue {
+    Q_GADGET
+    QML_FOREIGN(QUuid)
+    QML_VALUE_TYPE(uuid)
+};
 
 // How a row of the list reacts: whether it is masked, and what its clicks mean. Each row that is
 // built has one. A reveal lasts for a look: a reload, which renews all ids, ends it. Main thread.

@@ -1,5 +1,3 @@
-// qmllint disable type
-
 import QtQuick
 import Tessarine.Apps
 import Tessarine.Browser
@@ -9,7 +7,7 @@ import Tessarine.Theme
 Item {
     id: row
 
-    required property var notificationId
+    required property uuid notificationId
     required property string bundleId
     required property string appName
     required property string title
@@ -32,10 +30,10 @@ Item {
     readonly property bool showsBody: body.text && !masked
     readonly property bool drawnFocused: isFocused && !selectionMode
 
-    signal singleTap(var id)
-    signal doubleTap(var id)
-    signal toggleSelection(var id)
-    signal menuRequested(var id)
+    signal singleTap(uuid id)
+    signal doubleTap(uuid id)
+    signal toggleSelection(uuid id)
+    signal menuRequested(uuid id)
 
     property bool hasArrived: !isArriving
 

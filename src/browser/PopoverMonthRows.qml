@@ -1,4 +1,4 @@
-// qmllint disable unqualified
+pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tessarine.Browser

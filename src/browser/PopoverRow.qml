@@ -1,5 +1,3 @@
-// qmllint disable unqualified deferred-property-id
-
 import QtQuick
 import QtQuick.Templates as T
 import Tessarine.Theme
@@ -17,40 +15,17 @@ T.AbstractButton {
     hoverEnabled: true
     Accessible.role: Accessible.Button
     Accessible.name: text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: row.clicked()
+    Keys.onEnterPressed: row.clicked()
 
     background: ControlFace {
         control: row
         bordered: false
     }
 
-    contentItem: Item {
-        SymbolImage {
-            id: symbol
-
-            anchors.verticalCenter: parent.verticalCenter
-            symbol: row.icon.name
-            size: Metrics.symbolSize
-            tint: Theme.colours.accentLabel
-        }
-
-        PlainLabel {
-            anchors.left: symbol.right
-            anchors.leftMargin: Metrics.spacingMedium
-            anchors.right: number.visible ? number.left : parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            text: row.text
-            Accessible.ignored: true
-        }
-
-        Tag {
-            id: number
-
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            text: row.badge
-            visible: row.badge > 0
-        }
+    contentItem: PopoverRowContent {
+        symbol: row.icon.name
+        text: row.text
+        badge: row.badge
     }
 }

@@ -1,5 +1,3 @@
-// qmllint disable type
-
 import QtQuick
 import Tessarine.Apps
 import Tessarine.Browser

@@ -1,4 +1,4 @@
-// qmllint disable unqualified type
+pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tessarine.Browser
