@@ -54,9 +54,9 @@ function(tessarine_test name)
     endforeach()
 endfunction()
 
-# What Qt's QML compiler writes is not ours to mend: no warnings for it. Under sanitizers it writes byte
-# code alone, since compiling a file of C++ for each view would take longer than all else. After
-# qt_add_qml_module.
+# What Qt's QML compiler writes is not ours to mend: no warnings for it. A file of C++ for each view
+# would take longer to compile than all else, nearly all of it for the same headers, so they are
+# compiled as one; and under sanitizers it writes byte code alone. After qt_add_qml_module.
 function(tessarine_generated_qml_code name)
     get_target_property(sources ${name} SOURCES)
     list(FILTER sources INCLUDE REGEX "/qmlcache/")
@@ -64,4 +64,13 @@ function(tessarine_generated_qml_code name)
     if(TESSARINE_SANITIZE)
         set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
     endif()
+
+    list(FILTER sources INCLUDE REGEX "_qml\\.cpp$")
+    set_source_files_properties(${sources} PROPERTIES HEADER_FILE_ONLY ON)
+    list(TRANSFORM sources REPLACE "(.+)" "#include \"\\1\"")
+    list(JOIN sources "\n" includes)
+    set(together ${CMAKE_CURRENT_BINARY_DIR}/${name}_views.cpp)
+    file(CONFIGURE OUTPUT ${together} CONTENT "${includes}\n" @ONLY)
+    set_source_files_properties(${together} PROPERTIES COMPILE_OPTIONS "-w;-g0" SKIP_AUTOGEN ON)
+    target_sources(${name} PRIVATE ${together})
 endfunction()

@@ -2,9 +2,13 @@
 
     screen_reader.py list              every element that shows, a line each: role, TAB, name
     screen_reader.py place ROLE NAME   the middle of the element on the screen: x y
+    screen_reader.py pulse SECONDS     how long answers took: median, longest and second longest
+                                       in milliseconds
 """
 
+import statistics
 import sys
+import time
 
 import pyatspi
 
@@ -30,7 +34,25 @@ def showing():
                 yield element
 
 
+def pulse(seconds):
+    window = next(element for element in showing() if element.getRoleName() == "frame")
+    component = window.queryComponent()
+    print("listening", flush=True)
+    waits = []
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        start = time.monotonic()
+        component.getExtents(pyatspi.DESKTOP_COORDS)  # asked anew each time
+        waits.append((time.monotonic() - start) * 1000)
+        time.sleep(0.002)
+    waits.sort()
+    print(statistics.median(waits), waits[-1], waits[-2])
+
+
 def main():
+    if sys.argv[1] == "pulse":
+        pulse(float(sys.argv[2]))
+        return
     if sys.argv[1] == "list":
         for element in showing():
             print(f"{element.getRoleName()}\t{element.name}".replace("\n", " "))

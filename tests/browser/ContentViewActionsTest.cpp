@@ -1,0 +1,237 @@
+#include "browser/BrowserFixture.h"
+#include "shared/DayKey.h"
+
+#include <QSignalSpy>
+
+namespace tessarine::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Face = ContentView::Face;
+
+class ContentViewActionsTest : public BrowserTest {};
+
+// Deletion and pins
+
+TEST_F(ContentViewActionsTest, OneRowOfAFullListMakesRoomForAnOlderOne) {
+    storeMany(501);
+    open().deleteNotification(idOf(u"Title 7"_qs));
+    EXPECT_EQ(shown().size(), 500);
+    EXPECT_TRUE(shown().contains(u"Title 500"_qs));
+    EXPECT_FALSE(shown().contains(u"Title 7"_qs));
+}
+
+TEST_F(ContentViewActionsTest, DeletingTheChosenAppFallsBackToAll) {
+    store(u"Mail"_qs, u"a"_qs, 1);
+    store(u"Chat"_qs, u"b"_qs, 2);
+    open().setSelectedApp(u"Chat"_qs);
+    view->setGroupMode(GroupMode::app);
+    view->toggleGroup(u"Chat"_qs);
+    view->deleteGroup(u"Chat"_qs);
+    EXPECT_EQ(view->selectedApp(), u"All"_qs);
+    EXPECT_FALSE(view->collapsedGroups().contains(u"Chat"_qs));
+    EXPECT_EQ(shown(), QStringList(u"a"_qs));
+}
+
+TEST_F(ContentViewActionsTest, DeletingADayLeavesTheFilterAndClearsTheSelection) {
+    store(u"Mail"_qs, u"today"_qs, 1);
+    store(u"Mail"_qs, u"before"_qs, 2.0 * 86400);
+    open().setSelectedApp(u"Mail"_qs);
+    view->setGroupMode(GroupMode::date);
+    view->enterSelectionMode();
+    view->toggleSelection(idOf(u"before"_qs));
+    view->deleteGroup(dayKey(system.scheduler.now()));
+    EXPECT_EQ(shown(), QStringList(u"before"_qs));
+    EXPECT_EQ(view->selectedApp(), u"Mail"_qs);
+    EXPECT_EQ(view->selectedCount(), 0);
+    EXPECT_TRUE(view->selectionMode());
+}
+
+TEST_F(ContentViewActionsTest, DeletingEverythingStartsOver) {
+    storeMany(1100);
+    open().loadOlder();
+    view->loadOlder();
+    EXPECT_EQ(view->loadLimit(), 1500);
+    view->setSelectedApp(u"Mail"_qs);
+    view->setGroupMode(GroupMode::app);
+    view->toggleGroup(u"Mail"_qs);
+    view->enterSelectionMode();
+    view->deleteEverything();
+    EXPECT_EQ(view->loadLimit(), 500);
+    EXPECT_EQ(view->selectedApp(), u"All"_qs);
+    EXPECT_TRUE(view->collapsedGroups().isEmpty());
+    EXPECT_FALSE(view->selectionMode());
+    EXPECT_EQ(view->face(), Face::Waiting);
+    EXPECT_EQ(view->hoardTotalCount(), 0);
+}
+
+TEST_F(ContentViewActionsTest, APinChangesTheBadgeAndNotThePlace) {
+    storeMany(3);
+    open().togglePinned(idOf(u"Title 1"_qs));
+    EXPECT_EQ(shown(), QStringList({u"Title 0"_qs, u"Title 1"_qs, u"Title 2"_qs}));
+    EXPECT_TRUE(view->filteredNotifications()[1].pinned);
+    view->togglePinned(idOf(u"Title 1"_qs));
+    EXPECT_FALSE(view->filteredNotifications()[1].pinned);
+}
+
+TEST_F(ContentViewActionsTest, WhatActsOnARowThatIsGoneDoesNothing) {
+    storeMany(2);
+    open();
+    const QUuid stale = idOf(u"Title 1"_qs);
+    reload();
+    view->togglePinned(stale);
+    view->deleteNotification(stale);
+    view->openInApp(stale);
+    EXPECT_FALSE(view->copyToPasteboard(stale));
+    EXPECT_TRUE(view->menuOf(stale).isEmpty());
+    EXPECT_EQ(hoard.totalCount(), 2);
+    EXPECT_FALSE(view->hasInlineBanner());
+}
+
+// Focus and preview
+
+TEST_F(ContentViewActionsTest, AReloadEndsTheFocusAndThePreview) {
+    storeMany(2);
+    open().onSingleTap(idOf(u"Title 1"_qs));
+    view->setShowPreview(true);
+    EXPECT_TRUE(view->isPreviewing());
+    reload();
+    EXPECT_FALSE(view->focusedNotification());
+    EXPECT_FALSE(view->isPreviewing());
+    view->setShowPreview(true); // nothing to show
+    EXPECT_FALSE(view->isPreviewing());
+}
+
+TEST_F(ContentViewActionsTest, ARowThatTheFilterHidesIsNotFocusedThoughItsIdStays) {
+    storeMany(2);
+    open().onSingleTap(idOf(u"Title 1"_qs));
+    view->setSearchText(u"Title 0"_qs);
+    EXPECT_FALSE(view->focusedNotification());
+    view->setSearchText({});
+    ASSERT_TRUE(view->focusedNotification());
+    EXPECT_EQ(view->focusedNotification()->title, u"Title 1"_qs);
+}
+
+TEST_F(ContentViewActionsTest, ThePreviewShowsAMaskedRowInClear) {
+    store(u"Mail"_qs, u"secret"_qs, 1, u"text"_qs);
+    preferences.setGlobalPrivacyMode(true);
+    open().onSingleTap(idOf(u"secret"_qs));
+    view->setShowPreview(true);
+    EXPECT_EQ(view->preview().value(u"title"_qs), u"secret"_qs);
+    EXPECT_EQ(view->preview().value(u"body"_qs), u"text"_qs);
+}
+
+TEST_F(ContentViewActionsTest, ThePreviewsCopyClosesItUnlessThereIsNothingToCopy) {
+    store(u"Mail"_qs, u"title"_qs, 1, u"body"_qs);
+    store(u"Mail"_qs, {}, 2);
+    open().onSingleTap(idOf(u"title"_qs));
+    view->setShowPreview(true);
+    view->copyPreview();
+    EXPECT_EQ(pasteboard, QStringList(u"title\nbody"_qs));
+    EXPECT_FALSE(view->isPreviewing());
+    view->onSingleTap(idOf({}));
+    view->setShowPreview(true);
+    view->copyPreview();
+    EXPECT_EQ(pasteboard.size(), 1);
+    EXPECT_TRUE(view->isPreviewing());
+}
+
+TEST_F(ContentViewActionsTest, CopiesABodyAloneWithoutALeadingLineFeed) {
+    store(u"Mail"_qs, {}, 1, u"body"_qs);
+    open();
+    EXPECT_TRUE(view->copyToPasteboard(idOf({})));
+    EXPECT_EQ(pasteboard, QStringList(u"body"_qs));
+}
+
+// Opening and banners
+
+TEST_F(ContentViewActionsTest, AnAppThatIsNotThereGivesABanner) {
+    store(u"Ghost"_qs, u"boo"_qs, 1);
+    open().onDoubleTap(idOf(u"boo"_qs));
+    ASSERT_TRUE(view->hasInlineBanner());
+    EXPECT_EQ(view->inlineBanner().icon, u"iphone"_qs);
+    EXPECT_TRUE(view->inlineBanner().isWarning());
+    EXPECT_EQ(view->focusedNotification()->title, u"boo"_qs);
+}
+
+TEST_F(ContentViewActionsTest, TheMenusOpenLeavesTheFocus) {
+    storeMany(2);
+    open().onSingleTap(idOf(u"Title 0"_qs));
+    view->openInApp(idOf(u"Title 1"_qs));
+    EXPECT_EQ(view->focusedNotification()->title, u"Title 0"_qs);
+}
+
+TEST_F(ContentViewActionsTest, ADoubleClickInSelectionModeOpensNothing) {
+    storeMany(1);
+    open().enterSelectionMode();
+    view->onDoubleTap(idOf(u"Title 0"_qs));
+    EXPECT_FALSE(view->hasInlineBanner());
+}
+
+TEST_F(ContentViewActionsTest, ABannerGoesAfterFourSeconds) {
+    open().showBanner(deepLinkBanner(u"Mail"_qs));
+    EXPECT_FALSE(view->inlineBanner().isWarning());
+    system.scheduler.advance(3.9);
+    EXPECT_TRUE(view->hasInlineBanner());
+    system.scheduler.advance(0.2);
+    EXPECT_FALSE(view->hasInlineBanner());
+}
+
+TEST_F(ContentViewActionsTest, ASecondBannerStaysForItsOwnFourSeconds) {
+    open().showBanner(deepLinkBanner(u"Mail"_qs));
+    system.scheduler.advance(2);
+    view->showBanner(deepLinkBanner(u"Chat"_qs));
+    system.scheduler.advance(3.9);
+    EXPECT_TRUE(view->hasInlineBanner());
+    system.scheduler.advance(0.2);
+    EXPECT_FALSE(view->hasInlineBanner());
+}
+
+TEST_F(ContentViewActionsTest, ABannerAfterADismissedOneIsNotCutShort) {
+    open().showBanner(deepLinkBanner(u"Mail"_qs));
+    system.scheduler.advance(1);
+    view->dismissBanner();
+    EXPECT_FALSE(view->hasInlineBanner());
+    system.scheduler.advance(1);
+    view->showBanner(deepLinkBanner(u"Chat"_qs));
+    system.scheduler.advance(3.5);
+    EXPECT_TRUE(view->hasInlineBanner());
+}
+
+TEST_F(ContentViewActionsTest, ABannerWhoseViewIsGoneEndsSilently) {
+    open().showBanner(deepLinkBanner(u"Mail"_qs));
+    view.reset();
+    system.scheduler.advance(5);
+}
+
+TEST(Banners, OfUnknownSourcesNameTheirId) {
+    CapturedNotification row;
+    row.appBundleId = u"app_id_17"_qs;
+    row.appName = u"app_id_17"_qs;
+    EXPECT_EQ(notInstalledBanner(row).icon, u"questionmark.app"_qs);
+    EXPECT_EQ(notInstalledBanner(row).title, u"banner.notInstalled.unknownTitle"_qs);
+    row.appBundleId = u"com.example.app_id_"_qs;
+    EXPECT_EQ(notInstalledBanner(row).icon, u"iphone"_qs);
+    EXPECT_EQ(deepLinkBanner(u"Mail"_qs).icon, u"arrow.up.forward.app"_qs);
+}
+
+// Export
+
+TEST_F(ContentViewActionsTest, AnExportGetsTheWholeListWhateverIsShown) {
+    storeMany(5);
+    open().setSearchText(u"Title 3"_qs);
+    const QSignalSpy made(view.get(), &ContentView::exportSheetMade);
+    view->setShowExportSheet(true);
+    view->setShowExportSheet(true); // is open already
+    EXPECT_EQ(made.count(), 1);
+    EXPECT_EQ(exported, listener->notifications());
+    ASSERT_NE(view->exportSheet(), nullptr);
+    EXPECT_EQ(view->exportSheet()->count(), 5);
+    view->exportSheet()->cancel();
+    EXPECT_FALSE(view->showExportSheet());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(view->exportSheet(), nullptr);
+}
+
+} // namespace
+} // namespace tessarine::testing

@@ -1,0 +1,71 @@
+"""The main window, worked from outside: found by a screen reader, moved by pointer and keys."""
+
+import os
+import subprocess
+import sys
+
+from session import wait_until
+
+LAUNCHERS = ["/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher"]
+READER = os.path.join(os.path.dirname(__file__), "screen_reader.py")
+
+
+class MainWindow:
+    """To be made before the program starts, which looks for the accessibility bus then."""
+
+    def __init__(self, session, bus):
+        self.session = session
+        session.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        launcher = next(path for path in LAUNCHERS if os.path.exists(path))
+        session.spawn(launcher, "--launch-immediately", stdout=subprocess.DEVNULL,
+                      stderr=subprocess.DEVNULL)
+        connection = bus.connect()
+        wait_until(lambda: connection.name_has_owner("org.a11y.Bus"), "the accessibility bus")
+        connection.close()
+
+    def start_reader(self, *arguments):
+        return subprocess.Popen([sys.executable, READER, *arguments], text=True,
+                                env=self.session.environment, stdout=subprocess.PIPE,
+                                stderr=subprocess.PIPE)
+
+    def reads(self, *arguments):
+        return self.start_reader(*arguments).communicate(timeout=120)[0]
+
+    def elements(self):
+        """What shows: pairs of role and name."""
+        return {tuple(line.split("\t", 1)) for line in self.reads("list").splitlines()}
+
+    def rows(self):
+        return [name for role, name in self.elements() if role == "list item"]
+
+    def xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *arguments], env=self.session.environment,
+                              capture_output=True, text=True).stdout
+
+    def press(self, *keys, delay=20):
+        self.xdotool("key", "--delay", str(delay), *keys)
+
+    def type(self, text):
+        self.xdotool("type", text)
+
+    def click(self, role, name):
+        place = wait_until(lambda: self.reads("place", role, name).split(), f"{role} {name}")
+        self.xdotool("mousemove", *place, "click", "1")
+
+    def open(self):
+        """By the status panel's menu, as on a desktop without a tray."""
+        def panel():
+            for window in self.session.windows("--onlyvisible", "--class", "tessarine"):
+                geometry = self.xdotool("getwindowgeometry", "--shell", window)
+                height = int(dict(line.split("=") for line in geometry.split())["HEIGHT"])
+                if height <= 60:
+                    return window
+            return None
+
+        self.xdotool("mousemove", "--window", wait_until(panel, "the panel"), "8", "8", "click", "1")
+
+        def opened():
+            self.xdotool("key", "--delay", "150", "Down", "Return")
+            return self.session.visible_main_window()
+
+        wait_until(opened, "the main window")
