@@ -27,29 +27,12 @@ double firstContentY(const QQuickItem& view) {
 
 } // namespace
 
-void KeyboardScroller::setView(QQuickItem* view) {
-    if (view_ == view)
-        return;
-    if (view_)
-        view_->removeEventFilter(this);
-    view_ = view;
-    if (view_)
-        view_->installEventFilter(this);
-    Q_EMIT viewChanged();
-}
-
-bool KeyboardScroller::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != view_ || event->type() != QEvent::KeyPress)
-        return false;
-    return scroll(*static_cast<QKeyEvent*>(event));
-}
-
-bool KeyboardScroller::scroll(const QKeyEvent& event) {
+bool KeyboardScroller::press(const QKeyEvent& event) {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
     const bool backwards = modifiers == Qt::ShiftModifier && event.key() == Qt::Key_Space;
     if (modifiers != Qt::NoModifier && !backwards)
         return false;
-    const double page = std::max(view_->height() - line, line);
+    const double page = std::max(view()->height() - line, line);
     switch (event.key()) {
     case Qt::Key_Up:
         scrollBy(-line);
@@ -67,10 +50,10 @@ bool KeyboardScroller::scroll(const QKeyEvent& event) {
         scrollBy(backwards ? -page : page);
         return true;
     case Qt::Key_Home:
-        scrollTo(firstContentY(*view_));
+        scrollTo(firstContentY(*view()));
         return true;
     case Qt::Key_End:
-        scrollTo(lastContentY(*view_));
+        scrollTo(lastContentY(*view()));
         return true;
     default:
         return false;
@@ -78,12 +61,12 @@ bool KeyboardScroller::scroll(const QKeyEvent& event) {
 }
 
 void KeyboardScroller::scrollBy(double distance) {
-    scrollTo(number(*view_, "contentY") + distance);
+    scrollTo(number(*view(), "contentY") + distance);
 }
 
 void KeyboardScroller::scrollTo(double contentY) {
-    const double last = std::max(lastContentY(*view_), firstContentY(*view_));
-    view_->setProperty("contentY", std::clamp(contentY, firstContentY(*view_), last));
+    const double last = std::max(lastContentY(*view()), firstContentY(*view()));
+    view()->setProperty("contentY", std::clamp(contentY, firstContentY(*view()), last));
 }
 
 } // namespace tessarine

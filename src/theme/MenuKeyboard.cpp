@@ -16,28 +16,11 @@ int currentRow(const QQuickItem& view) {
 
 } // namespace
 
-void MenuKeyboard::setView(QQuickItem* view) {
-    if (view_ == view)
-        return;
-    if (view_)
-        view_->removeEventFilter(this);
-    view_ = view;
-    if (view_)
-        view_->installEventFilter(this);
-    Q_EMIT viewChanged();
-}
-
-bool MenuKeyboard::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != view_ || event->type() != QEvent::KeyPress)
-        return false;
-    return press(*static_cast<QKeyEvent*>(event));
-}
-
 bool MenuKeyboard::press(const QKeyEvent& event) {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
     if (modifiers != Qt::NoModifier && modifiers != Qt::ShiftModifier)
         return false;
-    const int row = currentRow(*view_);
+    const int row = currentRow(*view());
     switch (event.key()) {
     case Qt::Key_Up:
         goTo(row < 0 ? int(texts_.size()) - 1 : row - 1);
@@ -72,7 +55,7 @@ bool MenuKeyboard::search(const QKeyEvent& event) {
     const QString typed = event.text();
     if (typed.isEmpty() || !typed.front().isPrint())
         return false;
-    const int row = typeAhead_.find(typed, event.timestamp(), texts_, currentRow(*view_));
+    const int row = typeAhead_.find(typed, event.timestamp(), texts_, currentRow(*view()));
     if (row >= 0)
         goTo(row);
     return true;
@@ -81,7 +64,7 @@ bool MenuKeyboard::search(const QKeyEvent& event) {
 void MenuKeyboard::goTo(int row) {
     if (texts_.isEmpty())
         return;
-    view_->setProperty("currentIndex", std::clamp(row, 0, int(texts_.size()) - 1));
+    view()->setProperty("currentIndex", std::clamp(row, 0, int(texts_.size()) - 1));
 }
 
 } // namespace tessarine
