@@ -74,9 +74,15 @@ void AppIconView::rebuild() {
     polish();
 }
 
+void AppIconView::itemChange(ItemChange change, const ItemChangeData& data) {
+    QQuickItem::itemChange(change, data);
+    if (change == ItemVisibleHasChanged && data.boolValue)
+        polish();
+}
+
 void AppIconView::updatePolish() {
     AppIconResolver* const icons = resolver();
-    if (hasIcon_ || !icons || startedTask_ == taskId())
+    if (!isVisible() || hasIcon_ || !icons || startedTask_ == taskId())
         return;
     startedTask_ = taskId();
     icons->resolve(bundleId_, appName_, [view = QPointer(this), key = cacheKey()](const QImage&) {

@@ -38,8 +38,8 @@ public:
     QString initials() const;
     QColor placeholderColour() const;
 
-    // Starts over, as a view made anew would.
-    void rebuild();
+    // Starts over, as a view made anew would: for one that goes on to show something else.
+    Q_INVOKABLE void rebuild();
 
 Q_SIGNALS:
     void bundleIdChanged();
@@ -50,6 +50,7 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
     void updatePolish() override;
 
 private:

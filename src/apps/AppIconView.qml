@@ -28,10 +28,11 @@ AppIconViewState {
         color: view.placeholderColour
 
         PlainLabel {
+            objectName: "initials"
             anchors.centerIn: parent
             text: view.initials
             color: "white"
-            font.pixelSize: Math.min(Metrics.textBody, view.height / 2)
+            font.pixelSize: Metrics.textBody
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }

@@ -1,5 +1,6 @@
 #include "apps/EventDate.h"
 
+#include "shared/LocalZone.h"
 #include "shared/ReferenceTime.h"
 #include "shared/Text.h"
 
@@ -48,6 +49,7 @@ std::optional<double> afterNow(const QString& text, const QString& unit, double 
 // The clock time on the day of the given moment. Hours and minutes beyond those of a day run into
 // the days after it. Nothing where the calendar has no such moment.
 std::optional<double> onDayOf(double moment, const QString& hour, const QString& minute) {
+    followLocalZone();
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(status));
     if (U_FAILURE(status))

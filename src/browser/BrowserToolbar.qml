@@ -65,7 +65,7 @@ Item {
         text: toolbar.view.counterText
         font.pixelSize: Metrics.textSmall
         color: Theme.colours.secondaryLabel
-        visible: toolbar.view.hasNotifications
+        visible: toolbar.view.face !== ContentViewState.Loading
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }

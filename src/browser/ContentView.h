@@ -169,7 +169,9 @@ public:
     Q_INVOKABLE void deleteGroup(const QString& key); // whichever of the two the groups are
     Q_INVOKABLE void deleteSelected();
     Q_INVOKABLE void deleteEverything();
-    Q_INVOKABLE QVariantMap menuOf(const QUuid& id) const; // what the context menu of a row says
+    // What the context menu of a row says. Its entries act on the row also when a reload has given
+    // it another id in the meantime.
+    Q_INVOKABLE QVariantMap menuOf(const QUuid& id);
 
     // What stands above the list
 
@@ -245,6 +247,7 @@ private:
     QHash<QString, int>
         changingGroups_; // groups whose rows fade, each with its last toggle's number
     int toggleCount_ = 0;
+    std::optional<CapturedNotification> menuRow_; // of the context menu that was opened last
     bool showExportSheet_ = false;
     QPointer<ExportOptionsSheet> exportSheet_;
     std::optional<InlineBanner> inlineBanner_;

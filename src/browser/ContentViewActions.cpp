@@ -47,7 +47,9 @@ std::optional<CapturedNotification> ContentView::find(const QUuid& id) const {
     const NotificationList& rows = notifications();
     const auto found =
         std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.id == id; });
-    return found == rows.end() ? std::nullopt : std::optional(*found);
+    if (found != rows.end())
+        return *found;
+    return menuRow_ && menuRow_->id == id ? menuRow_ : std::nullopt;
 }
 
 // Selection
@@ -200,10 +202,11 @@ void ContentView::clearFocus() {
 
 // Single rows
 
-QVariantMap ContentView::menuOf(const QUuid& id) const {
+QVariantMap ContentView::menuOf(const QUuid& id) {
     const std::optional<CapturedNotification> row = find(id);
     if (!row)
         return {};
+    menuRow_ = row;
     const QString date = dayTitleFormatter().text(row->timestamp);
     return {
         {QStringLiteral("id"), id},
@@ -276,9 +279,9 @@ void ContentView::deleteSelected() {
 void ContentView::deleteAllFromApp(const QString& appName) {
     hoard().deleteApp(appName);
     refreshList();
-    collapsedGroups_.remove(appName);
     if (selectedApp_ == appName)
         setSelectedApp(everyApp);
+    collapsedGroups_.remove(appName);
     keepKnownSelection();
 }
 

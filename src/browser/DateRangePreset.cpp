@@ -1,5 +1,6 @@
 #include "browser/DateRangePreset.h"
 
+#include "shared/LocalZone.h"
 #include "shared/ReferenceTime.h"
 #include "shared/UserLocale.h"
 
@@ -19,9 +20,10 @@ constexpr double millisecondsPerSecond = 1000.0;
 class Day {
 public:
     explicit Day(double moment)
-        : status_(U_ZERO_ERROR)
-        , calendar_(
-              icu::Calendar::createInstance(icu::Locale(userDateLocale().constData()), status_)) {
+        : status_(U_ZERO_ERROR) {
+        followLocalZone();
+        calendar_.reset(
+            icu::Calendar::createInstance(icu::Locale(userDateLocale().constData()), status_));
         if (U_FAILURE(status_))
             qFatal("The system has no calendar");
         // Where the clock skips midnight the day begins after the gap; where it strikes twice, at

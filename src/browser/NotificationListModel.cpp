@@ -2,6 +2,7 @@
 
 #include "browser/ListDifference.h"
 #include "browser/RowTimeFormatter.h"
+#include "shared/LocalZone.h"
 
 #include <QMetaEnum>
 
@@ -39,7 +40,8 @@ QString spokenText(const ListEntry& row) {
 
 NotificationListModel::NotificationListModel(const Marks& marks, QObject* parent)
     : QAbstractListModel(parent)
-    , marks_(marks) {}
+    , marks_(marks)
+    , zone_(localZoneNumber()) {}
 
 // Takes out what went, from the end so that positions stay valid, puts in what came, from the
 // front, and then tells what changed in the lines that stayed.
@@ -81,10 +83,12 @@ void NotificationListModel::insertLinesAt(const ListEntries& from, std::size_t f
 
 void NotificationListModel::replaceLines(ListEntries entries) {
     const ListEntries before = std::exchange(entries_, std::move(entries));
+    const int zone = localZoneNumber();
+    const bool timesDiffer = std::exchange(zone_, zone) != zone;
     bool sameIds = true;
     for (std::size_t i = 0; i < entries_.size(); ++i) {
         sameIds = sameIds && before[i].notification.id == entries_[i].notification.id;
-        if (!looksTheSame(before[i], entries_[i]))
+        if (timesDiffer || !looksTheSame(before[i], entries_[i]))
             Q_EMIT dataChanged(index(int(i)), index(int(i)));
     }
     if (!sameIds)

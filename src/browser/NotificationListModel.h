@@ -79,6 +79,7 @@ private:
 
     const Marks& marks_;
     ListEntries entries_;
+    int zone_; // the time zone in which the rows' times were last told
 };
 
 } // namespace tessarine

@@ -26,7 +26,10 @@ Sheet {
     idealHeight: 280
     padding: 0
     visible: view.showPreview
-    onAboutToShow: shown = view.preview
+    onAboutToShow: {
+        shown = view.preview;
+        icon.rebuild();
+    }
     onClosed: view.showPreview = false
 
     Item {

@@ -51,6 +51,7 @@ void NotificationRow::doubleClick() {
 void NotificationRow::reveal() {
     revealed_ = true;
     Q_EMIT maskedChanged();
+    Q_EMIT revealed();
 }
 
 } // namespace tessarine

@@ -48,6 +48,7 @@ public:
 
 Q_SIGNALS:
     void maskedChanged();
+    void revealed(); // by a click; masked has changed before
     void singleTap(const QUuid& id);
     void doubleTap(const QUuid& id);
     void toggleSelection(const QUuid& id);

@@ -36,6 +36,7 @@ Item {
     signal menuRequested(uuid id)
 
     property bool hasArrived: !isArriving
+    property real clarity: 1 // of the texts, while they come out from under the mask
 
     opacity: hasArrived && !isLeaving ? 1 : 0
     enabled: !isLeaving
@@ -49,6 +50,8 @@ Item {
     Accessible.onPressAction: reactions.click()
 
     Component.onCompleted: hasArrived = true
+    // A reload is a new list, and its rows know every icon that was found since.
+    onNotificationIdChanged: icon.rebuild()
 
     Behavior on opacity {
         NumberAnimation {
@@ -57,12 +60,24 @@ Item {
         }
     }
 
+    NumberAnimation {
+        id: clearing
+
+        target: row
+        property: "clarity"
+        from: 0
+        to: 1
+        duration: Metrics.swift
+        easing.type: Easing.InQuad
+    }
+
     NotificationRowState {
         id: reactions
 
         notificationId: row.notificationId
         isPrivate: row.isPrivate
         selectionMode: row.selectionMode
+        onRevealed: clearing.restart()
         onSingleTap: id => row.singleTap(id)
         onDoubleTap: id => row.doubleTap(id)
         onToggleSelection: id => row.toggleSelection(id)
@@ -173,7 +188,8 @@ Item {
             id: mask
 
             y: topLine.height + Metrics.spacingTiny
-            visible: row.masked
+            opacity: row.masked ? 1 : 1 - row.clarity
+            visible: opacity > 0
         }
 
         PlainLabel {
@@ -183,6 +199,7 @@ Item {
             width: parent.width
             text: row.title
             visible: row.showsTitle
+            opacity: row.clarity
             font.pixelSize: Metrics.textHeadline
             font.weight: Font.Medium
             maximumLineCount: 2
@@ -197,6 +214,7 @@ Item {
             width: parent.width
             text: row.body
             visible: row.showsBody
+            opacity: row.clarity
             color: Theme.colours.secondaryLabel
             maximumLineCount: 3
             wrapMode: Text.Wrap

@@ -1,6 +1,9 @@
 #include "browser/RowTimeFormatter.h"
 
+#include "shared/LocalZone.h"
 #include "shared/UserLocale.h"
+
+#include <utility>
 
 namespace tessarine {
 
@@ -20,24 +23,32 @@ DateFormatter formatterOf(RowTimeFormatter::Style style, const QByteArray& local
     return DateFormatter::withStyles(Part::full, Part::none, locale, timeZone);
 }
 
+// Made anew when the user's clock is set to another zone.
+template <RowTimeFormatter::Style style>
+const RowTimeFormatter& userFormatter() {
+    static int zone = localZoneNumber();
+    static RowTimeFormatter formatter(style, userDateLocale());
+    const int zoneNow = localZoneNumber();
+    if (std::exchange(zone, zoneNow) != zoneNow)
+        formatter = RowTimeFormatter(style, userDateLocale());
+    return formatter;
+}
+
 } // namespace
 
 RowTimeFormatter::RowTimeFormatter(Style style, const QByteArray& locale, const QString& timeZone)
     : format_(formatterOf(style, locale, timeZone)) {}
 
 const RowTimeFormatter& rowDateTimeFormatter() {
-    static const RowTimeFormatter formatter(RowTimeFormatter::Style::dateAndTime, userDateLocale());
-    return formatter;
+    return userFormatter<RowTimeFormatter::Style::dateAndTime>();
 }
 
 const RowTimeFormatter& rowTimeFormatter() {
-    static const RowTimeFormatter formatter(RowTimeFormatter::Style::timeOnly, userDateLocale());
-    return formatter;
+    return userFormatter<RowTimeFormatter::Style::timeOnly>();
 }
 
 const RowTimeFormatter& dayTitleFormatter() {
-    static const RowTimeFormatter formatter(RowTimeFormatter::Style::fullDate, userDateLocale());
-    return formatter;
+    return userFormatter<RowTimeFormatter::Style::fullDate>();
 }
 
 } // namespace tessarine

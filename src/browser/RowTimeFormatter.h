@@ -21,7 +21,7 @@ private:
     DateFormatter format_;
 };
 
-// In the user's locale and time zone, made at their first use.
+// In the user's locale and time zone as they are now; good until the next call.
 const RowTimeFormatter& rowDateTimeFormatter();
 const RowTimeFormatter& rowTimeFormatter();
 const RowTimeFormatter& dayTitleFormatter();

@@ -55,7 +55,7 @@ Item {
         SymbolImage {
             anchors.verticalCenter: parent.verticalCenter
             symbol: "eye"
-            size: Metrics.smallSymbolSize
+            size: Metrics.textTiny
             tint: Theme.colours.secondaryLabel
         }
 

@@ -24,6 +24,15 @@ Rectangle {
     color: Theme.colours.windowBackground
     Accessible.role: Accessible.Heading
     Accessible.name: header.title
+    onHeaderChanged: icon.rebuild()
+
+    // A pinned header lies over rows, and what happens on it isn't for them.
+    HoverHandler { blocking: true }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: section.selectionMode ? Qt.LeftButton | Qt.RightButton : Qt.LeftButton
+    }
 
     TapHandler {
         acceptedButtons: Qt.RightButton

@@ -6,7 +6,6 @@
 #include "theme/Fonts.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace tessarine {
 
@@ -43,14 +42,6 @@ QFont monospacedSystemFont(double size) {
     QFont font = monospacedFont();
     font.setPointSizeF(size);
     return font;
-}
-
-// A value with one decimal, rounded as printf does in every locale.
-QString percentage(double value) {
-    char buffer[32];
-    const auto end =
-        std::to_chars(std::begin(buffer), std::end(buffer), value, std::chars_format::fixed, 1).ptr;
-    return QString::fromLatin1(buffer, end - buffer) + u'%';
 }
 
 void finishPage(ReportCanvas& canvas, int number) {
@@ -126,7 +117,7 @@ private:
             canvas_.drawText(tallies[i].appName, font, cellColour, appX, top, 301.38);
             canvas_.drawText(QString::number(tallies[i].count), font, cellColour, countX, top,
                              88.81);
-            canvas_.drawText(percentage(share), font, cellColour, shareX, top, 88.81);
+            canvas_.drawText(fixedText(share, 1) + u'%', font, cellColour, shareX, top, 88.81);
             cursor += rowHeight;
         }
     }

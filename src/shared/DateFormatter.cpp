@@ -1,5 +1,6 @@
 #include "shared/DateFormatter.h"
 
+#include "shared/LocalZone.h"
 #include "shared/ReferenceTime.h"
 
 #include <unicode/calendar.h>
@@ -55,6 +56,7 @@ struct DateFormatter::Format {
 
 DateFormatter DateFormatter::withPattern(const QString& pattern, const QByteArray& locale,
                                          const QString& timeZone) {
+    followLocalZone();
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::DateFormat> format = std::make_unique<icu::SimpleDateFormat>(
         icuText(pattern), icu::Locale(locale.constData()), status);
@@ -65,6 +67,7 @@ DateFormatter DateFormatter::withPattern(const QString& pattern, const QByteArra
 
 DateFormatter DateFormatter::withStyles(Style date, Style time, const QByteArray& locale,
                                         const QString& timeZone) {
+    followLocalZone();
     std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
         icuStyle(date), icuStyle(time), icu::Locale(locale.constData())));
     return DateFormatter(std::make_unique<Format>(std::move(format), timeZone));

@@ -14,7 +14,7 @@ public:
     enum class Style { none, medium, full };
 
     // A Unicode date pattern ("yyyy-MM-dd"). A locale by its ICU name ("de_DE"), a time zone by
-    // its Olson name; without one, the user's.
+    // its Olson name; without one, that which the user's clock shows as the formatter is made.
     static DateFormatter withPattern(const QString& pattern, const QByteArray& locale,
                                      const QString& timeZone = {});
 

@@ -50,6 +50,14 @@ QString decimalText(double value) {
     return text;
 }
 
+QString fixedText(double value, int decimals) {
+    char buffer[400]; // the largest double has 309 digits before the point
+    const auto end = std::to_chars(std::begin(buffer), std::end(buffer), value,
+                                   std::chars_format::fixed, decimals)
+                         .ptr;
+    return QString::fromLatin1(buffer, end - buffer);
+}
+
 qsizetype characterCount(QStringView text) {
     if (isSimple(text))
         return text.size();

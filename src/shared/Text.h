@@ -9,6 +9,10 @@ namespace tessarine {
 // "778912345.5". From 2^54 on, and below 0.0001, with an exponent; "inf", "-inf" and "nan".
 QString decimalText(double value);
 
+// A decimal with so many digits after the point, rounded as printf rounds: what lies exactly in the
+// middle goes to the even digit. Up to 80 decimals.
+QString fixedText(double value, int decimals);
+
 // How many characters a reader sees: grapheme clusters by ICU's rules ("😀🇮🇹" has two).
 qsizetype characterCount(QStringView text);
 

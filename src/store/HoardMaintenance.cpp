@@ -24,11 +24,13 @@ std::optional<double> positive(double timestamp) {
 HoardStats HoardStore::stats() {
     HoardStats stats;
     queue_.sync([&] {
-        SqliteStatement counts(db_, selectCounts);
-        if (counts.stepsToRow()) {
-            stats.totalCount = counts.int64(0);
-            stats.pinnedCount = counts.int64(1);
-            stats.distinctAppsCount = counts.int64(2);
+        {
+            SqliteStatement counts(db_, selectCounts);
+            if (counts.stepsToRow()) {
+                stats.totalCount = counts.int64(0);
+                stats.pinnedCount = counts.int64(1);
+                stats.distinctAppsCount = counts.int64(2);
+            }
         }
         SqliteStatement span(db_, selectSpan);
         if (span.stepsToRow()) {

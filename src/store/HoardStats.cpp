@@ -1,5 +1,7 @@
 #include "store/HoardStats.h"
 
+#include "shared/Text.h"
+
 namespace tessarine {
 
 namespace {
@@ -13,7 +15,7 @@ constexpr qint64 gigabyte = 1024 * megabyte;
 QString HoardStats::formattedSize() const {
     const auto in = [this](qint64 unit, int decimals, QStringView name) {
         const double amount = static_cast<double>(fileSizeBytes) / static_cast<double>(unit);
-        return QString::number(amount, 'f', decimals) + name.toString();
+        return fixedText(amount, decimals) + name.toString();
     };
     if (fileSizeBytes < kilobyte)
         return in(1, 0, u" B");

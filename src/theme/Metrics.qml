@@ -45,6 +45,7 @@ QtObject {
 
     // Times
     readonly property int quick: 100
+    readonly property int swift: 150
     readonly property int gentle: 200
     readonly property int tipDelay: 700
 }

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <set>
+#include <utility>
 
 namespace tessarine {
 namespace {
@@ -48,6 +50,23 @@ TEST(PlaceholderColor, HasEightColours) {
     for (char16_t sum = 8; sum < 24; ++sum)
         colours.insert(placeholderColor(QString(QChar(sum))).rgb());
     EXPECT_EQ(colours.size(), 8U);
+}
+
+// Degrees on the colour circle, by the names of the colours.
+TEST(PlaceholderColor, HasBluePurplePinkOrangeGreenTealIndigoCyanInThisOrder) {
+    constexpr std::array<std::pair<int, int>, 8> hues{{{205, 230},
+                                                       {270, 300},
+                                                       {320, 350},
+                                                       {20, 40},
+                                                       {100, 150},
+                                                       {170, 185},
+                                                       {235, 260},
+                                                       {186, 204}}};
+    for (char16_t i = 0; i < 8; ++i) {
+        const int hue = placeholderColor(QString(QChar(char16_t(8 + i)))).hue();
+        EXPECT_GE(hue, hues[i].first) << int(i);
+        EXPECT_LE(hue, hues[i].second) << int(i);
+    }
 }
 
 } // namespace

@@ -154,6 +154,44 @@ TEST_F(ContentViewActionsTest, AnAppThatIsNotThereGivesABanner) {
     EXPECT_EQ(view->focusedNotification()->title, u"boo"_qs);
 }
 
+TEST_F(ContentViewActionsTest, AnAppThatIsThereOpensWithoutABanner) {
+    system.workspace.installed[u"com.example.Mail"_qs] = u"/Applications/Mail.app"_qs;
+    store(u"Mail"_qs, u"hello"_qs, 1);
+    open().onDoubleTap(idOf(u"hello"_qs));
+    EXPECT_EQ(system.workspace.openedApplications, QStringList(u"/Applications/Mail.app"_qs));
+    EXPECT_FALSE(view->hasInlineBanner());
+}
+
+TEST_F(ContentViewActionsTest, AnAppThatIsShownThePlaceGivesAnInfoBanner) {
+    system.workspace.installed[u"com.apple.iCal"_qs] = u"/Applications/Calendar.app"_qs;
+    CapturedNotification row;
+    row.noteId = 1;
+    row.appBundleId = u"com.apple.iCal"_qs;
+    row.appName = u"Calendar"_qs;
+    row.title = u"Dentist"_qs;
+    row.timestamp = system.scheduler.now();
+    ASSERT_TRUE(hoard.insert(row));
+    open().onDoubleTap(idOf(u"Dentist"_qs));
+    EXPECT_EQ(system.workspace.openedURLs.size(), 1);
+    ASSERT_TRUE(view->hasInlineBanner());
+    EXPECT_FALSE(view->inlineBanner().isWarning());
+    EXPECT_EQ(view->inlineBanner().title, deepLinkBanner(u"Calendar"_qs).title);
+}
+
+TEST_F(ContentViewActionsTest, AnOpenMenuActsOnItsRowThroughAReload) {
+    storeMany(3);
+    open();
+    const QUuid chosen = idOf(u"Title 1"_qs);
+    EXPECT_FALSE(view->menuOf(chosen).isEmpty());
+    reload();
+    view->togglePinned(chosen);
+    EXPECT_TRUE(view->filteredNotifications()[1].pinned);
+    EXPECT_TRUE(view->copyToPasteboard(chosen));
+    EXPECT_EQ(pasteboard, QStringList(u"Title 1"_qs));
+    view->deleteNotification(chosen);
+    EXPECT_EQ(shown(), QStringList({u"Title 0"_qs, u"Title 2"_qs}));
+}
+
 TEST_F(ContentViewActionsTest, TheMenusOpenLeavesTheFocus) {
     storeMany(2);
     open().onSingleTap(idOf(u"Title 0"_qs));

@@ -97,6 +97,28 @@ TEST_F(ContentViewSelectionTest, PresetsAddUpWithinTheFilterAndCloseThePopover) 
     EXPECT_EQ(view->selectedCount(), 2);
 }
 
+TEST_F(ContentViewSelectionTest, TheLastHalfSecondOfADayIsInNoPresetOfTheTwoDays) {
+    const double midnight = *startOfDay(dayKey(system.scheduler.now()));
+    store(u"Chat"_qs, u"late"_qs, system.scheduler.now() - (midnight - 0.5));
+    reload();
+    view->setSelectedApp(u"Chat"_qs);
+    view->onSelectPreset(0); // today
+    view->onSelectPreset(1); // yesterday
+    EXPECT_EQ(view->selectedCount(), 0);
+    view->onSelectPreset(2); // the last seven days
+    EXPECT_EQ(view->selectedCount(), 1);
+}
+
+TEST_F(ContentViewSelectionTest, APresetWithoutALoadedRowSelectsNothingAndCloses) {
+    store(u"Chat"_qs, u"yesterday"_qs, 86400);
+    storeMany(500, u"News"_qs); // newer, and as many as are loaded
+    reload();
+    view->setShowDatePickerPopover(true);
+    view->onSelectPreset(1);
+    EXPECT_FALSE(view->showDatePickerPopover());
+    EXPECT_EQ(view->selectedCount(), 0);
+}
+
 TEST_F(ContentViewSelectionTest, RangesIncludeBothEnds) {
     const double now = system.scheduler.now();
     view->selectRange(now - 4, now - 2);
@@ -119,14 +141,6 @@ TEST_F(ContentViewSelectionTest, AGroupIsSelectedAndDeselectedWhole) {
 TEST_F(ContentViewSelectionTest, TheDaysOnOfferStayEmptyWithoutAText) {
     EXPECT_TRUE(view->property("hasDays").toBool());
     EXPECT_TRUE(view->property("popoverMonths").toList().isEmpty());
-}
-
-TEST_F(ContentViewSelectionTest, TheTitleOfDeleteAllCountsTheLoadedRows) {
-    storeMany(1000);
-    reload();
-    EXPECT_EQ(listener->notifications().size(), 500U);
-    view->deleteEverything();
-    EXPECT_EQ(hoard.totalCount(), 0);
 }
 
 } // namespace

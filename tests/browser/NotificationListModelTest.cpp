@@ -1,6 +1,7 @@
 #include "browser/NotificationListModel.h"
 
 #include "support/Printers.h"
+#include "support/TimeZoneScope.h"
 
 #include <QAbstractItemModelTester>
 #include <QMetaEnum>
@@ -332,6 +333,21 @@ TEST_P(RandomListsTest, AreToldSoThatAViewEndsWithTheListItself) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomListsTest, ::testing::Range(1U, 9U));
+
+TEST_F(ModelTest, TellsOfEveryRowAfterAChangeOfTheTimeZone) {
+    const testing::TimeZoneScope rome("Europe/Rome");
+    setRows(rows({3, 2, 1}));
+    setRows(rows({3, 2, 1}));
+    changed_.clear();
+    const QString before = at(1, Role::TimeText).toString();
+    const testing::TimeZoneScope tokyo("Asia/Tokyo");
+    setRows(rows({3, 2, 1}));
+    int whole = 0;
+    for (const QList<QVariant>& change : changed_)
+        whole += change[2].value<QList<int>>().isEmpty();
+    EXPECT_EQ(whole, 3);
+    EXPECT_NE(at(1, Role::TimeText).toString(), before);
+}
 
 } // namespace
 } // namespace tessarine

@@ -1,6 +1,7 @@
 #include "browser/RowTimeFormatter.h"
 
 #include "support/Printers.h"
+#include "support/TimeZoneScope.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +12,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using Style = RowTimeFormatter::Style;
+using testing::TimeZoneScope;
 
 // 2025-11-16 15:33:20 UTC, by date(1) of 785000000 + 978307200.
 constexpr double afternoon = 785000000.0;
@@ -31,6 +33,20 @@ TEST(RowTime, IsInTheTimeZone) {
               u"00:33:20"_qs);
     EXPECT_EQ(RowTimeFormatter(Style::dateAndTime, "de_DE", u"Asia/Tokyo"_qs).text(afternoon),
               u"17.11.2025, 00:33:20"_qs);
+}
+
+TEST(RowTime, FollowsTheUsersClockToAnotherZone) {
+    const TimeZoneScope rome("Europe/Rome");
+    EXPECT_TRUE(rowTimeFormatter().text(afternoon).contains(u":33:20"_qs));
+    const QString inRome = rowDateTimeFormatter().text(afternoon);
+    const QString dayInRome = dayTitleFormatter().text(afternoon);
+    {
+        const TimeZoneScope tokyo("Asia/Tokyo");
+        EXPECT_NE(rowDateTimeFormatter().text(afternoon), inRome);
+        EXPECT_NE(dayTitleFormatter().text(afternoon), dayInRome); // the next day there
+    }
+    EXPECT_EQ(rowDateTimeFormatter().text(afternoon), inRome);
+    EXPECT_EQ(dayTitleFormatter().text(afternoon), dayInRome);
 }
 
 TEST(RowTime, DropsTheFractionOfASecond) {

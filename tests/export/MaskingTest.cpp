@@ -35,6 +35,7 @@ TEST_F(MaskingTest, LeavesWhatIsNotPrivate) {
 TEST_F(MaskingTest, HidesTitleAndBodyOfAPrivateApp) {
     preferences.setPrivacyApps({u"com.example.mail"_qs});
     EXPECT_EQ(csvRow(false), "Mail;com.example.mail;[hidden];[hidden]");
+    EXPECT_EQ(textLines(false), "[Mail]\n  [hidden]");
 }
 
 TEST_F(MaskingTest, HidesEveryAppInPrivacyMode) {

@@ -151,6 +151,17 @@ TEST(StoredUtf8, KeepsThePairAfterALoneHighHalf) {
     EXPECT_EQ(storedUtf8(units({0xD83D, 0xD83D, 0xDE00})), replacement + "\xF0\x9F\x98\x80");
 }
 
+// As printf("%.1f") and printf("%.2f") write them.
+TEST(FixedText, RoundsTheMiddleToTheEvenDigit) {
+    EXPECT_EQ(fixedText(1.25, 1), u"1.2"_qs);
+    EXPECT_EQ(fixedText(2.25, 1), u"2.2"_qs);
+    EXPECT_EQ(fixedText(1.75, 1), u"1.8"_qs);
+    EXPECT_EQ(fixedText(1.125, 2), u"1.12"_qs);
+    EXPECT_EQ(fixedText(0.5, 0), u"0"_qs);
+    EXPECT_EQ(fixedText(-3, 0), u"-3"_qs);
+    EXPECT_EQ(fixedText(1e308, 2).size(), 309 + 3);
+}
+
 TEST(StoredUtf8, KeepsANul) {
     EXPECT_EQ(storedUtf8(units({u'a', 0, u'b'})), QByteArray("a\0b", 3));
 }

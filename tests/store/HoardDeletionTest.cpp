@@ -1,3 +1,4 @@
+#include "shared/DayKey.h"
 #include "store/HoardFixture.h"
 #include "store/SqlTrace.h"
 #include "support/TimeZoneScope.h"
@@ -247,6 +248,23 @@ TEST_F(HoardDeletion, LeavesRowsWithoutATime) {
     store->deleteDay(u"2001-01-01"_qs);
     EXPECT_EQ(store->deleteOlderThan(1), 0);
     EXPECT_THAT(keys(), ElementsAre(1));
+}
+
+TEST_F(HoardDeletion, GivesTheCountOfTheChangeBeforeWhenItFails) {
+    const double now = scheduler.now();
+    for (const qint64 key : {1, 2})
+        ASSERT_TRUE(store->insert(capture(key, now - 9 * 86400.0)));
+    ASSERT_TRUE(store->insert(capture(3, now - 3 * 86400.0)));
+    EXPECT_EQ(store->deleteOlderThan(8), 2);
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(hoardPath().toUtf8().constData(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_EQ(store->deleteOlderThan(1), 2);
+    store->deleteOtpOlderThan(1);
+    store->deleteDay(dayKey(now - 3 * 86400.0));
+    sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close(other);
+    EXPECT_THAT(keys(), ElementsAre(3));
 }
 
 TEST_F(HoardDeletion, IsSilentWhileAnotherProgramWrites) {

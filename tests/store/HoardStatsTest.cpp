@@ -32,6 +32,8 @@ INSTANTIATE_TEST_SUITE_P(
                       Size{"TheLastInKilobytes", 1048575, "1024.0 KB"},
                       Size{"TheFirstInMegabytes", 1048576, "1.00 MB"},
                       Size{"SomeMegabytes", 12635341, "12.05 MB"},
+                      Size{"TheMiddleOfTwoTenths", 1280, "1.2 KB"},
+                      Size{"TheMiddleOfTwoHundredths", 1179648, "1.12 MB"},
                       Size{"TheLastInMegabytes", 1073741823, "1024.00 MB"},
                       Size{"TheFirstInGigabytes", 1073741824, "1.00 GB"},
                       Size{"ManyGigabytes", Q_INT64_C(5497558138880), "5120.00 GB"},

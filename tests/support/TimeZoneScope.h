@@ -3,21 +3,19 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-#include <unicode/timezone.h>
-
 #include <ctime>
 
 namespace tessarine::testing {
 
-// Makes a time zone that of the process, for the length of a scope. The libraries that keep the
-// zone they have found once are made to look again.
+// Makes a time zone that of the process, for the length of a scope, as a user would: ICU, which
+// keeps the zone that it has found once, isn't told.
 class TimeZoneScope {
 public:
     explicit TimeZoneScope(const char* zone)
         : before_(qgetenv("TZ"))
         , wasSet_(qEnvironmentVariableIsSet("TZ")) {
         qputenv("TZ", zone);
-        lookAgain();
+        tzset();
     }
     TimeZoneScope(const TimeZoneScope&) = delete;
     TimeZoneScope& operator=(const TimeZoneScope&) = delete;
@@ -26,15 +24,10 @@ public:
             qputenv("TZ", before_);
         else
             qunsetenv("TZ");
-        lookAgain();
+        tzset();
     }
 
 private:
-    static void lookAgain() {
-        tzset();
-        icu::TimeZone::adoptDefault(icu::TimeZone::detectHostTimeZone());
-    }
-
     QByteArray before_;
     bool wasSet_;
 };

@@ -81,6 +81,25 @@ TEST_F(AppIconViewTest, AsksForNothingBeforeItIsShown) {
     EXPECT_TRUE(resolver->cache().isEmpty());
 }
 
+TEST_F(AppIconViewTest, AsksForNothingWhileItIsHiddenItself) {
+    AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
+    view->setVisible(false);
+    frame();
+    EXPECT_TRUE(resolver->cache().isEmpty());
+    view->setVisible(true);
+    frame();
+    EXPECT_TRUE(view->hasIcon());
+}
+
+TEST_F(AppIconViewTest, HasATileOfRadius7WithTextOf12Points) {
+    const AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
+    const QQuickItem* tile = view->findChild<QQuickItem*>(u"placeholder"_qs);
+    EXPECT_EQ(view->property("tileRadius"), 7);
+    EXPECT_EQ(
+        tile->findChild<QQuickItem*>(u"initials"_qs)->property("font").value<QFont>().pixelSize(),
+        12);
+}
+
 TEST_F(AppIconViewTest, LeavesTheSecondOfTwoNewRowsWithItsPlaceholderUntilItIsRebuilt) {
     const AppIconView* first = add(u"com.example.foo"_qs, u"Foo"_qs);
     AppIconView* second = add(u"com.example.foo"_qs, u"Foo"_qs, 40);
@@ -143,20 +162,24 @@ TEST_F(AppIconViewTest, TakesNamesThatNoAddressCouldHold) {
 }
 
 TEST_F(AppIconViewTest, ShowsIconsInTheList) {
-    NotificationList list = numbered(3);
-    for (CapturedNotification& notification : list)
-        notification.appBundleId = u"com.example.foo"_qs;
+    const auto reading = [] { // as a reload gives it: the same rows under other ids
+        NotificationList list = numbered(3);
+        for (CapturedNotification& notification : list)
+            notification.appBundleId = u"com.example.foo"_qs;
+        return list;
+    };
     makeWindow();
-    publish(list);
+    publish(reading());
     window->window()->resize(720, 520);
     show();
     window->window()->grabWindow();
     system.scheduler.settle();
-    publish({});
-    publish(list);
+    publish(reading());
     const QImage picture = window->window()->grabWindow();
-    const QPoint middle = row(u"Title 1"_qs)->mapToScene(QPointF(36, 24)).toPoint();
-    EXPECT_EQ(picture.pixelColor(middle), QColor(Qt::red));
+    for (const QString& title : {u"Title 1"_qs, u"Title 2"_qs, u"Title 3"_qs}) {
+        const QPoint middle = row(title)->mapToScene(QPointF(36, 24)).toPoint();
+        EXPECT_EQ(picture.pixelColor(middle), QColor(Qt::red)) << title.toStdString();
+    }
 }
 
 } // namespace

@@ -158,6 +158,31 @@ TEST_F(GroupsTest, ThePinnedHeaderClosesItsGroup) {
     EXPECT_EQ(lines(), 42);
 }
 
+TEST_F(GroupsTest, ThePinnedHeaderHidesTheRowsBelowItFromThePointer) {
+    preferences.setGlobalPrivacyMode(true);
+    scrollTo(300);
+    QQuickItem& pinned = item(u"pinnedHeader"_qs);
+    const QPointF place(pinned.width() / 2, pinned.height() / 2);
+    clickAt(pinned, place); // over a masked row, that would be revealed, and then focused
+    clickAt(pinned, place);
+    EXPECT_FALSE(view().focusedNotification());
+    for (const QQuickItem* line : itemsInSight())
+        EXPECT_NE(line->property("masked"), QVariant(false));
+    view().enterSelectionMode();
+    draw();
+    clickAt(pinned, place);
+    clickAt(pinned, place, Qt::RightButton);
+    EXPECT_EQ(view().selectedCount(), 0);
+    EXPECT_FALSE(isShown(u"rowMenu"_qs));
+}
+
+TEST_F(GroupsTest, TheDateGroupsLookForNoIconsOfTheirOwn) {
+    view().setGroupMode(GroupMode::date);
+    draw();
+    for (const AppIconView* icon : window->window()->contentItem()->findChildren<AppIconView*>())
+        EXPECT_TRUE(icon->isVisible() || !icon->hasIcon());
+}
+
 TEST_F(GroupsTest, AHeadersMenuDeletesTheGroup) {
     click(*header(u"Alpha"_qs), Qt::RightButton);
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"groupMenu"_qs); }));

@@ -100,9 +100,11 @@ TEST_F(PreviewTest, WithoutATextItSaysSoAndCopyStays) {
 }
 
 TEST_F(PreviewTest, OpenStartsTheAppAndClosesWithoutABanner) {
+    system.workspace.installed[u"com.example.mail"_qs] = u"/Applications/Mail.app"_qs;
     openOn(u"Title 3"_qs);
     click(item(u"openPreviewed"_qs));
     EXPECT_TRUE(closes());
+    EXPECT_EQ(system.workspace.openedApplications, QStringList(u"/Applications/Mail.app"_qs));
     EXPECT_FALSE(view().hasInlineBanner());
 }
 

@@ -129,6 +129,29 @@ TEST_F(RowReactionsTest, AClickRevealsTheNextOneFocuses) {
     EXPECT_TRUE(isFocused(u"Title 3"_qs));
 }
 
+TEST_F(RowReactionsTest, WhatIsRevealedComesOutByAndBy) {
+    preferences.setGlobalPrivacyMode(true);
+    draw();
+    QQuickItem& masked = rowOf(u"Title 3"_qs);
+    EXPECT_EQ(masked.property("clarity"), 1);
+    click(masked);
+    EXPECT_LT(masked.property("clarity").toDouble(), 1);
+    EXPECT_TRUE(turnsUntil([&] { return masked.property("clarity").toDouble() == 1; }));
+}
+
+TEST_F(RowReactionsTest, APinnedRowKeepsItsBadgeUnderTheMask) {
+    view().togglePinned(view().lines()->entries()[2].notification.id);
+    preferences.setGlobalPrivacyMode(true);
+    draw();
+    QStringList badges;
+    for (const QQuickItem* badge : rowOf(u"Title 3"_qs).findChildren<QQuickItem*>()) {
+        if (badge->isVisible() && badge->property("symbol").isValid() &&
+            badge->property("padding").isValid())
+            badges << badge->property("symbol").toString();
+    }
+    EXPECT_EQ(badges, QStringList({u"lock.fill"_qs, u"pin.fill"_qs}));
+}
+
 TEST_F(RowReactionsTest, ADoubleClickOnAMaskedRowRevealsAndOpensNothing) {
     preferences.setGlobalPrivacyMode(true);
     draw();
@@ -225,11 +248,12 @@ TEST_F(RowReactionsTest, ThereIsNoMenuInSelectionMode) {
     EXPECT_FALSE(isShown(u"rowMenu"_qs));
 }
 
-TEST_F(RowReactionsTest, ACaptureWhileTheMenuIsOpenMakesItsEntriesHarmless) {
+TEST_F(RowReactionsTest, AMenuActsOnItsRowThoughACaptureCameWhileItWasOpen) {
     openMenu(u"Title 2"_qs);
     reload();
     choose(u"Delete This Notification"_qs);
-    EXPECT_EQ(hoard.totalCount(), 5);
+    EXPECT_EQ(hoard.totalCount(), 4);
+    EXPECT_EQ(row(u"Title 2"_qs), nullptr);
 }
 
 } // namespace

@@ -134,6 +134,19 @@ TEST_F(SelectionBarTest, DeleteAllAsksAndThenEmptiesTheHoard) {
     EXPECT_EQ(view().face(), ContentView::Face::Waiting);
 }
 
+TEST_F(SelectionBarTest, DeleteAllSpeaksOfTheLoadedRows) {
+    for (CapturedNotification& row : numbered(600, 100)) {
+        row.noteId = row.dbId;
+        ASSERT_TRUE(hoard.insert(row));
+    }
+    reload();
+    draw();
+    click(item(u"deleteAll"_qs));
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"deleteAllConfirm"_qs); }));
+    draw();
+    EXPECT_TRUE(textsInWindow(*window).contains(u"Delete all notifications? (500 loaded)"_qs));
+}
+
 TEST_F(SelectionBarTest, ACaptureInTheMiddleLeavesTheCountAndDeletesNothing) {
     click(*row(u"Title 9"_qs));
     reload();

@@ -106,6 +106,18 @@ TEST_F(ToolbarTest, AnotherListBeginsAtItsTop) {
     EXPECT_TRUE(turnsUntil([&] { return row(u"Title 1"_qs) != nullptr; }));
 }
 
+TEST_F(ToolbarTest, TheCounterStandsOverAnEmptyListToo) {
+    publish({}); // a reading that failed
+    draw();
+    EXPECT_TRUE(isShown(u"counter"_qs));
+    EXPECT_EQ(counter(), u"0 of 6"_qs);
+    hoard.deleteAll();
+    publish(numbered(1));
+    publish({});
+    draw();
+    EXPECT_EQ(counter(), u"0 notifications"_qs);
+}
+
 // Older rows
 
 TEST_F(ToolbarTest, OlderRowsAreLoadedFromTheEndOfTheList) {
@@ -120,6 +132,10 @@ TEST_F(ToolbarTest, OlderRowsAreLoadedFromTheEndOfTheList) {
     reload();
     draw();
     EXPECT_EQ(counter(), u"500 of 526"_qs);
+    view().setSearchText(u"Older 1"_qs); // 1, 10 to 19 and 100 to 199 of those loaded
+    EXPECT_EQ(counter(), u"111 of 526"_qs);
+    view().setSearchText({});
+    draw();
     list().forceActiveFocus();
     press(Qt::Key_End);
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"loadOlder"_qs); }));
