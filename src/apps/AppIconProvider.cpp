@@ -43,7 +43,7 @@ QImage AppIconProvider::requestImage(const QString& id, QSize* size, const QSize
         *size = icon.size();
     if (icon.isNull())
         return icon;
-    if (requestedSize.isValid() && requestedSize.width() < icon.width())
+    if (!requestedSize.isEmpty() && requestedSize.width() < icon.width())
         icon = icon.scaled(requestedSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return rounding > 0 ? rounded(icon, rounding * icon.width()) : icon;
 }

@@ -12,7 +12,7 @@ AppIconViewState {
         objectName: "icon"
         anchors.fill: parent
         visible: view.hasIcon
-        source: view.iconSource
+        source: view.width > 0 && view.height > 0 ? view.iconSource : ""
         sourceSize.width: view.width
         sourceSize.height: view.height
         smooth: true

@@ -10,10 +10,10 @@ ContextMenu {
 
     signal deleteRequested(string key)
 
-    function openFor(key, count) {
+    function openFor(key, count, place) {
         menu.key = key;
         menu.groupCount = count;
-        menu.popup();
+        menu.popupAtPointer(place);
     }
 
     objectName: "groupMenu"

@@ -15,6 +15,7 @@ FocusScope {
 
     function showBeginning() {
         list.positionViewAtBeginning();
+        list.contentY = list.originY - list.topMargin;
     }
 
     ListView {
@@ -60,7 +61,7 @@ FocusScope {
                     onToggled: key => root.view.toggleGroup(key)
                     onSelectAll: key => root.view.selectGroup(key)
                     onDeselectAll: key => root.view.deselectGroup(key)
-                    onMenuRequested: (key, count) => groupMenu.openFor(key, count)
+                    onMenuRequested: (key, count, place) => groupMenu.openFor(key, count, place)
                 }
             }
 
@@ -73,7 +74,7 @@ FocusScope {
                     onSingleTap: id => root.tapRow(id)
                     onDoubleTap: id => root.view.onDoubleTap(id)
                     onToggleSelection: id => root.view.toggleSelection(id)
-                    onMenuRequested: id => rowMenu.openFor(id)
+                    onMenuRequested: (id, place) => rowMenu.openFor(id, place)
                 }
             }
         }
@@ -89,7 +90,14 @@ FocusScope {
             view: list
         }
 
-        T.ScrollBar.vertical: ThinScrollBar {}
+        // Over the pinned header as well.
+        T.ScrollBar.vertical: ThinScrollBar {
+            parent: root
+            z: 1
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
+            anchors.right: parent.right
+        }
     }
 
     function tapRow(id) {
@@ -105,10 +113,13 @@ FocusScope {
         selectionMode: root.view.selectionMode
         visible: list.pinnedLine >= 0 && (!list.pinnedItem || list.pinnedItem.y < list.contentY)
         Accessible.ignored: true
-        onToggled: key => root.view.toggleGroup(key)
+        onToggled: key => {
+            list.positionViewAtIndex(list.pinnedLine, ListView.Beginning);
+            root.view.toggleGroup(key);
+        }
         onSelectAll: key => root.view.selectGroup(key)
         onDeselectAll: key => root.view.deselectGroup(key)
-        onMenuRequested: (key, count) => groupMenu.openFor(key, count)
+        onMenuRequested: (key, count, place) => groupMenu.openFor(key, count, place)
     }
 
     RowMenu {

@@ -33,7 +33,7 @@ Item {
     signal singleTap(uuid id)
     signal doubleTap(uuid id)
     signal toggleSelection(uuid id)
-    signal menuRequested(uuid id)
+    signal menuRequested(uuid id, point place) // in the window
 
     property bool hasArrived: !isArriving
     property real clarity: 1 // of the texts, while they come out from under the mask
@@ -100,13 +100,13 @@ Item {
     TapHandler {
         acceptedButtons: Qt.RightButton
         gesturePolicy: TapHandler.WithinBounds
-        onTapped: row.menuRequested(row.notificationId)
+        onTapped: eventPoint => row.menuRequested(row.notificationId, eventPoint.scenePosition)
     }
 
     HoverTip {
         text: row.selectionMode ? (row.isSelected ? qsTrId("row.deselect") : qsTrId("row.select"))
             : row.masked ? qsTrId("row.clickToReveal") : qsTrId("row.singleClickToSelect").arg(row.appName)
-        visible: pointer.hovered
+        visible: pointer.hovered && row.Window.window !== null
     }
 
     RowBackground {

@@ -9,11 +9,11 @@ ContextMenu {
     required property ContentViewState view
     property var row: ({})
 
-    function openFor(id) {
+    function openFor(id, place) {
         if (menu.view.selectionMode)
             return;
         menu.row = menu.view.menuOf(id);
-        menu.popup();
+        menu.popupAtPointer(place);
     }
 
     objectName: "rowMenu"

@@ -16,7 +16,7 @@ Rectangle {
     readonly property bool everySelected: header.selectedCount === header.count
 
     signal toggled(string key)
-    signal menuRequested(string key, int count)
+    signal menuRequested(string key, int count, point place) // in the window
     signal selectAll(string key)
     signal deselectAll(string key)
 
@@ -38,7 +38,8 @@ Rectangle {
         acceptedButtons: Qt.RightButton
         gesturePolicy: TapHandler.WithinBounds
         enabled: !section.selectionMode
-        onTapped: section.menuRequested(section.header.key, section.header.count)
+        onTapped: eventPoint => section.menuRequested(section.header.key, section.header.count,
+                                                      eventPoint.scenePosition)
     }
 
     IconButton {

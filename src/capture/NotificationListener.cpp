@@ -28,6 +28,7 @@ std::shared_ptr<NotificationListener> NotificationListener::create(Services serv
 
 void NotificationListener::setNotifications(NotificationList notifications) {
     notifications_ = std::move(notifications);
+    ++publications_;
     Q_EMIT notificationsChanged();
 }
 

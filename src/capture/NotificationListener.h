@@ -111,6 +111,7 @@ private:
 
     Services services_;
     NotificationList notifications_;
+    int publications_ = 0; // of the list, so far
     QString usernotedDbPath_;
     std::unique_ptr<FileWatch> usernotedWatchSource_;
     std::unique_ptr<RepeatingTimer> usernotedPollTimer_;

@@ -56,10 +56,8 @@ void StartupRecovery::run() {
 }
 
 void StartupRecovery::loadHoard() {
-    NotificationList loaded = hoard_().fetchRecent(NotificationListener::publishedLimit);
-    onMain([&](NotificationListener& listener) {
-        const auto count = static_cast<qint64>(loaded.size());
-        listener.setNotifications(std::move(loaded));
+    publishRecent([](NotificationListener& listener) {
+        const auto count = static_cast<qint64>(listener.notifications().size());
         listener.diagnostics().setCapturedTotal(count);
         listener.diagnostics().log(QStringLiteral("Hoard loaded — %1 notifications").arg(count),
                                    Level::success, Category::hoard);
@@ -89,7 +87,7 @@ void StartupRecovery::recoverUsernoted() {
     saveUsernotedCursor(found, cursor);
     for (const CapturedNotification& record : kept(found))
         hoard.insert(record);
-    publishRecent();
+    publishRecent([](NotificationListener&) {});
 }
 
 void StartupRecovery::saveUsernotedCursor(const NotificationList& found,
@@ -123,7 +121,7 @@ void StartupRecovery::recoverLegacy() {
         return;
     for (const CapturedNotification& record : keptRecords)
         hoard_().insert(record);
-    publishRecent();
+    publishRecent([](NotificationListener&) {});
 }
 
 NotificationList StartupRecovery::kept(const NotificationList& found) const {
@@ -135,9 +133,19 @@ NotificationList StartupRecovery::kept(const NotificationList& found) const {
     return records;
 }
 
-void StartupRecovery::publishRecent() {
-    NotificationList recent = hoard_().fetchRecent(NotificationListener::publishedLimit);
-    onMain([&](NotificationListener& listener) { listener.setNotifications(std::move(recent)); });
+// What was captured since the reading has been published already, and must not be hidden again by
+// the older list: that is then read anew.
+void StartupRecovery::publishRecent(const std::function<void(NotificationListener&)>& afterwards) {
+    constexpr qint64 limit = NotificationListener::publishedLimit;
+    int before = 0;
+    onMain([&](NotificationListener& listener) { before = listener.publications_; });
+    NotificationList recent = hoard_().fetchRecent(limit);
+    onMain([&](NotificationListener& listener) {
+        if (listener.publications_ != before)
+            recent = hoard_().fetchRecent(limit);
+        listener.setNotifications(std::move(recent));
+        afterwards(listener);
+    });
 }
 
 void StartupRecovery::onMain(const std::function<void(NotificationListener&)>& work) {

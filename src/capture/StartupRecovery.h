@@ -25,7 +25,7 @@ private:
 
     // The records that retention would keep.
     NotificationList kept(const NotificationList& found) const;
-    void publishRecent();
+    void publishRecent(const std::function<void(NotificationListener&)>& afterwards);
     void onMain(const std::function<void(NotificationListener&)>& work);
 
     std::weak_ptr<NotificationListener> listener_;

@@ -2,8 +2,9 @@ import QtQuick
 import QtQuick.Templates as T
 import Tessarine.Theme
 
-// A menu of ContextMenuItems and ContextMenuDividers. `popup()` opens it at the pointer,
-// `popup(item, x, y)` at a place. The keyboard goes back to where it was.
+// A menu of ContextMenuItems and ContextMenuDividers. `popup(item, x, y)` opens it at a place, and
+// `popupAtPointer(place)` where the pointer was pressed, in the window's coordinates. The keyboard goes
+// back to where it was.
 T.Menu {
     id: contextMenu
 
@@ -18,6 +19,18 @@ T.Menu {
     dim: false
     focus: true
     cascade: false
+
+    // A corner of the menu lies at the pointer, whichever leaves it room in the window, so that nobody
+    // presses an entry without having aimed at it.
+    function popupAtPointer(place: point) {
+        const window = parent.Window;
+        const left = place.x + implicitWidth + margins > window.width;
+        const up = place.y + implicitHeight + margins > window.height;
+        const corner = parent.mapFromItem(null, place.x - (left ? implicitWidth : 0),
+                                          place.y - (up ? implicitHeight : 0));
+        popup(corner.x, corner.y);
+    }
+
     onAboutToShow: focusKeeper.remember(parent)
     onAboutToHide: focusKeeper.restore(contentItem)
 

@@ -12,6 +12,7 @@
 
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace tessarine {
 namespace {
@@ -552,6 +553,30 @@ TEST_F(ListenerTest, ANotificationOfBothBannerAndDatabaseGivesTwoRows) {
     add(1, u"Hello"_qs, start + 1);
     pollNow();
     EXPECT_THAT(stored(), ElementsAre(u"Hello"_qs, u"Hello"_qs));
+}
+
+TEST_F(ListenerTest, ACaptureDuringTheRecoveryIsNotHiddenByTheOlderReading) {
+    launch();
+    bool captures = true;
+    const auto capture = [this] { // on the main thread, after the recovery has read the hoard
+        CapturedNotification banner;
+        banner.appName = u"Mail"_qs;
+        banner.title = u"just now"_qs;
+        banner.timestamp = system_.scheduler.now();
+        ASSERT_TRUE(hoard().insertDeduplicated(banner));
+        listener_->setNotifications(hoard().fetchRecent(500));
+    };
+    listener_ = NotificationListener::create({[&]() -> HoardStore& {
+                                                  if (std::exchange(captures, false))
+                                                      system_.scheduler.onMain(capture);
+                                                  return hoard();
+                                              },
+                                              *preferences_, *diagnostics_, system_.platform});
+    listener_->start();
+    system_.scheduler.settle();
+    ASSERT_EQ(listener_->notifications().size(), 1U);
+    EXPECT_EQ(listener_->notifications().front().title, u"just now"_qs);
+    EXPECT_EQ(diagnostics_->capturedTotal(), 1);
 }
 
 } // namespace

@@ -158,6 +158,17 @@ TEST_F(GroupsTest, ThePinnedHeaderClosesItsGroup) {
     EXPECT_EQ(lines(), 42);
 }
 
+TEST_F(GroupsTest, AGroupClosedByItsPinnedHeaderHasItsHeaderAtTheTop) {
+    scrollTo(1700);
+    while (pinnedTitle() != u"Beta"_qs)
+        scrollTo(list().property("contentY").toDouble() + 300);
+    scrollTo(list().property("contentY").toDouble() + 600);
+    clickChevron(item(u"pinnedHeader"_qs));
+    draw();
+    ASSERT_NE(header(u"Beta"_qs), nullptr);
+    EXPECT_EQ(header(u"Beta"_qs)->y(), list().property("contentY").toDouble());
+}
+
 TEST_F(GroupsTest, ThePinnedHeaderHidesTheRowsBelowItFromThePointer) {
     preferences.setGlobalPrivacyMode(true);
     scrollTo(300);

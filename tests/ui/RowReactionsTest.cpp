@@ -240,6 +240,21 @@ TEST_F(RowReactionsTest, TheMenuDeletesAnAppAndADay) {
     EXPECT_EQ(hoard.totalCount(), 0);
 }
 
+TEST_F(RowReactionsTest, AMenuWithoutRoomLiesBesideThePointerAndNotUnderIt) {
+    QQuickItem& last = rowOf(u"Title 1"_qs);
+    resizeTo(720, int(last.mapToScene(QPointF(0, last.height())).y()) + 2);
+    const QPointF place(last.width() - 20, last.height() - 8);
+    clickAt(last, place, Qt::RightButton);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"rowMenu"_qs); }));
+    draw();
+    QQuickItem* lowest = entry(u"Delete All from Sunday, November 16, 2025"_qs);
+    ASSERT_NE(lowest, nullptr);
+    const QPointF pointer = lowest->mapFromItem(&last, place);
+    EXPECT_FALSE(lowest->contains(pointer));
+    EXPECT_NEAR(pointer.x(), lowest->width(), 20);
+    EXPECT_NEAR(pointer.y(), lowest->height(), 20);
+}
+
 TEST_F(RowReactionsTest, ThereIsNoMenuInSelectionMode) {
     view().enterSelectionMode();
     draw();

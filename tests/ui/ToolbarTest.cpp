@@ -104,6 +104,7 @@ TEST_F(ToolbarTest, AnotherListBeginsAtItsTop) {
     draw();
     pick(u"sortPicker"_qs, u"Oldest First"_qs);
     EXPECT_TRUE(turnsUntil([&] { return row(u"Title 1"_qs) != nullptr; }));
+    EXPECT_EQ(row(u"Title 1"_qs)->mapToItem(&list(), QPointF(0, 0)).y(), 4);
 }
 
 TEST_F(ToolbarTest, TheCounterStandsOverAnEmptyListToo) {

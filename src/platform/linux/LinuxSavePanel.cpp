@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QGuiApplication>
 #include <QStandardPaths>
 #include <QWindow>
@@ -17,6 +18,17 @@ QString firstFolder() {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QDir(documents).exists() ? documents : QDir::homePath();
 }
+
+// Icons and types by names alone. The dialog would else look into each file of a folder for its
+// kind, and wait for ever for one that has nothing to read.
+class FileIcons : public QFileIconProvider {
+public:
+    using QFileIconProvider::icon;
+    QIcon icon(const QFileInfo& info) const override { return icon(info.isDir() ? Folder : File); }
+    QString type(const QFileInfo& info) const override {
+        return info.isDir() ? QString() : info.suffix();
+    }
+};
 
 // In front of the window that the user is in, and not to be left before it is answered.
 void standBefore(QWindow* window, QFileDialog& dialog) {
@@ -32,7 +44,10 @@ LinuxSavePanel::LinuxSavePanel(const SystemAppearance& appearance)
 std::optional<QString> LinuxSavePanel::runModal(const Request& request) {
     if (folder_.isEmpty() || !QDir(folder_).exists())
         folder_ = firstFolder();
-    QFileDialog dialog(nullptr, request.title, folder_);
+    FileIcons icons;
+    QFileDialog dialog(nullptr, request.title);
+    dialog.setIconProvider(&icons);
+    dialog.setDirectory(folder_);
     dialog.setPalette(widgetPalette(appearance_.prefersDark()));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);

@@ -2,16 +2,21 @@
 
 #include "shared/ReferenceTime.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QTimer>
 
 #include <chrono>
 #include <condition_variable>
+#include <utility>
 
 namespace tessarine {
 
 namespace {
+
+// What tasks may take of a turn of the event loop: half a frame.
+constexpr std::chrono::milliseconds turnShare{8};
 
 const QEvent::Type taskEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
@@ -114,6 +119,11 @@ bool QtScheduler::completesWithin(double seconds, QualityOfService quality, Task
     return completion->waitFor(seconds);
 }
 
+QtScheduler::MainThread::MainThread() {
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
+                     [this] { turnBegan_ = std::chrono::steady_clock::now(); });
+}
+
 // The event is made before the lock is taken and looked at after: the lock alone orders one
 // thread's making of it and the other's reading, where Qt's own order can't be seen.
 void QtScheduler::MainThread::post(Task task) {
@@ -126,16 +136,49 @@ void QtScheduler::MainThread::post(Task task) {
 }
 
 bool QtScheduler::MainThread::event(QEvent* event) {
-    std::unique_lock lock(mutex_);
-    if (event->type() != taskEvent) {
-        lock.unlock();
+    if (event->type() != taskEvent)
         return QObject::event(event);
-    }
+    if (owed_ > 0 || turnIsUsedUp())
+        owe();
+    else
+        runOne();
+    return true;
+}
+
+void QtScheduler::MainThread::runOne() {
+    std::unique_lock lock(mutex_);
     const Task task = std::move(tasks_.front());
     tasks_.pop_front();
     lock.unlock();
     task();
-    return true;
+}
+
+// A task may turn the event loop itself, in which the others go on.
+void QtScheduler::MainThread::runOwed() {
+    continuesLater_ = false;
+    turnBegan_ = std::chrono::steady_clock::now();
+    while (owed_ > 0 && !turnIsUsedUp()) {
+        if (--owed_ > 0)
+            continueLater();
+        runOne();
+    }
+    if (owed_ > 0)
+        continueLater();
+}
+
+void QtScheduler::MainThread::owe() {
+    ++owed_;
+    continueLater();
+}
+
+// A timer that is due at once comes after input and drawing.
+void QtScheduler::MainThread::continueLater() {
+    if (!std::exchange(continuesLater_, true))
+        QTimer::singleShot(0, this, [this] { runOwed(); });
+}
+
+bool QtScheduler::MainThread::turnIsUsedUp() const {
+    return std::chrono::steady_clock::now() - turnBegan_ > turnShare;
 }
 
 } // namespace tessarine

@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <deque>
 #include <mutex>
 
@@ -28,15 +29,30 @@ public:
 
 private:
     // Takes one task from the hand-over list for each event it is sent. The list has a standard
-    // mutex: Qt's own queue would hide the hand-over from ThreadSanitizer.
+    // mutex: Qt's own queue would hide the hand-over from ThreadSanitizer. Tasks that have used up
+    // their share of a turn of the event loop leave the others owed, and input and drawing come
+    // first.
     class MainThread : public QObject {
     public:
+        MainThread();
+
         void post(Task task);
         bool event(QEvent* event) override;
 
     private:
+        void runOne();
+        void runOwed();
+        void owe();
+        void continueLater();
+        bool turnIsUsedUp() const;
+
         std::mutex mutex_;
         std::deque<Task> tasks_;
+
+        // Of the main thread alone.
+        std::chrono::steady_clock::time_point turnBegan_;
+        int owed_ = 0;
+        bool continuesLater_ = false;
     };
 
     MainThread main_;

@@ -2,9 +2,12 @@
 
 #include "support/EventLoop.h"
 
+#include <QTimer>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <ctime>
@@ -101,6 +104,33 @@ TEST_F(QtSchedulerTest, RunsWhatATaskHandsOverAfterWhatWaits) {
     scheduler.onMain([this] { order.push_back(2); });
     turnsUntil([&] { return order.size() == 3; });
     EXPECT_THAT(order, ElementsAre(1, 2, 3));
+}
+
+TEST_F(QtSchedulerTest, GivesTheLoopItsTurnBetweenManyTasks) {
+    for (int number = 0; number < 100; ++number)
+        scheduler.onMain([this, number] {
+            order.push_back(number);
+            std::this_thread::sleep_for(3ms);
+        });
+    std::size_t doneBefore = 0; // a timer stands for what a user does meanwhile
+    QTimer::singleShot(1, [&] { doneBefore = order.size(); });
+    EXPECT_TRUE(turnsUntil([&] { return order.size() == 100; }));
+    EXPECT_GT(doneBefore, 0U);
+    EXPECT_LT(doneBefore, 50U);
+    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
+}
+
+TEST_F(QtSchedulerTest, GoesOnWhileATaskTurnsTheLoopItself) {
+    for (int number = 0; number < 20; ++number)
+        scheduler.onMain([this, number] {
+            order.push_back(number);
+            std::this_thread::sleep_for(3ms);
+            if (number % 5 == 3) {
+                EXPECT_TRUE(turnsUntil([&] { return int(order.size()) > number + 1; }));
+            }
+        });
+    EXPECT_TRUE(turnsUntil([&] { return order.size() == 20; }));
+    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
 }
 
 TEST_F(QtSchedulerTest, RunsTasksOfOtherThreadsOnTheMainThread) {
