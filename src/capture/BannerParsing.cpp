@@ -1,6 +1,7 @@
 #include "capture/BannerParsing.h"
 
 #include "shared/BundleId.h"
+#include "shared/LocalZone.h"
 #include "shared/ReferenceTime.h"
 #include "shared/Text.h"
 
@@ -133,6 +134,7 @@ std::optional<double> today(qint64 hour, qint64 minute, double now) {
     if (std::abs(static_cast<double>(hour)) > limit ||
         std::abs(static_cast<double>(minute)) > limit)
         return std::nullopt;
+    followLocalZone();
     UErrorCode status = U_ZERO_ERROR;
     icu::GregorianCalendar calendar(status);
     calendar.setTime((now + unixSecondsAtReferenceDate) * 1000.0, status);

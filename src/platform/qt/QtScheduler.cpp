@@ -136,7 +136,10 @@ void QtScheduler::MainThread::post(Task task) {
 }
 
 bool QtScheduler::MainThread::event(QEvent* event) {
-    if (event->type() != taskEvent)
+    std::unique_lock lock(mutex_);
+    const bool isTask = event->type() == taskEvent;
+    lock.unlock();
+    if (!isTask)
         return QObject::event(event);
     if (owed_ > 0 || turnIsUsedUp())
         owe();

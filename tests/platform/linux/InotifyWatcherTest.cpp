@@ -34,7 +34,10 @@ constexpr int quietTime = 600;
 // the thread that hands them over.
 class HeldScheduler : public QtScheduler {
 public:
-    void hold(std::size_t count) { room_ = count; }
+    void hold(std::size_t count) {
+        const std::lock_guard lock(mutex_);
+        room_ = count;
+    }
 
     void onMain(Task task) override {
         {
