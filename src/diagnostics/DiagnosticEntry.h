@@ -1,10 +1,10 @@
 #pragma once
 
 #include "shared/Colour.h"
+#include "shared/FreshId.h"
 
 #include <QList>
 #include <QString>
-#include <QUuid>
 
 #include <optional>
 
@@ -16,7 +16,7 @@ enum class Category { ax, usernoted, legacy, hoard, system };
 
 // One line of the live log.
 struct DiagnosticEntry {
-    QUuid id = QUuid::createUuid();
+    QUuid id = freshId();
     double timestamp = 0; // of the logging, seconds since the reference date
     Level level = Level::info;
     Category category = Category::system;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/FreshId.h"
+
 #include <QMetaType>
 #include <QString>
 #include <QUuid>
@@ -10,9 +12,9 @@ namespace tessarine {
 
 // One notification, as every subsystem passes it on. A plain value, copied freely.
 struct CapturedNotification {
-    QUuid id = QUuid::createUuid(); // identity in memory only: fresh for each record, never stored
-    qint64 dbId = 0;                // row id in the hoard, 0 in a record that a layer has captured
-    qint64 noteId = 0;              // the source's own key for it
+    QUuid id = freshId(); // identity in memory only: fresh for each record, never stored
+    qint64 dbId = 0;      // row id in the hoard, 0 in a record that a layer has captured
+    qint64 noteId = 0;    // the source's own key for it
     QString appBundleId;
     QString appName;
     QString title;
