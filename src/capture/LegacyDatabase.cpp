@@ -34,10 +34,10 @@ QString findLegacyDatabase(const QString& folder) {
 
 LegacyAppNames readLegacyAppNames(const QString& path, NullBundleId onNull) {
     LegacyAppNames names;
-    const SqliteReading database(path);
+    const SqliteConnection database(path, SqliteConnection::Mode::foreignFile);
     if (!database.isOpen())
         return names;
-    SqliteStatement rows(database.connection(), selectAppInfo);
+    SqliteStatement rows(database, selectAppInfo);
     while (rows.stepsToRow()) {
         if (!rows.isNull(1))
             names.insert_or_assign(rows.int32(0), rows.text(1));
@@ -51,10 +51,10 @@ NotificationList readLegacyDatabase(const QString& path, qint64 lastNoteId,
                                     const LegacyAppNames& names, double now,
                                     const std::function<QString(const QString&)>& appNameOf) {
     NotificationList records;
-    const SqliteReading database(path);
+    const SqliteConnection database(path, SqliteConnection::Mode::foreignFile);
     if (!database.isOpen())
         return records;
-    SqliteStatement rows(database.connection(), selectNewNotes);
+    SqliteStatement rows(database, selectNewNotes);
     if (!rows.isReady())
         return records;
     rows.bindInt32(1, narrowToInt32(lastNoteId));

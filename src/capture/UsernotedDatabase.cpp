@@ -15,7 +15,7 @@ constexpr const char* selectIdentifier = "SELECT identifier FROM app WHERE app_i
 
 constexpr double overlap = 2.0; // seconds
 
-QString resolveBundleId(qint64 appId, sqlite3* connection) {
+QString resolveBundleId(qint64 appId, const SqliteConnection& connection) {
     SqliteStatement statement(connection, selectIdentifier);
     if (statement.isReady()) {
         statement.bindInt64(1, appId);
@@ -40,10 +40,10 @@ UsernotedReading readUsernotedDatabase(const QString& path, const UsernotedCurso
                                        DecoderVariant variant,
                                        const std::function<QString(const QString&)>& nameOf) {
     UsernotedReading reading{{}, {cursor.timestamp, {}}};
-    const SqliteReading database(path);
+    const SqliteConnection database(path, SqliteConnection::Mode::foreignFile);
     if (!database.isOpen())
         return reading;
-    SqliteStatement rows(database.connection(), selectNewRecords);
+    SqliteStatement rows(database, selectNewRecords);
     if (!rows.isReady())
         return reading;
     rows.bind(1, cursor.timestamp > 0 ? cursor.timestamp - overlap : 0.0);
@@ -58,7 +58,7 @@ UsernotedReading readUsernotedDatabase(const QString& path, const UsernotedCurso
             continue;
         CapturedNotification& record = reading.records.emplace_back();
         record.noteId = recId;
-        record.appBundleId = resolveBundleId(rows.int64(1), database.connection());
+        record.appBundleId = resolveBundleId(rows.int64(1), database);
         record.appName = nameOf(record.appBundleId);
         record.title = texts.title;
         record.body = texts.body;

@@ -24,6 +24,12 @@ public:
         return std::forward<Work>(work)();
     }
 
+    // Whether another caller waits for its turn, while one is at work. Any thread.
+    bool isWaitedFor() const {
+        const std::lock_guard lock(mutex_);
+        return nextTicket_ > nowServing_ + 1;
+    }
+
 private:
     class Turn {
     public:
@@ -48,7 +54,7 @@ private:
     };
 
     std::string label_;
-    std::mutex mutex_;
+    mutable std::mutex mutex_;
     std::condition_variable turnCame_;
     std::uint64_t nextTicket_ = 0;
     std::uint64_t nowServing_ = 0;

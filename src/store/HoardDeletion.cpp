@@ -73,7 +73,10 @@ void HoardStore::deleteNotification(qint64 id) {
         if (!statement.isReady())
             return;
         statement.bindInt32(1, narrowToInt32(id));
-        statement.stepsToDone();
+        if (changesBy([&] { return statement.stepsToDone(); }) == 1)
+            recent_.rowDeleted(id);
+        else
+            recent_.forget();
     });
 }
 
@@ -84,6 +87,7 @@ void HoardStore::deleteApp(const QString& appName) {
             return;
         statement.bind(1, storedUtf8(appName));
         statement.stepsToDone();
+        keepExistingRows();
     });
 }
 
@@ -99,11 +103,15 @@ void HoardStore::deleteDay(const QString& key) {
         statement.bind(1, *start);
         statement.bind(2, *start + secondsPerDay);
         statement.stepsToDone();
+        keepExistingRows();
     });
 }
 
 void HoardStore::deleteAll() {
-    queue_.sync([&] { execute(deleteEverything); });
+    queue_.sync([&] {
+        db_.execute(deleteEverything);
+        forgetKept();
+    });
 }
 
 qint64 HoardStore::deleteOlderThan(qint64 days) {
@@ -127,7 +135,9 @@ qint64 HoardStore::deletedBefore(double edge, const char* deletion) {
         return 0;
     statement.bind(1, edge);
     statement.stepsToDone();
-    return sqlite3_changes(db_);
+    const int count = db_.changes();
+    keepExistingRows();
+    return count;
 }
 
 } // namespace tessarine

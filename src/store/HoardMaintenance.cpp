@@ -57,7 +57,7 @@ QString HoardStore::integrityCheck() {
 }
 
 void HoardStore::checkpoint() {
-    queue_.sync([&] { execute(takeOverLog); });
+    queue_.sync([&] { db_.execute(takeOverLog); });
 }
 
 } // namespace tessarine

@@ -5,11 +5,12 @@
 #include "platform/SerialQueue.h"
 #include "platform/UserDefaults.h"
 #include "shared/CapturedNotification.h"
+#include "store/DuplicateIndex.h"
 #include "store/HoardStats.h"
+#include "store/RecentRows.h"
+#include "store/Sqlite.h"
 
 #include <QString>
-
-#include <sqlite3.h>
 
 #include <set>
 #include <vector>
@@ -25,6 +26,13 @@ struct DistinctApp {
 };
 
 using DistinctAppList = std::vector<DistinctApp>;
+
+// What became of a notification that was to be stored.
+enum class Insertion {
+    stored,  // a row was added
+    refused, // its application is excluded, or the hoard has it already
+    failed,  // the hoard can't be written at the moment: locked by another program, disk full ...
+};
 
 // The archive of every captured notification: one SQLite file. Any thread may call; each call
 // blocks until its work is done, one at a time. No operation reports an error: a hoard that can't
@@ -53,9 +61,20 @@ public:
     // and body lies less than 300 seconds from it. True when a row was added.
     bool insertDeduplicated(const CapturedNotification& notification);
 
-    // The first rows: pinned ones lead, then the newest. A limit outside the signed 32-bit range
-    // ends the process.
+    // The same two, for callers that keep what could not be stored. A lock of another program's is
+    // waited for, at most lockTimeout; once one was not given up in that time, the next captures
+    // wait but a moment until one of them is stored.
+    Insertion tryInsert(const CapturedNotification& notification);
+    Insertion tryInsertDeduplicated(const CapturedNotification& notification);
+
+    // The first rows: pinned ones lead, then the newest. The whole table is sorted only where they
+    // aren't known from before. A limit outside the signed 32-bit range ends the process.
     NotificationList fetchRecent(qint64 limit);
+
+    // Sees to it that fetchRecent with this limit has no table to sort. For workers: in a large
+    // hoard it takes seconds. It gives way as soon as another thread waits for the hoard, and is
+    // then to be called again some time. True when the rows are known.
+    bool readAhead(qint64 limit);
 
     qint64 totalCount();
     qint64 maxSystemNoteId(); // 0 when there is none
@@ -97,20 +116,43 @@ public:
     void saveLastSeenSystemNoteId(qint64 value);
 
 private:
-    void open();
+    static constexpr int lockTimeout = 1500; // milliseconds
+
+    void setUpFile();
     void createSchema();
-    bool hasPinnedColumn();
-    void execute(const char* script);
-    qint64 singleInteger(const char* query);
+    bool hasPinnedColumn() const;
+    qint64 singleInteger(const char* query) const;
     bool isExcluded(const QString& bundleId) const;
-    qint64 deletedBefore(double edge, const char* deletion);
-    bool isDuplicate(const CapturedNotification& notification);
     qint64 cursor(const QString& key);
     void raiseCursor(const QString& key, qint64 value);
 
-    sqlite3* db_ = nullptr;
-    QString dbPath_;
+    // On the queue.
+
+    // How many rows a write has changed, by triggers too. Nothing when it failed.
+    template <typename Write>
+    std::optional<int> changesBy(const Write& write) const {
+        const int before = db_.totalChanges();
+        return write() ? std::optional(db_.totalChanges() - before) : std::nullopt;
+    }
+    bool runInsertion(SqliteStatement& statement);
+    void keepStoredRow(int changes);
+    void forgetKept();
+    bool isDuplicate(const ProbedTexts& texts, double timestamp);
+    bool probeWholeHoard(const ProbedTexts& texts, double timestamp) const;
+    bool isDuplicateOfRow(qint64 rowId, const ProbedTexts& texts, double timestamp) const;
+    void readDuplicates(double timestamp, int version);
+    bool knowRecent(qint64 limit);
+    NotificationList readRecent(qint64 limit) const;
+    std::optional<HoardRow> readRow(qint64 rowId) const;
+    void keepExistingRows();
+    qint64 deletedBefore(double edge, const char* deletion);
+
+    const QString dbPath_;
+    const SqliteConnection db_;
     SerialQueue queue_;
+    RecentRows recent_;         // guarded by the queue
+    DuplicateIndex duplicates_; // guarded by the queue
+    bool isLockHeld_ = false;   // by another program when a capture was last to be stored
     const FileSystem& fileSystem_;
     UserDefaults& defaults_;
     const Scheduler& clock_;

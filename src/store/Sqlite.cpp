@@ -2,10 +2,67 @@
 
 #include <QByteArrayView>
 
+#include <sqlite3.h>
+
 namespace tessarine {
 
-SqliteStatement::SqliteStatement(sqlite3* connection, const char* text) {
-    if (sqlite3_prepare_v2(connection, text, -1, &statement_, nullptr) != SQLITE_OK)
+namespace {
+
+constexpr int instructionsBetweenTests = 1000; // of SQLite's virtual machine: some microseconds
+
+int openFlags(SqliteConnection::Mode mode) {
+    if (mode == SqliteConnection::Mode::foreignFile)
+        return SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+    return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX;
+}
+
+} // namespace
+
+SqliteConnection::SqliteConnection(const QString& path, Mode mode)
+    : isOpen_(sqlite3_open_v2(path.toUtf8().constData(), &handle_, openFlags(mode), nullptr) ==
+              SQLITE_OK) {}
+
+SqliteConnection::~SqliteConnection() {
+    sqlite3_close(handle_);
+}
+
+bool SqliteConnection::execute(const char* script) const {
+    return sqlite3_exec(handle_, script, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+void SqliteConnection::setLockTimeout(int milliseconds) const {
+    sqlite3_busy_timeout(handle_, milliseconds);
+}
+
+bool SqliteConnection::wasLocked() const {
+    const int error = sqlite3_errcode(handle_) & 0xff; // without the extended part
+    return error == SQLITE_BUSY || error == SQLITE_LOCKED;
+}
+
+qint64 SqliteConnection::lastInsertRowId() const {
+    return sqlite3_last_insert_rowid(handle_);
+}
+
+int SqliteConnection::changes() const {
+    return sqlite3_changes(handle_);
+}
+
+int SqliteConnection::totalChanges() const {
+    return sqlite3_total_changes(handle_);
+}
+
+// The file control of a like name is not enough: it stays as it was until something is read.
+int SqliteConnection::dataVersion() const {
+    SqliteStatement statement(*this, "PRAGMA data_version;");
+    return statement.stepsToRow() ? statement.int32(0) : -1;
+}
+
+void SqliteConnection::setInterruptTest(InterruptTest test, void* context) const {
+    sqlite3_progress_handler(handle_, test ? instructionsBetweenTests : 0, test, context);
+}
+
+SqliteStatement::SqliteStatement(const SqliteConnection& connection, const char* text) {
+    if (sqlite3_prepare_v2(connection.handle(), text, -1, &statement_, nullptr) != SQLITE_OK)
         statement_ = nullptr; // SQLite leaves null; an error never leaves a statement
 }
 
@@ -30,11 +87,21 @@ void SqliteStatement::bindInt64(int parameter, qint64 value) {
 }
 
 bool SqliteStatement::stepsToRow() {
-    return statement_ && sqlite3_step(statement_) == SQLITE_ROW;
+    result_ = statement_ ? sqlite3_step(statement_) : SQLITE_MISUSE;
+    return result_ == SQLITE_ROW;
 }
 
 bool SqliteStatement::stepsToDone() {
-    return statement_ && sqlite3_step(statement_) == SQLITE_DONE;
+    stepsToRow();
+    return isAtEnd();
+}
+
+bool SqliteStatement::isAtEnd() const {
+    return result_ == SQLITE_DONE;
+}
+
+void SqliteStatement::reset() {
+    sqlite3_reset(statement_);
 }
 
 int SqliteStatement::int32(int column) const {
@@ -55,22 +122,24 @@ QString SqliteStatement::text(int column) const {
     return bytes ? QString::fromUtf8(bytes, sqlite3_column_bytes(statement_, column)) : QString();
 }
 
-bool SqliteStatement::isNull(int column) const {
-    return sqlite3_column_type(statement_, column) == SQLITE_NULL;
+SqliteType SqliteStatement::type(int column) const {
+    switch (sqlite3_column_type(statement_, column)) {
+    case SQLITE_INTEGER:
+        return SqliteType::integer;
+    case SQLITE_FLOAT:
+        return SqliteType::real;
+    case SQLITE_TEXT:
+        return SqliteType::text;
+    case SQLITE_BLOB:
+        return SqliteType::blob;
+    default:
+        return SqliteType::null;
+    }
 }
 
 QByteArrayView SqliteStatement::blob(int column) const {
     const void* const bytes = sqlite3_column_blob(statement_, column);
     return {static_cast<const char*>(bytes), sqlite3_column_bytes(statement_, column)};
-}
-
-SqliteReading::SqliteReading(const QString& path) {
-    isOpen_ = sqlite3_open_v2(path.toUtf8().constData(), &connection_,
-                              SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK;
-}
-
-SqliteReading::~SqliteReading() {
-    sqlite3_close(connection_);
 }
 
 } // namespace tessarine

@@ -11,9 +11,12 @@ namespace tessarine {
 namespace {
 
 using namespace Qt::StringLiterals;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using testing::SqlTrace;
+using ::testing::Truly;
 
 const QString allTexts =
     u"SELECT system_note_id, bundle_id, app_name, title, body, timestamp, pinned "
@@ -132,30 +135,52 @@ TEST_F(HoardCapture, StoresABannerWithoutAKey) {
     EXPECT_EQ(column(u"typeof(system_note_id)"_qs), u"null"_qs);
 }
 
-TEST_F(HoardCapture, RunsTheseStatementsForABanner) {
-    store.reset();
-    SqlTrace trace;
-    start();
-    trace.taken();
-    store->insertDeduplicated(capture(0));
-    EXPECT_THAT(
-        trace.taken(),
-        ElementsAre(u"SELECT COUNT(*) FROM notifications\n"
-                    "WHERE bundle_id = ? AND title = ? AND body = ?\n"
-                    "AND ABS(timestamp - ?) < 300;"_qs,
-                    u"INSERT INTO notifications (system_note_id, bundle_id, app_name, title, body, "
-                    "timestamp)\n"
-                    "VALUES (NULL, ?, ?, ?, ?, ?);"_qs));
+const QString probe = u"SELECT COUNT(*) FROM notifications\n"
+                      "WHERE bundle_id = ? AND title = ? AND body = ?\n"
+                      "AND ABS(timestamp - ?) < 300;"_qs;
+const QString insertionWithoutKey =
+    u"INSERT INTO notifications (system_note_id, bundle_id, app_name, title, body, "
+    "timestamp)\n"
+    "VALUES (NULL, ?, ?, ?, ?, ?);"_qs;
+
+bool readsNeighbours(const QString& statement) {
+    return statement.contains(u"timestamp > ?"_qs);
 }
 
-TEST_F(HoardCapture, RunsOnlyTheProbeForADuplicate) {
+TEST_F(HoardCapture, StoresABannerByThisStatementOnceItsNeighboursAreKnown) {
     store.reset();
     SqlTrace trace;
     start();
     store->insertDeduplicated(capture(0));
     trace.taken();
+    store->insertDeduplicated(capture(0, 700000400.0));
+    const QStringList statements = trace.taken();
+    EXPECT_THAT(statements, Contains(insertionWithoutKey));
+    EXPECT_THAT(statements, Not(Contains(probe)));
+    EXPECT_THAT(statements, Not(Contains(Truly(readsNeighbours))));
+}
+
+TEST_F(HoardCapture, ProbesTheWholeHoardWhereTheNeighboursCanNotBeTold) {
+    ASSERT_TRUE(file().run(u"INSERT INTO notifications (bundle_id, title, body, timestamp) VALUES "
+                           "('org.example.mail', 'Title', 'Body', '700000000 and a bit')"_qs));
+    store.reset();
+    SqlTrace trace;
+    start();
     EXPECT_FALSE(store->insertDeduplicated(capture(0)));
-    EXPECT_EQ(trace.taken().size(), 1);
+    EXPECT_THAT(trace.taken(), Contains(probe));
+    EXPECT_TRUE(store->insertDeduplicated(capture(0, 700000300.0)));
+    const QStringList statements = trace.taken();
+    EXPECT_THAT(statements, Contains(probe));
+    EXPECT_THAT(statements, Contains(insertionWithoutKey));
+}
+
+TEST_F(HoardCapture, ProbesTheWholeHoardForATimeWithoutEnd) {
+    store.reset();
+    SqlTrace trace;
+    start();
+    trace.taken();
+    store->insertDeduplicated(capture(0, std::numeric_limits<double>::infinity()));
+    EXPECT_THAT(trace.taken(), ElementsAre(u"PRAGMA data_version;"_qs, probe, insertionWithoutKey));
 }
 
 // The span of the probe: below 300 seconds, both ways

@@ -140,11 +140,14 @@ TEST_F(HoardReading, RunsTheseStatements) {
     trace.taken();
     store->fetchRecent(500);
     EXPECT_THAT(trace.taken(),
-                ElementsAre(u"SELECT id, system_note_id, bundle_id, app_name, title, body, "
+                ElementsAre(u"PRAGMA data_version;"_qs,
+                            u"SELECT id, system_note_id, bundle_id, app_name, title, body, "
                             "timestamp, pinned\n"
                             "FROM notifications\n"
                             "ORDER BY pinned DESC, timestamp DESC\n"
                             "LIMIT ?;"_qs));
+    store->fetchRecent(500);
+    EXPECT_THAT(trace.taken(), ElementsAre(u"PRAGMA data_version;"_qs));
     store->totalCount();
     EXPECT_THAT(trace.taken(), ElementsAre(u"SELECT COUNT(*) FROM notifications"_qs));
     store->maxSystemNoteId();

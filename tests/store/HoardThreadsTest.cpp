@@ -121,5 +121,23 @@ TEST(SharedHoard, IsOneForAllThreadsUnderTheUsersDataFolder) {
     EXPECT_EQ(file.number(u"SELECT system_note_id FROM notifications"_qs), 5);
 }
 
+// Whoever waits for the hoard comes first: a reading ahead that has just begun is given up.
+TEST_F(HoardThreads, MakeAReadingAheadGiveWay) {
+    ASSERT_TRUE(file().run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE "
+                           "i < 20000) INSERT INTO notifications (title, timestamp) SELECT i, i "
+                           "FROM n"_qs));
+    std::atomic<bool> isReading = true;
+    std::thread other([&] {
+        while (isReading)
+            store->totalCount();
+    });
+    while (store->readAhead(1000))
+        ASSERT_TRUE(file().run(u"UPDATE notifications SET title = 'x' WHERE id = 1"_qs));
+    isReading = false;
+    other.join();
+    EXPECT_TRUE(store->readAhead(1000));
+    EXPECT_EQ(store->fetchRecent(1000).size(), 1000U);
+}
+
 } // namespace
 } // namespace tessarine

@@ -1,0 +1,205 @@
+// The two ways by which captures get into the hoard.
+
+#include "shared/Narrowing.h"
+#include "shared/Text.h"
+#include "store/HoardStore.h"
+#include "store/Sqlite.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessarine {
+
+namespace {
+
+constexpr const char* insertWithKey = R"(INSERT OR IGNORE INTO notifications
+    (system_note_id, bundle_id, app_name, title, body, timestamp)
+VALUES (?, ?, ?, ?, ?, ?);)";
+
+constexpr const char* countDuplicates = R"(SELECT COUNT(*) FROM notifications
+WHERE bundle_id = ? AND title = ? AND body = ?
+AND ABS(timestamp - ?) < 300;)";
+
+constexpr const char* insertWithoutKey =
+    R"(INSERT INTO notifications (system_note_id, bundle_id, app_name, title, body, timestamp)
+VALUES (NULL, ?, ?, ?, ?, ?);)";
+
+// The probe above, of one row.
+constexpr const char* compareWithRow = R"(SELECT 1 FROM notifications
+WHERE id = ? AND bundle_id = ? AND title = ? AND body = ?
+AND ABS(timestamp - ?) < 300;)";
+
+constexpr const char* selectAround =
+    R"(SELECT id, bundle_id, title, body, timestamp FROM notifications
+WHERE timestamp > ? AND timestamp < ?;)";
+
+// Texts and blobs come after all numbers.
+constexpr const char* selectTimestampThatIsNoNumber =
+    "SELECT 1 FROM notifications WHERE timestamp >= '' LIMIT 1;";
+
+// How long a capture waits for another program's lock on the hoard. While that program goes on
+// holding it, the next ones wait but a moment: they come on the main thread.
+constexpr int lockTimeoutWhileHeld = 50; // milliseconds
+
+const QString excludedBundleIdsKey = QStringLiteral("excludedBundleIds");
+
+// As far as a text is stored: up to its first NUL.
+QByteArray storedPart(const QString& text) {
+    QByteArray utf8 = storedUtf8(text);
+    if (const qsizetype nul = utf8.indexOf('\0'); nul >= 0)
+        utf8.truncate(nul);
+    return utf8;
+}
+
+ProbedTexts probedTexts(const CapturedNotification& notification) {
+    return {storedPart(notification.appBundleId), storedPart(notification.title),
+            storedPart(notification.body)};
+}
+
+void bindTexts(SqliteStatement& statement, int first, const ProbedTexts& texts) {
+    statement.bind(first, texts.bundleId);
+    statement.bind(first + 1, texts.title);
+    statement.bind(first + 2, texts.body);
+}
+
+} // namespace
+
+bool HoardStore::insert(const CapturedNotification& notification) {
+    return tryInsert(notification) == Insertion::stored;
+}
+
+bool HoardStore::insertDeduplicated(const CapturedNotification& notification) {
+    return tryInsertDeduplicated(notification) == Insertion::stored;
+}
+
+Insertion HoardStore::tryInsert(const CapturedNotification& notification) {
+    if (isExcluded(notification.appBundleId))
+        return Insertion::refused;
+    return queue_.sync([&] {
+        SqliteStatement statement(db_, insertWithKey);
+        if (!statement.isReady())
+            return Insertion::failed;
+        statement.bindInt32(1, narrowToInt32(notification.noteId));
+        statement.bind(2, storedUtf8(notification.appBundleId));
+        statement.bind(3, storedUtf8(notification.appName));
+        statement.bind(4, storedUtf8(notification.title));
+        statement.bind(5, storedUtf8(notification.body));
+        statement.bind(6, notification.timestamp);
+        if (!runInsertion(statement))
+            return Insertion::failed;
+        return db_.changes() > 0 ? Insertion::stored : Insertion::refused;
+    });
+}
+
+Insertion HoardStore::tryInsertDeduplicated(const CapturedNotification& notification) {
+    if (isExcluded(notification.appBundleId))
+        return Insertion::refused;
+    const ProbedTexts texts = probedTexts(notification);
+    return queue_.sync([&] {
+        if (isDuplicate(texts, notification.timestamp))
+            return Insertion::refused;
+        SqliteStatement statement(db_, insertWithoutKey);
+        if (!statement.isReady())
+            return Insertion::failed;
+        statement.bind(1, texts.bundleId);
+        statement.bind(2, storedUtf8(notification.appName));
+        statement.bind(3, texts.title);
+        statement.bind(4, texts.body);
+        statement.bind(5, notification.timestamp);
+        return runInsertion(statement) ? Insertion::stored : Insertion::failed;
+    });
+}
+
+// Read from the defaults on the caller's thread: the preferences object belongs to the main one.
+bool HoardStore::isExcluded(const QString& bundleId) const {
+    return defaults_.textList(excludedBundleIdsKey).contains(bundleId);
+}
+
+bool HoardStore::runInsertion(SqliteStatement& statement) {
+    if (isLockHeld_)
+        db_.setLockTimeout(lockTimeoutWhileHeld);
+    const std::optional<int> changes = changesBy([&] { return statement.stepsToDone(); });
+    isLockHeld_ = !changes && db_.wasLocked();
+    db_.setLockTimeout(lockTimeout);
+    if (!changes)
+        forgetKept();
+    else if (*changes > 0 && (recent_.isKnown() || duplicates_.isKnown()))
+        keepStoredRow(*changes);
+    return changes.has_value();
+}
+
+// More than one change is a trigger's work, of which nothing is known here.
+void HoardStore::keepStoredRow(int changes) {
+    std::optional<HoardRow> row = changes == 1 ? readRow(db_.lastInsertRowId()) : std::nullopt;
+    if (!row)
+        return forgetKept();
+    if (row->timestamp)
+        duplicates_.rowStored({row->rowId, probedTexts(row->notification), *row->timestamp});
+    recent_.rowStored(std::move(*row));
+}
+
+void HoardStore::forgetKept() {
+    recent_.forget();
+    duplicates_.forget();
+}
+
+// A probe that fails answers no: it must never lose a notification. The rows that could be
+// duplicates are known as a rule. The statement reads every row that the application ever sent.
+bool HoardStore::isDuplicate(const ProbedTexts& texts, double timestamp) {
+    const int version = db_.dataVersion();
+    if (!duplicates_.covers(timestamp, version) && !duplicates_.hasGivenUp(version))
+        readDuplicates(timestamp, version);
+    if (!duplicates_.covers(timestamp, version))
+        return probeWholeHoard(texts, timestamp);
+    const std::vector<qint64> candidates = duplicates_.candidates(texts, timestamp);
+    return std::any_of(candidates.begin(), candidates.end(),
+                       [&](qint64 rowId) { return isDuplicateOfRow(rowId, texts, timestamp); });
+}
+
+bool HoardStore::probeWholeHoard(const ProbedTexts& texts, double timestamp) const {
+    SqliteStatement probe(db_, countDuplicates);
+    if (!probe.isReady())
+        return false;
+    bindTexts(probe, 1, texts);
+    probe.bind(4, timestamp);
+    return probe.stepsToRow() && probe.int32(0) > 0;
+}
+
+bool HoardStore::isDuplicateOfRow(qint64 rowId, const ProbedTexts& texts, double timestamp) const {
+    SqliteStatement comparison(db_, compareWithRow);
+    if (!comparison.isReady())
+        return false;
+    comparison.bindInt64(1, rowId);
+    bindTexts(comparison, 2, texts);
+    comparison.bind(5, timestamp);
+    return comparison.stepsToRow();
+}
+
+// What is not text is never equal to one, and a timestamp that is no number may be taken for one
+// by the probe's arithmetic: then nothing is known.
+void HoardStore::readDuplicates(double timestamp, int version) {
+    if (version < 0 || !std::isfinite(timestamp))
+        return;
+    const double since = timestamp - DuplicateIndex::secondsBack;
+    const double until = timestamp + DuplicateIndex::secondsOn;
+    SqliteStatement rows(db_, selectAround);
+    SqliteStatement otherTimestamp(db_, selectTimestampThatIsNoNumber);
+    if (!rows.isReady() || !otherTimestamp.isReady())
+        return;
+    if (otherTimestamp.stepsToRow())
+        return duplicates_.giveUp(version);
+    rows.bind(1, since);
+    rows.bind(2, until);
+    std::vector<DuplicateIndex::Row> found;
+    while (rows.stepsToRow()) {
+        if (rows.type(1) == SqliteType::text && rows.type(2) == SqliteType::text &&
+            rows.type(3) == SqliteType::text)
+            found.push_back(
+                {rows.int64(0),
+                 {storedPart(rows.text(1)), storedPart(rows.text(2)), storedPart(rows.text(3))},
+                 rows.real(4)});
+    }
+    duplicates_.hold(found, since, until, version);
+}
+
+} // namespace tessarine
