@@ -104,10 +104,8 @@ void NotificationListener::scanBanners(qint32 pid) {
 }
 
 void NotificationListener::storeBannerCapture(const CapturedNotification& record) {
-    if (!hoard().insertDeduplicated(record))
-        return;
-    count(QStringLiteral("Notification from [%1]").arg(record.appName), Category::ax);
-    publishRecent();
+    if (sink_->store(CaptureOrigin::banner, record))
+        publishSoon();
 }
 
 void NotificationListener::installLifecycleObservers() {

@@ -26,11 +26,9 @@ void NotificationListener::pollLegacy() {
     // Not always the last one: the ids are read as 32 bits, but ordered by all they have.
     lastSeenNoteId_ = std::ranges::max_element(records, {}, &CapturedNotification::noteId)->noteId;
     hoard().saveLastSeenSystemNoteId(lastSeenNoteId_);
-    for (const CapturedNotification& record : records) {
-        if (hoard().insert(record))
-            count(QStringLiteral("Notification from [%1]").arg(record.appName), Category::legacy);
-    }
-    publishRecent();
+    for (const CapturedNotification& record : records)
+        sink_->store(CaptureOrigin::legacy, record);
+    publishSoon();
 }
 
 NotificationList NotificationListener::fetchNewLegacyRecords() {

@@ -2,6 +2,8 @@
 
 #include "capture/StartupRecovery.h"
 
+#include <utility>
+
 namespace tessarine {
 
 namespace {
@@ -23,12 +25,20 @@ NotificationListener::NotificationListener(Services services)
 NotificationListener::~NotificationListener() = default;
 
 std::shared_ptr<NotificationListener> NotificationListener::create(Services services) {
-    return std::shared_ptr<NotificationListener>(new NotificationListener(std::move(services)));
+    std::shared_ptr<NotificationListener> listener(new NotificationListener(std::move(services)));
+    listener->sink_ = std::make_shared<CaptureSink>(CaptureSink::Services{
+        listener->services_.hoard, listener->diagnostics(), listener->scheduler(),
+        [weak = std::weak_ptr(listener)] {
+            if (const std::shared_ptr<NotificationListener> self = weak.lock())
+                self->publishSoon();
+        }});
+    return listener;
 }
 
+// Whoever sets the list has just read it: nothing newer is due.
 void NotificationListener::setNotifications(NotificationList notifications) {
     notifications_ = std::move(notifications);
-    ++publications_;
+    isPublicationDue_ = false;
     Q_EMIT notificationsChanged();
 }
 
@@ -64,9 +74,16 @@ void NotificationListener::publishRecent() {
     setNotifications(hoard().fetchRecent(publishedLimit));
 }
 
-void NotificationListener::count(const QString& message, Category category) {
-    diagnostics().setCapturedTotal(diagnostics().capturedTotal() + 1);
-    diagnostics().log(message, Level::success, category);
+// A burst of captures has its tasks on the main thread in one row: the list is published behind
+// them, once.
+void NotificationListener::publishSoon() {
+    if (std::exchange(isPublicationDue_, true))
+        return;
+    scheduler().onMain([weak = weak_from_this()] {
+        const std::shared_ptr<NotificationListener> self = weak.lock();
+        if (self && self->isPublicationDue_)
+            self->publishRecent();
+    });
 }
 
 QString NotificationListener::displayName(const QString& bundleId) const {

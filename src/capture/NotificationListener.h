@@ -1,5 +1,6 @@
 #pragma once
 
+#include "capture/CaptureSink.h"
 #include "capture/LegacyDatabase.h"
 #include "capture/UsernotedDatabase.h"
 #include "core/PreferencesStore.h"
@@ -82,7 +83,7 @@ private:
 
     void recoverAtStartup();
     void publishRecent();
-    void count(const QString& message, Category category);
+    void publishSoon();
     QString displayName(const QString& bundleId) const;
 
     void startUsernotedWatcher();
@@ -110,8 +111,9 @@ private:
     friend class StartupRecovery; // writes the fields below in its tasks on the main thread
 
     Services services_;
+    std::shared_ptr<CaptureSink> sink_;
     NotificationList notifications_;
-    int publications_ = 0; // of the list, so far
+    bool isPublicationDue_ = false; // a task is on its way to publish
     QString usernotedDbPath_;
     std::unique_ptr<FileWatch> usernotedWatchSource_;
     std::unique_ptr<RepeatingTimer> usernotedPollTimer_;

@@ -85,8 +85,7 @@ void StartupRecovery::recoverUsernoted() {
     if (found.empty())
         return;
     saveUsernotedCursor(found, cursor);
-    for (const CapturedNotification& record : kept(found))
-        hoard.insert(record);
+    store(kept(found));
     publishRecent([](NotificationListener&) {});
 }
 
@@ -119,8 +118,7 @@ void StartupRecovery::recoverLegacy() {
     const NotificationList keptRecords = kept(found);
     if (keptRecords.empty())
         return;
-    for (const CapturedNotification& record : keptRecords)
-        hoard_().insert(record);
+    store(keptRecords);
     publishRecent([](NotificationListener&) {});
 }
 
@@ -133,17 +131,28 @@ NotificationList StartupRecovery::kept(const NotificationList& found) const {
     return records;
 }
 
-// What was captured since the reading has been published already, and must not be hidden again by
-// the older list: that is then read anew.
-void StartupRecovery::publishRecent(const std::function<void(NotificationListener&)>& afterwards) {
-    constexpr qint64 limit = NotificationListener::publishedLimit;
-    int before = 0;
-    onMain([&](NotificationListener& listener) { before = listener.publications_; });
-    NotificationList recent = hoard_().fetchRecent(limit);
+// What the hoard does not take now is the sink's to try again, and all that follows: each try would
+// hold up the main thread, which uses the hoard as well.
+void StartupRecovery::store(const NotificationList& records) {
+    const auto notTaken = std::find_if(records.begin(), records.end(), [this](const auto& record) {
+        const Insertion result = hoard_().tryInsert(record);
+        return result == Insertion::locked || result == Insertion::failed;
+    });
+    if (notTaken == records.end())
+        return;
     onMain([&](NotificationListener& listener) {
-        if (listener.publications_ != before)
-            recent = hoard_().fetchRecent(limit);
-        listener.setNotifications(std::move(recent));
+        std::for_each(notTaken, records.end(), [&](const CapturedNotification& record) {
+            listener.sink_->storeLater(CaptureOrigin::recovery, record);
+        });
+    });
+}
+
+// The list is read here first, since that may take long. On the main thread the hoard then knows
+// it, together with what was captured meanwhile.
+void StartupRecovery::publishRecent(const std::function<void(NotificationListener&)>& afterwards) {
+    hoard_().fetchRecent(NotificationListener::publishedLimit);
+    onMain([&](NotificationListener& listener) {
+        listener.publishRecent();
         afterwards(listener);
     });
 }

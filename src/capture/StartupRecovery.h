@@ -23,6 +23,8 @@ private:
     void recoverLegacy();
     void saveUsernotedCursor(const NotificationList& found, const UsernotedCursor& cursor);
 
+    void store(const NotificationList& records);
+
     // The records that retention would keep.
     NotificationList kept(const NotificationList& found) const;
     void publishRecent(const std::function<void(NotificationListener&)>& afterwards);

@@ -47,12 +47,9 @@ void NotificationListener::pollUsernoted() {
     }
     diagnostics().log(QStringLiteral("Found %1 new record(s)").arg(records.size()), Level::success,
                       Category::usernoted);
-    for (const CapturedNotification& record : records) {
-        if (hoard().insert(record))
-            count(QStringLiteral("Captured notification from [%1]").arg(record.appName),
-                  Category::usernoted);
-    }
-    publishRecent();
+    for (const CapturedNotification& record : records)
+        sink_->store(CaptureOrigin::usernoted, record);
+    publishSoon();
 }
 
 // Moves the cursor before anything is stored: what a crash between the two loses is lost to this

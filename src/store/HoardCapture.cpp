@@ -78,16 +78,15 @@ Insertion HoardStore::tryInsert(const CapturedNotification& notification) {
     return queue_.sync([&] {
         SqliteStatement statement(db_, insertWithKey);
         if (!statement.isReady())
-            return Insertion::failed;
+            return failure();
         statement.bindInt32(1, narrowToInt32(notification.noteId));
         statement.bind(2, storedUtf8(notification.appBundleId));
         statement.bind(3, storedUtf8(notification.appName));
         statement.bind(4, storedUtf8(notification.title));
         statement.bind(5, storedUtf8(notification.body));
         statement.bind(6, notification.timestamp);
-        if (!runInsertion(statement))
-            return Insertion::failed;
-        return db_.changes() > 0 ? Insertion::stored : Insertion::refused;
+        const Insertion result = runInsertion(statement);
+        return result == Insertion::stored && db_.changes() == 0 ? Insertion::refused : result;
     });
 }
 
@@ -100,13 +99,13 @@ Insertion HoardStore::tryInsertDeduplicated(const CapturedNotification& notifica
             return Insertion::refused;
         SqliteStatement statement(db_, insertWithoutKey);
         if (!statement.isReady())
-            return Insertion::failed;
+            return failure();
         statement.bind(1, texts.bundleId);
         statement.bind(2, storedUtf8(notification.appName));
         statement.bind(3, texts.title);
         statement.bind(4, texts.body);
         statement.bind(5, notification.timestamp);
-        return runInsertion(statement) ? Insertion::stored : Insertion::failed;
+        return runInsertion(statement);
     });
 }
 
@@ -115,17 +114,23 @@ bool HoardStore::isExcluded(const QString& bundleId) const {
     return defaults_.textList(excludedBundleIdsKey).contains(bundleId);
 }
 
-bool HoardStore::runInsertion(SqliteStatement& statement) {
+Insertion HoardStore::runInsertion(SqliteStatement& statement) {
     if (isLockHeld_)
         db_.setLockTimeout(lockTimeoutWhileHeld);
     const std::optional<int> changes = changesBy([&] { return statement.stepsToDone(); });
-    isLockHeld_ = !changes && db_.wasLocked();
+    const Insertion result = changes ? Insertion::stored : failure();
+    isLockHeld_ = result == Insertion::locked;
     db_.setLockTimeout(lockTimeout);
     if (!changes)
         forgetKept();
     else if (*changes > 0 && (recent_.isKnown() || duplicates_.isKnown()))
         keepStoredRow(*changes);
-    return changes.has_value();
+    return result;
+}
+
+// Of the call before this one.
+Insertion HoardStore::failure() const {
+    return db_.wasLocked() ? Insertion::locked : Insertion::failed;
 }
 
 // More than one change is a trigger's work, of which nothing is known here.

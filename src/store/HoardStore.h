@@ -31,7 +31,8 @@ using DistinctAppList = std::vector<DistinctApp>;
 enum class Insertion {
     stored,  // a row was added
     refused, // its application is excluded, or the hoard has it already
-    failed,  // the hoard can't be written at the moment: locked by another program, disk full ...
+    locked,  // another program holds the hoard
+    failed,  // the hoard can't be written: the disk is full, the file damaged, not to be opened ...
 };
 
 // The archive of every captured notification: one SQLite file. Any thread may call; each call
@@ -134,7 +135,8 @@ private:
         const int before = db_.totalChanges();
         return write() ? std::optional(db_.totalChanges() - before) : std::nullopt;
     }
-    bool runInsertion(SqliteStatement& statement);
+    Insertion runInsertion(SqliteStatement& statement);
+    Insertion failure() const;
     void keepStoredRow(int changes);
     void forgetKept();
     bool isDuplicate(const ProbedTexts& texts, double timestamp);

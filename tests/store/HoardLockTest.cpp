@@ -46,8 +46,8 @@ TEST_F(HoardLock, IsWaitedForByACapture) {
 
 TEST_F(HoardLock, LetsACaptureFailWhereItStays) {
     other.takeLock();
-    EXPECT_EQ(store->tryInsert(capture(1)), Insertion::failed);
-    EXPECT_EQ(store->tryInsertDeduplicated(capture(0)), Insertion::failed);
+    EXPECT_EQ(store->tryInsert(capture(1)), Insertion::locked);
+    EXPECT_EQ(store->tryInsertDeduplicated(capture(0)), Insertion::locked);
     EXPECT_FALSE(store->insert(capture(1)));
     EXPECT_FALSE(store->insertDeduplicated(capture(0)));
     other.letGo();
@@ -76,7 +76,7 @@ TEST_F(HoardLock, IsNoReasonToReadNothing) {
 TEST_F(HoardLock, IsWaitedForAtFullLengthAgainOnceACaptureWasStored) {
     using namespace std::chrono_literals;
     other.takeLock();
-    EXPECT_EQ(store->tryInsert(capture(1)), Insertion::failed);
+    EXPECT_EQ(store->tryInsert(capture(1)), Insertion::locked);
     other.letGo();
     ASSERT_EQ(store->tryInsert(capture(1)), Insertion::stored);
     other.takeLock();
@@ -86,6 +86,13 @@ TEST_F(HoardLock, IsWaitedForAtFullLengthAgainOnceACaptureWasStored) {
     });
     EXPECT_EQ(store->tryInsert(capture(2)), Insertion::stored);
     program.join();
+}
+
+TEST_F(HoardLock, IsToldFromOtherFailures) {
+    ASSERT_TRUE(file().run(u"CREATE TRIGGER refusing BEFORE INSERT ON notifications BEGIN SELECT "
+                           "RAISE(ABORT, 'no'); END"_qs));
+    EXPECT_EQ(store->tryInsert(capture(1)), Insertion::failed);
+    EXPECT_EQ(store->tryInsertDeduplicated(capture(0)), Insertion::failed);
 }
 
 TEST(HoardThatCanNotBeOpened, LetsCapturesFail) {

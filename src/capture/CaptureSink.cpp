@@ -1,0 +1,152 @@
+#include "capture/CaptureSink.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tessarine {
+
+namespace {
+
+constexpr double firstRetry = 0.5;    // seconds
+constexpr double longestRetry = 30.0; // seconds
+
+// What one task on the main thread tries to store. A capture may fail for a reason of its own, so
+// the next ones are tried all the same, but not for ever.
+constexpr std::size_t retriesInOneTask = 50;
+
+qsizetype characters(const CapturedNotification& notification) {
+    return notification.appName.size() + notification.appBundleId.size() +
+           notification.title.size() + notification.body.size();
+}
+
+Insertion insert(HoardStore& hoard, CaptureOrigin origin,
+                 const CapturedNotification& notification) {
+    return origin == CaptureOrigin::banner ? hoard.tryInsertDeduplicated(notification)
+                                           : hoard.tryInsert(notification);
+}
+
+bool isAnswer(Insertion result) {
+    return result == Insertion::stored || result == Insertion::refused;
+}
+
+} // namespace
+
+CaptureSink::CaptureSink(Services services)
+    : services_(std::move(services))
+    , retryDelay_(firstRetry) {}
+
+// While another program holds the hoard, each try would keep the main thread waiting.
+bool CaptureSink::store(CaptureOrigin origin, const CapturedNotification& notification) {
+    Capture capture{origin, notification};
+    const Insertion result = isLocked_ ? Insertion::locked : tryToStore(capture);
+    if (!isAnswer(result))
+        keep(std::move(capture));
+    return result == Insertion::stored;
+}
+
+void CaptureSink::storeLater(CaptureOrigin origin, const CapturedNotification& notification) {
+    keep({origin, notification});
+}
+
+Insertion CaptureSink::tryToStore(const Capture& capture) {
+    const Insertion result = insert(services_.hoard(), capture.origin, capture.notification);
+    isLocked_ = result == Insertion::locked;
+    if (result == Insertion::stored)
+        tellOfStored(capture);
+    return result;
+}
+
+void CaptureSink::tellOfStored(const Capture& capture) {
+    DiagnosticsStore& diagnostics = services_.diagnostics;
+    const auto tell = [&](const QString& message, Category category) {
+        diagnostics.setCapturedTotal(diagnostics.capturedTotal() + 1);
+        diagnostics.log(message.arg(capture.notification.appName), Level::success, category);
+    };
+    switch (capture.origin) {
+    case CaptureOrigin::banner:
+        return tell(QStringLiteral("Notification from [%1]"), Category::ax);
+    case CaptureOrigin::usernoted:
+        return tell(QStringLiteral("Captured notification from [%1]"), Category::usernoted);
+    case CaptureOrigin::legacy:
+        return tell(QStringLiteral("Notification from [%1]"), Category::legacy);
+    case CaptureOrigin::recovery:
+        return;
+    }
+}
+
+void CaptureSink::keep(Capture capture) {
+    if (pending_.empty()) {
+        storedAfterWaiting_ = 0;
+        services_.diagnostics.log(QStringLiteral("Hoard not writable — captures wait"),
+                                  Level::warning, Category::hoard);
+    }
+    pendingCharacters_ += characters(capture.notification);
+    pending_.push_back(std::move(capture));
+    if (pending_.size() > maximumPending || pendingCharacters_ > maximumPendingCharacters)
+        giveUpOldest();
+    retryAfter(retryDelay_);
+}
+
+// Some at once, so that the log isn't filled with a line for each.
+void CaptureSink::giveUpOldest() {
+    const std::size_t before = pending_.size();
+    const std::size_t goal = before - before / 10;
+    while (!pending_.empty() &&
+           (pending_.size() >= goal || pendingCharacters_ > maximumPendingCharacters)) {
+        pendingCharacters_ -= characters(pending_.front().notification);
+        pending_.pop_front();
+    }
+    services_.diagnostics.log(QStringLiteral("Hoard not writable — %1 notification(s) given up")
+                                  .arg(before - pending_.size()),
+                              Level::warning, Category::hoard);
+}
+
+void CaptureSink::retryAfter(double seconds) {
+    if (pending_.empty() || std::exchange(isRetryScheduled_, true))
+        return;
+    services_.scheduler.onMainAfter(seconds, [weak = weak_from_this()] {
+        if (const std::shared_ptr<CaptureSink> self = weak.lock())
+            self->retry();
+    });
+}
+
+void CaptureSink::retry() {
+    isRetryScheduled_ = false;
+    const qint64 storedBefore = storedAfterWaiting_;
+    const bool isProgress = retrySome();
+    if (storedAfterWaiting_ > storedBefore)
+        services_.onRowsAdded();
+    if (pending_.empty())
+        services_.diagnostics.log(
+            QStringLiteral("Hoard writable again — %1 waiting notification(s) stored")
+                .arg(storedAfterWaiting_),
+            Level::success, Category::hoard);
+    retryDelay_ = isProgress ? firstRetry : std::min(2 * retryDelay_, longestRetry);
+    if (isProgress && !isLocked_)
+        retryAfter(0);
+    else
+        retryAfter(retryDelay_);
+}
+
+// True when the hoard has answered for one at least. What fails goes to the end: the reason may be
+// its own, and must not keep the others from being stored.
+bool CaptureSink::retrySome() {
+    bool isProgress = false;
+    for (std::size_t tries = std::min(pending_.size(), retriesInOneTask); tries > 0; --tries) {
+        const Insertion result = tryToStore(pending_.front());
+        if (result == Insertion::locked)
+            break;
+        Capture capture = std::move(pending_.front());
+        pending_.pop_front();
+        if (result == Insertion::failed) {
+            pending_.push_back(std::move(capture));
+            continue;
+        }
+        pendingCharacters_ -= characters(capture.notification);
+        storedAfterWaiting_ += result == Insertion::stored ? 1 : 0;
+        isProgress = true;
+    }
+    return isProgress;
+}
+
+} // namespace tessarine

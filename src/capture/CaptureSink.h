@@ -1,0 +1,66 @@
+#pragma once
+
+#include "diagnostics/DiagnosticsStore.h"
+#include "platform/Scheduler.h"
+#include "store/HoardStore.h"
+
+#include <deque>
+#include <functional>
+#include <memory>
+
+namespace tessarine {
+
+// Who saw a notification. That decides how it is stored and what is said of it.
+enum class CaptureOrigin { banner, usernoted, legacy, recovery };
+
+// Brings captures into the hoard, counts them, and logs each that was added; those of the recovery
+// without a count and a line. What the hoard does not take at the moment is kept, in its order, and
+// tried again as long as the program runs. There is a bound to that: what is given up is logged.
+// Main thread; tasks hold it weakly, so it is always made shared.
+class CaptureSink : public std::enable_shared_from_this<CaptureSink> {
+public:
+    struct Services {
+        std::function<HoardStore&()> hoard; // asked for at the first capture
+        DiagnosticsStore& diagnostics;
+        Scheduler& scheduler;
+        std::function<void()> onRowsAdded; // after captures that had to wait were stored
+    };
+
+    // How much may wait: notifications, and characters of their texts.
+    static constexpr std::size_t maximumPending = 50000;
+    static constexpr qsizetype maximumPendingCharacters = 32 * 1024 * 1024;
+
+    explicit CaptureSink(Services services);
+
+    // True when a row was added.
+    bool store(CaptureOrigin origin, const CapturedNotification& notification);
+
+    // For a capture that somebody else could not store.
+    void storeLater(CaptureOrigin origin, const CapturedNotification& notification);
+
+    std::size_t pendingCount() const { return pending_.size(); }
+
+private:
+    struct Capture {
+        CaptureOrigin origin;
+        CapturedNotification notification;
+    };
+
+    Insertion tryToStore(const Capture& capture);
+    void tellOfStored(const Capture& capture);
+    void keep(Capture capture);
+    void giveUpOldest();
+    void retryAfter(double seconds);
+    void retry();
+    bool retrySome();
+
+    Services services_;
+    std::deque<Capture> pending_;
+    qsizetype pendingCharacters_ = 0;
+    qint64 storedAfterWaiting_ = 0; // since captures have begun to wait
+    bool isLocked_ = false;         // another program held the hoard at the last try
+    bool isRetryScheduled_ = false;
+    double retryDelay_; // seconds
+};
+
+} // namespace tessarine
