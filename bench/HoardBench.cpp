@@ -77,8 +77,8 @@ qint64 nextNumber = 1000000;
 CapturedNotification notification() {
     CapturedNotification made;
     made.noteId = ++nextNumber;
-    made.appBundleId = QStringLiteral("com.example.mail");
-    made.appName = QStringLiteral("Mail");
+    made.appBundleId = QStringLiteral("com.example.app7");
+    made.appName = QStringLiteral("App 7");
     made.title = QStringLiteral("Message %1").arg(nextNumber);
     made.body = QStringLiteral("The body of message %1, as long as most").arg(nextNumber);
     made.timestamp = 785000000.0 + static_cast<double>(nextNumber);
@@ -190,16 +190,41 @@ void deduplicatedBare(benchmark::State& state) {
     storing(state, [&](const auto& record) { return bareInsertDeduplicated(bare, record); });
 }
 
+// As after a write of another program: the table is sorted anew.
 void fetchOurs(benchmark::State& state) {
-    HoardStore& store = hoardOf(state.range(0)).store;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(store.fetchRecent(500));
+    Hoard& hoard = hoardOf(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        sqlite3_exec(hoard.bare, "UPDATE notifications SET pinned = 1 - pinned WHERE id = 1",
+                     nullptr, nullptr, nullptr);
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(hoard.store.fetchRecent(500));
+    }
 }
 
 void fetchBare(benchmark::State& state) {
     sqlite3* const bare = hoardOf(state.range(0)).bare;
     for (auto _ : state)
         benchmark::DoNotOptimize(bareFetch(bare, 500));
+}
+
+// A capture and the list that it leads to.
+void captureOurs(benchmark::State& state) {
+    HoardStore& store = hoardOf(state.range(0)).store;
+    store.fetchRecent(500);
+    store.insertDeduplicated(notification());
+    for (auto _ : state) {
+        store.insertDeduplicated(notification());
+        benchmark::DoNotOptimize(store.fetchRecent(500));
+    }
+}
+
+void captureBare(benchmark::State& state) {
+    sqlite3* const bare = hoardOf(state.range(0) + 1).bare;
+    for (auto _ : state) {
+        bareInsertDeduplicated(bare, notification());
+        benchmark::DoNotOptimize(bareFetch(bare, 500));
+    }
 }
 
 BENCHMARK(insertOurs)->Name("insert/ours")->Iterations(200);
@@ -215,5 +240,7 @@ void sizes(benchmark::internal::Benchmark* benchmark) {
 
 BENCHMARK(fetchOurs)->Name("fetchRecent/ours")->Apply(sizes);
 BENCHMARK(fetchBare)->Name("fetchRecent/bare")->Apply(sizes);
+BENCHMARK(captureOurs)->Name("capture/ours")->Apply(sizes);
+BENCHMARK(captureBare)->Name("capture/bare")->Apply(sizes);
 
 } // namespace
