@@ -16,6 +16,8 @@ namespace {
 constexpr qint64 firstLoadLimit = 500;
 constexpr qint64 loadStep = 500;
 
+constexpr double readAheadRetry = 1.0; // seconds
+
 // As long as a group takes to open or close, and a little more for the last frame.
 constexpr double togglingSeconds = 0.2;
 
@@ -36,10 +38,12 @@ ContentView::ContentView(Services services)
     };
     connect(&services_.preferences, &PreferencesStore::changed, this,
             [this] { lines_.marksChanged(); });
-    connect(services_.listener.get(), &NotificationListener::notificationsChanged, this,
-            &ContentView::takeList);
-    if (!notifications().empty())
-        takeList();
+    hasList_ = !notifications().empty();
+    connect(services_.listener.get(), &NotificationListener::notificationsChanged, this, [this] {
+        hasList_ = true;
+        if (isShown_)
+            takeList();
+    });
 }
 
 const NotificationList& ContentView::notifications() const {
@@ -61,22 +65,26 @@ std::vector<NotificationGroup> ContentView::groupedByDate() const {
     return tessarine::groupedByDate(filteredNotifications());
 }
 
-QStringList ContentView::apps() const {
-    return uniqueApps(notifications());
-}
-
 // The list
 
 void ContentView::appear() {
+    isShown_ = true;
+    loadedCount_ = notifications().size();
     hoardTotalCount_ = hoard().totalCount();
-    Q_EMIT listChanged();
+    takeList();
+    readAhead();
+}
+
+void ContentView::disappear() {
+    isShown_ = false;
 }
 
 void ContentView::takeList() {
     if (std::exchange(loadedCount_, notifications().size()) != notifications().size())
         hoardTotalCount_ = hoard().totalCount();
-    if (face_ == Face::Loading)
+    if (hasList_ && face_ == Face::Loading)
         face_ = Face::Waiting;
+    apps_ = uniqueApps(notifications());
     updateLines();
 }
 
@@ -131,6 +139,23 @@ QString ContentView::counterText() const {
 
 void ContentView::refreshList() {
     services_.listener->setNotifications(hoard().fetchRecent(loadLimit_));
+    readAhead();
+}
+
+// So that the next press of Load Older finds its rows read, however large the hoard is.
+void ContentView::readAhead() {
+    if (!canLoadOlder())
+        return;
+    Scheduler& scheduler = services_.scheduler;
+    const auto tryAgain = [self = QPointer<ContentView>(this)] {
+        if (self && self->isShown_)
+            self->readAhead();
+    };
+    scheduler.onGlobalQueue(QualityOfService::utility, [&hoard = hoard(), &scheduler, tryAgain,
+                                                        limit = loadLimit_ + loadStep] {
+        if (hoard.readAhead(limit) == ReadingAhead::gaveWay)
+            scheduler.onMainAfter(readAheadRetry, tryAgain);
+    });
 }
 
 void ContentView::loadOlder() {

@@ -111,12 +111,13 @@ public:
     bool hasNotifications() const;
     bool canLoadOlder() const;
     QString counterText() const;
-    QStringList apps() const;
+    const QStringList& apps() const { return apps_; }
     qint64 hoardTotalCount() const { return hoardTotalCount_; }
     qint64 loadLimit() const { return loadLimit_; }
 
-    // To be called when the view is first shown.
+    // To be called whenever the view is shown, and hidden. A hidden one derives nothing.
     void appear();
+    void disappear();
 
     void refreshList(); // from the hoard, as many rows as this view has asked for
     Q_INVOKABLE void loadOlder();
@@ -209,6 +210,7 @@ private:
     const NotificationList& notifications() const;
     HoardStore& hoard() const { return services_.hoard(); }
     void takeList();
+    void readAhead();
     void updateLines();
     void updateMarks();
     void tellOfMarks();
@@ -261,6 +263,9 @@ private:
     qint64 hoardTotalCount_ = 0;
     qint64 loadLimit_ = 500;
 
+    bool isShown_ = false;
+    bool hasList_ = false; // the listener has published one, empty or not
+    QStringList apps_;     // of the list
     Face face_ = Face::Loading;
     std::size_t loadedCount_ = 0; // of the list when it was last taken
     qsizetype shownCount_ = 0;    // of the rows that pass the filters

@@ -5,21 +5,15 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <set>
 
 namespace tessarine {
 
 namespace {
-
-struct PlainTextOrder {
-    bool operator()(const QString& left, const QString& right) const {
-        return plainTextLess(left, right);
-    }
-};
 
 double sortKey(const CapturedNotification& row) {
     return std::isnan(row.timestamp) ? -std::numeric_limits<double>::infinity() : row.timestamp;
@@ -158,10 +152,12 @@ std::vector<NotificationGroup> groupedByDate(const NotificationList& rows) {
 }
 
 QStringList uniqueApps(const NotificationList& rows) {
-    std::set<QString, PlainTextOrder> names;
+    QSet<QString> names;
     for (const CapturedNotification& row : rows)
         names.insert(row.appName);
-    return {names.begin(), names.end()};
+    QStringList sorted(names.begin(), names.end());
+    std::sort(sorted.begin(), sorted.end(), plainTextLess);
+    return sorted;
 }
 
 QStringList uniqueDays(const NotificationList& rows) {

@@ -94,10 +94,10 @@ void MainWindow::watchFrame() {
 
 void MainWindow::onVisibleChanged(bool visible) {
     if (visible) {
-        if (!std::exchange(hasAppeared_, true))
-            content_->appear();
+        content_->appear();
         return;
     }
+    content_->disappear();
     saveTimer_.stop();
     saveFrame();
 }

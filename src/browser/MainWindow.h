@@ -46,7 +46,6 @@ private:
     std::unique_ptr<ContentView> content_;
     std::unique_ptr<QQuickView> window_;
     std::unique_ptr<KeyMonitor> keyMonitor_;
-    bool hasAppeared_ = false;
 };
 
 } // namespace tessarine

@@ -69,15 +69,24 @@ NotificationList HoardStore::fetchRecent(qint64 limit) {
     });
 }
 
-bool HoardStore::readAhead(qint64 limit) {
+ReadingAhead HoardStore::readAhead(qint64 limit) {
+    struct Interruption {
+        const SerialQueue& queue;
+        bool happened = false;
+    };
+    const auto interruptIfWaitedFor = [](void* context) {
+        auto* const interruption = static_cast<Interruption*>(context);
+        interruption->happened = interruption->queue.isWaitedFor();
+        return interruption->happened ? 1 : 0;
+    };
     return queue_.sync([&] {
-        const auto isWaitedFor = [](void* queue) {
-            return static_cast<const SerialQueue*>(queue)->isWaitedFor() ? 1 : 0;
-        };
-        db_.setInterruptTest(isWaitedFor, &queue_);
+        Interruption interruption{queue_};
+        db_.setInterruptTest(interruptIfWaitedFor, &interruption);
         const bool isKnown = knowRecent(limit);
         db_.setInterruptTest(nullptr, nullptr);
-        return isKnown;
+        if (isKnown)
+            return ReadingAhead::done;
+        return interruption.happened ? ReadingAhead::gaveWay : ReadingAhead::impossible;
     });
 }
 

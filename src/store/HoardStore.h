@@ -27,6 +27,13 @@ struct DistinctApp {
 
 using DistinctAppList = std::vector<DistinctApp>;
 
+// What a reading ahead came to.
+enum class ReadingAhead {
+    done,
+    gaveWay,    // to be tried again some time
+    impossible, // the hoard can't be read, or its order can't be kept
+};
+
 // What became of a notification that was to be stored.
 enum class Insertion {
     stored,  // a row was added
@@ -73,9 +80,8 @@ public:
     NotificationList fetchRecent(qint64 limit);
 
     // Sees to it that fetchRecent with this limit has no table to sort. For workers: in a large
-    // hoard it takes seconds. It gives way as soon as another thread waits for the hoard, and is
-    // then to be called again some time. True when the rows are known.
-    bool readAhead(qint64 limit);
+    // hoard it takes seconds. It gives way as soon as another thread waits for the hoard.
+    ReadingAhead readAhead(qint64 limit);
 
     qint64 totalCount();
     qint64 maxSystemNoteId(); // 0 when there is none

@@ -13,12 +13,14 @@ class ContentViewTest : public BrowserTest {};
 // Faces
 
 TEST_F(ContentViewTest, LoadsUntilTheFirstListCame) {
-    const ContentView fresh(services());
+    ContentView fresh(services());
+    fresh.appear();
     EXPECT_EQ(fresh.face(), Face::Loading);
 }
 
 TEST_F(ContentViewTest, WaitsOverAnEmptyHoard) {
     ContentView fresh(services());
+    fresh.appear();
     listener->start();
     system.scheduler.settle();
     EXPECT_EQ(fresh.face(), Face::Waiting);
@@ -28,6 +30,7 @@ TEST_F(ContentViewTest, WaitsOverAnEmptyHoard) {
 TEST_F(ContentViewTest, ShowsWhatTheHoardHolds) {
     store(u"Mail"_qs, u"Hello"_qs, 1);
     ContentView fresh(services());
+    fresh.appear();
     listener->start();
     system.scheduler.settle();
     EXPECT_EQ(fresh.face(), Face::List);
@@ -38,6 +41,61 @@ TEST_F(ContentViewTest, TakesAListThatWasThereBefore) {
     storeMany(3);
     EXPECT_EQ(open().face(), Face::List);
     EXPECT_EQ(view->lines()->rowCount(), 3);
+}
+
+// Hidden and shown again
+
+TEST_F(ContentViewTest, DerivesNothingWhileItIsHidden) {
+    storeMany(3);
+    open();
+    view->disappear();
+    int told = 0;
+    QObject::connect(view.get(), &ContentView::listChanged, [&told] { ++told; });
+    store(u"Chat"_qs, u"New"_qs, 0);
+    reload();
+    EXPECT_EQ(told, 0);
+    EXPECT_EQ(view->lines()->rowCount(), 3);
+    view->appear();
+    EXPECT_GT(told, 0);
+    EXPECT_EQ(view->lines()->rowCount(), 4);
+    EXPECT_EQ(view->apps(), QStringList({u"Chat"_qs, u"Mail"_qs}));
+}
+
+TEST_F(ContentViewTest, ShowsAnEmptiedHoardAsWaitingAfterItWasHidden) {
+    storeMany(3);
+    open();
+    view->disappear();
+    listener->setNotifications({});
+    view->appear();
+    EXPECT_EQ(view->face(), Face::Waiting);
+}
+
+TEST_F(ContentViewTest, CountsTheHoardAnewEachTimeItIsShown) {
+    storeMany(600);
+    open();
+    view->disappear();
+    ASSERT_TRUE(testing::DatabaseFile(hoard.path())
+                    .run(u"INSERT INTO notifications (title) VALUES ('old'), ('older')"_qs));
+    view->appear();
+    EXPECT_EQ(view->hoardTotalCount(), 602);
+}
+
+TEST_F(ContentViewTest, ReadsAheadWhatLoadOlderWillAskFor) {
+    storeMany(2600);
+    open();
+    system.scheduler.settle();
+    view->loadOlder();
+    EXPECT_EQ(system.scheduler.waitingGlobalTasks(), 1U);
+    system.scheduler.settle();
+    EXPECT_EQ(system.scheduler.waitingGlobalTasks(), 0U);
+    view->loadOlder();
+    EXPECT_EQ(listener->notifications().size(), 1500U);
+}
+
+TEST_F(ContentViewTest, ReadsNothingAheadWhereEverythingIsLoaded) {
+    storeMany(3);
+    open();
+    EXPECT_EQ(system.scheduler.waitingGlobalTasks(), 0U);
 }
 
 TEST_F(ContentViewTest, ShowsAFilterThatNothingPassesAsFruitless) {

@@ -327,16 +327,16 @@ TEST_F(HoardKeptRows, AreReadAheadWithoutAnAnswer) {
     start();
     trace.listenToNoFurtherConnection();
     fill(3000);
-    EXPECT_TRUE(store->readAhead(1000));
+    EXPECT_EQ(store->readAhead(1000), ReadingAhead::done);
     trace.taken();
-    EXPECT_TRUE(store->readAhead(1000));
+    EXPECT_EQ(store->readAhead(1000), ReadingAhead::done);
     EXPECT_THAT(answer(1000), ContainerEq(outsider.list(1000)));
     EXPECT_EQ(trace.taken().filter(u"ORDER BY"_qs).size(), 0);
 }
 
 TEST_F(HoardKeptRows, AreNotKnownWhereTheyCanNotBeReadAhead) {
     outsider.run(u"INSERT INTO notifications (pinned) VALUES ('yes')"_qs);
-    EXPECT_FALSE(store->readAhead(10));
+    EXPECT_EQ(store->readAhead(10), ReadingAhead::impossible);
     EXPECT_THAT(answer(10), ContainerEq(outsider.list(10)));
 }
 

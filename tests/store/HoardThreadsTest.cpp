@@ -131,11 +131,11 @@ TEST_F(HoardThreads, MakeAReadingAheadGiveWay) {
         while (isReading)
             store->totalCount();
     });
-    while (store->readAhead(1000))
+    while (store->readAhead(1000) != ReadingAhead::gaveWay)
         ASSERT_TRUE(file().run(u"UPDATE notifications SET title = 'x' WHERE id = 1"_qs));
     isReading = false;
     other.join();
-    EXPECT_TRUE(store->readAhead(1000));
+    EXPECT_EQ(store->readAhead(1000), ReadingAhead::done);
     EXPECT_EQ(store->fetchRecent(1000).size(), 1000U);
 }
 
