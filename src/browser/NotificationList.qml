@@ -26,6 +26,7 @@ FocusScope {
         focus: true
         activeFocusOnTab: true
         keyNavigationEnabled: false
+        currentIndex: -1 // a current item has a highlight, unseen, that moves for 200 ms at each capture
         model: root.view.lines
         spacing: Metrics.spacingSmall
         topMargin: Metrics.spacingSmall

@@ -35,6 +35,7 @@ Item {
     signal toggleSelection(uuid id)
     signal menuRequested(uuid id, point place) // in the window
 
+    property bool isComplete // and so may fade; what is only scrolled into sight is there at once
     property bool hasArrived: !isArriving
     property real clarity: 1 // of the texts, while they come out from under the mask
 
@@ -49,11 +50,16 @@ Item {
     Accessible.checked: selectionMode && isSelected
     Accessible.onPressAction: reactions.click()
 
-    Component.onCompleted: hasArrived = true
+    Component.onCompleted: {
+        isComplete = true;
+        hasArrived = true;
+    }
     // A reload is a new list, and its rows know every icon that was found since.
     onNotificationIdChanged: icon.rebuild()
 
     Behavior on opacity {
+        enabled: row.isComplete
+
         NumberAnimation {
             duration: Metrics.gentle
             easing.type: Easing.InOutQuad

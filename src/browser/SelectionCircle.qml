@@ -12,16 +12,23 @@ Item {
     readonly property int symbolTop: 8
     readonly property int symbolSize: 18
 
+    property bool isComplete // and so may open and close; a new row has its place at once
+
     width: shown ? column : 0
     height: symbolTop + symbolSize
     opacity: shown ? 1 : 0
     visible: opacity > 0
+    Component.onCompleted: isComplete = true
 
     Behavior on width {
+        enabled: circle.isComplete
+
         NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }
     }
 
     Behavior on opacity {
+        enabled: circle.isComplete
+
         NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }
     }
 

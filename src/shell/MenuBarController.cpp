@@ -57,7 +57,11 @@ void MenuBarController::updateBadge() {
     // A count from a file may be any number: the difference saturates where the badge does.
     const qint64 count = listCount();
     const quint64 unseen = lastSeenCount_ < count ? quint64(count) - quint64(lastSeenCount_) : 0;
-    statusItem_.setTitle(badge(qint64(std::min(unseen, quint64(badgeLimit)))));
+    const QString title = badge(qint64(std::min(unseen, quint64(badgeLimit))));
+    if (shownTitle_ == title)
+        return; // each telling draws the item anew
+    shownTitle_ = title;
+    statusItem_.setTitle(title);
 }
 
 void MenuBarController::fillMenu(QMenu& menu) const {

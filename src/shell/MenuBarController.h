@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QMenu;
 
@@ -45,6 +46,7 @@ private:
     Action openHoard_;
     Action quit_;
     qint64 lastSeenCount_;
+    std::optional<QString> shownTitle_;
 };
 
 } // namespace tessarine

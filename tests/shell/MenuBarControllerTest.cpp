@@ -98,6 +98,16 @@ TEST_F(MenuBarTest, MarkingAllSeenClearsTheBadgeAndStoresTheCount) {
     EXPECT_EQ(controller_->lastSeenCount(), 5);
 }
 
+TEST_F(MenuBarTest, ABadgeThatStaysIsNotDrawnAnew) {
+    launch();
+    publish(200);
+    const int before = item_.titlesSet;
+    publish(201);
+    EXPECT_EQ(item_.titlesSet, before);
+    publish(5);
+    EXPECT_EQ(item_.titlesSet, before + 1);
+}
+
 TEST_F(MenuBarTest, TheSeenCountOutlivesTheProcess) {
     launch();
     publish(5);

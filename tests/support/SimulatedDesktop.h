@@ -17,13 +17,17 @@ public:
         symbol = symbolName;
         description = accessibilityDescription;
     }
-    void setTitle(const QString& text) override { title = text; }
+    void setTitle(const QString& text) override {
+        title = text;
+        ++titlesSet;
+    }
     void setMenuBuilder(MenuBuilder builder) override { menuBuilder = std::move(builder); }
     void show() override { shown = true; }
 
     QString symbol;
     QString description;
     QString title = QStringLiteral("never set");
+    int titlesSet = 0;
     MenuBuilder menuBuilder;
     bool shown = false;
 };

@@ -88,6 +88,26 @@ TEST_F(RowTest, TellsAScreenReaderItsWholeContent) {
     EXPECT_EQ(accessible(&list())->text(QAccessible::Name), u"Notifications"_qs);
 }
 
+// An animation would draw a dozen frames at each capture.
+TEST_F(RowTest, ACapturedRowIsThereAtOnce) {
+    showList(numbered(3));
+    publish(numbered(4));
+    draw();
+    QQuickItem* const captured = row(u"Title 4"_qs);
+    ASSERT_NE(captured, nullptr);
+    EXPECT_EQ(captured->opacity(), 1);
+    int circles = 0;
+    for (const QQuickItem* child : captured->childItems()) {
+        if (!child->property("checked").isValid())
+            continue;
+        ++circles;
+        EXPECT_EQ(child->opacity(), 0);
+        EXPECT_EQ(child->width(), 0);
+    }
+    EXPECT_EQ(circles, 1);
+    EXPECT_EQ(list().property("highlightItem").value<QQuickItem*>(), nullptr);
+}
+
 TEST_F(RowTest, RowsOutOfSightAreNotBuilt) {
     showList(numbered(500));
     EXPECT_NE(row(u"Title 500"_qs), nullptr);
