@@ -1,6 +1,7 @@
 #include "apps/AppIconResolver.h"
 #include "apps/AppIconView.h"
 #include "core/AppDelegate.h"
+#include "core/ApplicationSetup.h"
 #include "platform/SingleInstance.h"
 #include "theme/ViewEngine.h"
 
@@ -27,10 +28,7 @@ int main(int argc, char** argv) {
         return EXIT_SUCCESS;
     }
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Tessarine"));
-    QApplication::setDesktopFileName(QStringLiteral("com.zorvek.Tessarine"));
-    // Capture goes on with all windows closed.
-    QApplication::setQuitOnLastWindowClosed(false);
+    setUpApplication();
     Platform::install(makePlatform());
 
     Desktop::install(makeDesktop());
