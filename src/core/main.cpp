@@ -22,7 +22,8 @@ NotificationListener::Services captureServices() {
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
+    const std::unique_ptr<SingleInstance> instance =
+        makeSingleInstance(hoardPath(*makeFileSystem()));
     if (!instance->claim()) {
         instance->activateFirst();
         return EXIT_SUCCESS;

@@ -31,4 +31,7 @@ struct Platform {
 // the thread it is called on is the main thread from then on.
 std::unique_ptr<Platform> makePlatform();
 
+// One of them alone, for what comes before the application object.
+std::unique_ptr<FileSystem> makeFileSystem();
+
 } // namespace tessarine

@@ -15,7 +15,8 @@ namespace tessarine {
 std::error_code writePrivately(const QString& path, const QByteArray& bytes);
 
 // Puts a file in the place of the one that is there, all at once: whatever fails, the old one is
-// untouched and nothing else left behind. A symbolic link stays; what it points to is replaced.
+// untouched and nothing else left behind. A symbolic link stays; what it points to is replaced. One
+// that a stranger put into a folder that anyone can write to is refused.
 std::error_code replacePrivately(const QString& path, const QByteArray& bytes);
 
 } // namespace tessarine

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <memory>
 
 namespace tessarine {
 
-// Sees to it that one copy of the program runs for a user and a data folder. Main thread.
+// Sees to it that one copy of the program uses a file. Main thread.
 class SingleInstance {
 public:
     SingleInstance() = default;
@@ -13,19 +15,23 @@ public:
     SingleInstance& operator=(const SingleInstance&) = delete;
     virtual ~SingleInstance() = default;
 
-    // Whether this process is the first one. The claim holds until the process ends, however it
-    // ends. Writes no file.
+    // Whether this process may use the file: false while another copy has the claim, which then
+    // stands until that one's process ends, however it ends. True also where the system can keep no
+    // claim, as in a folder that can't be written to. Makes the file's folder where it is missing;
+    // changes nothing on the disk while another copy has the claim.
     virtual bool claim() = 0;
 
-    // Asks the first copy to come to the front, and returns without waiting for it to do so.
+    // After a claim that was refused: asks the first copy to come to the front, and returns without
+    // waiting for it to do so.
     virtual void activateFirst() = 0;
 
-    // What the first copy does when another one asks. Needs the application object.
+    // After a claim that was granted: what to do when another copy asks. Needs the application
+    // object.
     virtual void onActivation(std::function<void()> handler) = 0;
 };
 
-// The one of the system that the program was built for. Works before there is an application
-// object.
-std::unique_ptr<SingleInstance> makeSingleInstance();
+// The one of the system that the program was built for, for the file at a path, which need not be
+// there yet. Works before there is an application object.
+std::unique_ptr<SingleInstance> makeSingleInstance(const QString& path);
 
 } // namespace tessarine

@@ -4,6 +4,7 @@
 #include "store/Sqlite.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace tessarine {
 
@@ -42,20 +43,24 @@ const QString recIdsKey = QStringLiteral("lastSeenUsernotedRecIds");
 const QString timestampKey = QStringLiteral("lastSeenUsernotedTimestamp");
 const QString noteIdKey = QStringLiteral("lastSeenSystemNoteId");
 
-QString makeHoardPath(const FileSystem& fileSystem) {
-    const QStringList folders = fileSystem.applicationSupportDirectories();
-    if (folders.isEmpty())
-        qFatal("The system names no folder for application data");
-    const QString folder = folders.first() + QStringLiteral("/Tessarine");
-    QDir().mkpath(folder); // where that fails, opening fails too
-    return folder + QStringLiteral("/hoard.db");
+// The path, whose folder is there now. Where making it fails, opening fails too.
+QString madeFolderOf(const QString& path) {
+    QDir().mkpath(QFileInfo(path).path());
+    return path;
 }
 
 } // namespace
 
+QString hoardPath(const FileSystem& fileSystem) {
+    const QStringList folders = fileSystem.applicationSupportDirectories();
+    if (folders.isEmpty())
+        qFatal("The system names no folder for application data");
+    return folders.first() + QStringLiteral("/Tessarine/hoard.db");
+}
+
 HoardStore::HoardStore(const FileSystem& fileSystem, UserDefaults& defaults, const Scheduler& clock)
-    : dbPath_(makeHoardPath(fileSystem))
-    , db_(dbPath_, SqliteConnection::Mode::ownFile)
+    : dbPath_(hoardPath(fileSystem))
+    , db_(madeFolderOf(dbPath_), SqliteConnection::Mode::ownFile)
     , queue_("com.zorvek.Tessarine.store")
     , fileSystem_(fileSystem)
     , defaults_(defaults)

@@ -42,14 +42,16 @@ enum class Insertion {
     failed,  // the hoard can't be written: the disk is full, the file damaged, not to be opened ...
 };
 
+// Where the hoard lies: in the first folder for application data.
+QString hoardPath(const FileSystem& fileSystem);
+
 // The archive of every captured notification: one SQLite file. Any thread may call; each call
 // blocks until its work is done, one at a time. No operation reports an error: a hoard that can't
 // be opened answers false, empty or zero, and the program runs on.
 class HoardStore {
 public:
-    // Opens the hoard in the first folder for application data, making folder, file and schema as
-    // needed. The defaults hold the excluded applications and the capture cursors; the clock tells
-    // how old a row is.
+    // Opens the hoard, making folder, file and schema as needed. The defaults hold the excluded
+    // applications and the capture cursors; the clock tells how old a row is.
     HoardStore(const FileSystem& fileSystem, UserDefaults& defaults, const Scheduler& clock);
     HoardStore(const HoardStore&) = delete;
     HoardStore& operator=(const HoardStore&) = delete;

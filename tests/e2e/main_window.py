@@ -39,8 +39,7 @@ class MainWindow:
         return [name for role, name in self.elements() if role == "list item"]
 
     def xdotool(self, *arguments):
-        return subprocess.run(["xdotool", *arguments], env=self.session.environment,
-                              capture_output=True, text=True).stdout
+        return self.session.xdotool(*arguments)
 
     def press(self, *keys, delay=20):
         self.xdotool("key", "--delay", str(delay), *keys)
@@ -53,19 +52,4 @@ class MainWindow:
         self.xdotool("mousemove", *place, "click", "1")
 
     def open(self):
-        """By the status panel's menu, as on a desktop without a tray."""
-        def panel():
-            for window in self.session.windows("--onlyvisible", "--class", "tessarine"):
-                geometry = self.xdotool("getwindowgeometry", "--shell", window)
-                height = int(dict(line.split("=") for line in geometry.split())["HEIGHT"])
-                if height <= 60:
-                    return window
-            return None
-
-        self.xdotool("mousemove", "--window", wait_until(panel, "the panel"), "8", "8", "click", "1")
-
-        def opened():
-            self.xdotool("key", "--delay", "150", "Down", "Return")
-            return self.session.visible_main_window()
-
-        wait_until(opened, "the main window")
+        self.session.open_main_window()

@@ -19,6 +19,11 @@ WRITER = os.environ["TESSARINE_USERNOTED_WRITER"]
 USERNOTED = "Library/Group Containers/group.com.apple.usernoted/db2/db"
 DEFAULTS = "com.zorvek.Tessarine.conf"
 
+# Of the program's windows, in pixels.
+PANEL_HEIGHTS = range(10, 61)
+MENU_HEIGHTS = range(61, 400)
+MAIN_WINDOW_HEIGHTS = range(400, 10000)
+
 # Seconds to wait for what has to come. Only a failing test uses them up, so they are many.
 PATIENCE = 90
 
@@ -104,13 +109,16 @@ class Session:
             options.setdefault("user", self.user)
             options.setdefault("group", self.user)
             options.setdefault("extra_groups", [])
-        process = subprocess.Popen(command, env=self.environment, cwd=self.root, **options)
+        options.setdefault("env", self.environment)
+        process = subprocess.Popen(command, cwd=self.root, **options)
         self.processes.append(process)
         return process
 
-    def start_program(self, wait=True):
+    def start_program(self, wait=True, *, through=(), environment=None):
+        """Through another program that starts it, and with what is changed in its environment."""
         with open(self.root / "program.log", "ab") as log:
-            program = self.spawn(PROGRAM, stdout=log, stderr=log)
+            program = self.spawn(*through, PROGRAM, stdout=log, stderr=log,
+                                 env={**self.environment, **(environment or {})})
         if wait:
             self.wait_until_started(program)
         return program
@@ -190,8 +198,42 @@ class Session:
                                capture_output=True, text=True)
         return found.stdout.split()
 
+    def xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *arguments], env=self.environment,
+                              capture_output=True, text=True).stdout
+
+    def visible_window(self, heights):
+        """The program's window on the screen whose height is one of these. Titles don't tell its
+        windows apart: the status panel has the main window's."""
+        for window in self.windows("--onlyvisible", "--class", "tessarine"):
+            geometry = self.xdotool("getwindowgeometry", "--shell", window)
+            if int(dict(line.split("=") for line in geometry.split()).get("HEIGHT", 0)) in heights:
+                return window
+        return None
+
+    def visible_panel(self):
+        return self.visible_window(PANEL_HEIGHTS)
+
+    def visible_menu(self):
+        return self.visible_window(MENU_HEIGHTS)
+
     def visible_main_window(self):
-        return self.windows("--onlyvisible", "--name", "^Tessarine$")
+        return self.visible_window(MAIN_WINDOW_HEIGHTS)
+
+    def open_menu(self):
+        """The status panel's, as on a desktop without a tray."""
+        panel = wait_until(self.visible_panel, "the panel")
+        self.xdotool("mousemove", "--window", panel, "8", "8", "click", "1")
+        return wait_until(self.visible_menu, "the menu")
+
+    def close_menu(self):
+        self.xdotool("key", "Escape")
+        wait_until(lambda: not self.visible_menu(), "no menu")
+
+    def open_main_window(self):
+        self.open_menu()
+        self.xdotool("key", "--delay", "150", "Down", "Return")
+        return wait_until(self.visible_main_window, "the main window")
 
 
 class Daemon:

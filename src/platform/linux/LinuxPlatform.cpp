@@ -1,9 +1,9 @@
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
-#include "platform/linux/AbstractSocketInstance.h"
 #include "platform/linux/InotifyWatcher.h"
 #include "platform/linux/LinuxAccessibility.h"
 #include "platform/linux/LinuxFileSystem.h"
+#include "platform/linux/LinuxSingleInstance.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/SettingsDefaults.h"
@@ -24,7 +24,7 @@ QString defaultsPath() {
 std::unique_ptr<Platform> makePlatform() {
     auto platform = std::make_unique<Platform>();
     platform->userDefaults = std::make_unique<SettingsDefaults>(defaultsPath());
-    platform->fileSystem = std::make_unique<LinuxFileSystem>();
+    platform->fileSystem = makeFileSystem();
     platform->scheduler = std::make_unique<QtScheduler>();
     platform->fileWatcher = std::make_unique<InotifyWatcher>(*platform->scheduler);
     const auto banners = std::make_shared<BannerProcess>(*platform->scheduler);
@@ -35,9 +35,12 @@ std::unique_ptr<Platform> makePlatform() {
     return platform;
 }
 
-std::unique_ptr<SingleInstance> makeSingleInstance() {
-    const QStringList folders = LinuxFileSystem().applicationSupportDirectories();
-    return std::make_unique<AbstractSocketInstance>(folders.join(u'\n').toStdString());
+std::unique_ptr<FileSystem> makeFileSystem() {
+    return std::make_unique<LinuxFileSystem>();
+}
+
+std::unique_ptr<SingleInstance> makeSingleInstance(const QString& path) {
+    return std::make_unique<LinuxSingleInstance>(path);
 }
 
 } // namespace tessarine

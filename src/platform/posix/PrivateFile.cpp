@@ -1,52 +1,22 @@
 #include "platform/PrivateFile.h"
 
+#include "platform/posix/Descriptor.h"
+#include "platform/posix/Paths.h"
+
 #include <QFile>
 
 #include <cerrno>
-#include <climits>
 #include <cstdio>
 #include <cstdlib>
-#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace tessarine {
 
 namespace {
 
 constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
-constexpr int mostLinks = 40; // as many as the system itself follows
-
-std::error_code lastError() {
-    return {errno, std::generic_category()};
-}
-
-// An open file that is closed with the object.
-class Descriptor {
-public:
-    explicit Descriptor(int number)
-        : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { close(); }
-
-    bool isOpen() const { return number_ >= 0; }
-    int number() const { return number_; }
-
-    // Some file systems tell only here that the bytes found no room.
-    std::error_code close() {
-        if (!isOpen())
-            return {};
-        const int closing = number_;
-        number_ = -1;
-        return ::close(closing) == 0 || errno == EINTR ? std::error_code() : lastError();
-    }
-
-private:
-    int number_;
-};
 
 std::error_code writeAll(const Descriptor& file, const QByteArray& bytes) {
     const char* next = bytes.constData();
@@ -88,24 +58,6 @@ std::error_code writeRegular(const Descriptor& file, const QByteArray& bytes) {
     return {};
 }
 
-QByteArray folderOf(const QByteArray& path) {
-    return path.left(path.lastIndexOf('/') + 1);
-}
-
-// Where a symbolic link leads, also when nothing is there yet. Nothing for one that leads nowhere.
-std::optional<QByteArray> linkTarget(QByteArray path) {
-    for (int links = 0; links < mostLinks; ++links) {
-        QByteArray target(PATH_MAX, '\0');
-        const ssize_t size =
-            readlink(path.constData(), target.data(), static_cast<std::size_t>(target.size()));
-        if (size < 0)
-            return path;
-        target.truncate(size);
-        path = target.startsWith('/') ? target : folderOf(path) + target;
-    }
-    return std::nullopt;
-}
-
 std::error_code fill(Descriptor& file, const QByteArray& bytes) {
     narrow(file); // whatever the process masks
     if (const std::error_code error = writeAll(file, bytes))
@@ -129,16 +81,16 @@ std::error_code writePrivately(const QString& path, const QByteArray& bytes) {
 }
 
 std::error_code replacePrivately(const QString& path, const QByteArray& bytes) {
-    const std::optional<QByteArray> target = linkTarget(QFile::encodeName(path));
-    if (!target)
-        return {ELOOP, std::generic_category()};
+    QByteArray target = QFile::encodeName(path);
+    if (const std::error_code refusal = followLinks(target))
+        return refusal;
     // Its name owes nothing to the target's, which may be as long as names can be.
-    QByteArray temporary = folderOf(*target) + ".tessarine-XXXXXX";
+    QByteArray temporary = folderOf(target) + ".tessarine-XXXXXX";
     Descriptor file(mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.isOpen())
         return lastError();
     std::error_code error = fill(file, bytes);
-    if (!error && rename(temporary.constData(), target->constData()) != 0)
+    if (!error && rename(temporary.constData(), target.constData()) != 0)
         error = lastError();
     if (error)
         unlink(temporary.constData());
