@@ -11,12 +11,14 @@ namespace tessarine {
 // is private before its first byte, one that was there is narrowed before it is filled. A file that
 // can't be narrowed, as on a disk without modes, is written all the same. Any thread.
 
-// Writes into the file that is there, or a new one. A failure half-way leaves half a file.
+// Writes into the file that is there, or a new one. A failure half-way leaves half a file. A pipe
+// or a device takes the bytes at its own speed; a pipe that nobody reads is an error at once.
 std::error_code writePrivately(const QString& path, const QByteArray& bytes);
 
 // Puts a file in the place of the one that is there, all at once: whatever fails, the old one is
 // untouched and nothing else left behind. A symbolic link stays; what it points to is replaced. One
-// that a stranger put into a folder that anyone can write to is refused.
+// that a stranger put into a folder that anyone can write to is refused, and so is what can't be
+// replaced by a file: a pipe, a socket, a device.
 std::error_code replacePrivately(const QString& path, const QByteArray& bytes);
 
 } // namespace tessarine

@@ -29,7 +29,7 @@ QByteArray folderOf(const QByteArray& path) {
 }
 
 std::error_code followLinks(QByteArray& path) {
-    for (int links = 0; links < mostLinks; ++links) {
+    for (int links = 0; links <= mostLinks; ++links) {
         struct stat status {};
         if (lstat(path.constData(), &status) != 0 || !S_ISLNK(status.st_mode))
             return {}; // what else is wrong with the path shows when it is used

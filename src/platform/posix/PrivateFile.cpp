@@ -58,6 +58,19 @@ std::error_code writeRegular(const Descriptor& file, const QByteArray& bytes) {
     return {};
 }
 
+std::error_code writePatiently(const Descriptor& file, const QByteArray& bytes) {
+    static_cast<void>(fcntl(file.number(), F_SETFL, 0));
+    return writeAll(file, bytes);
+}
+
+// Pipes and devices have a place of their own for what is written to them; a file in their place
+// would break whatever others use them for.
+bool isPipeOrDevice(const QByteArray& path) {
+    struct stat status {};
+    return lstat(path.constData(), &status) == 0 && !S_ISREG(status.st_mode) &&
+           !S_ISDIR(status.st_mode);
+}
+
 std::error_code fill(Descriptor& file, const QByteArray& bytes) {
     narrow(file); // whatever the process masks
     if (const std::error_code error = writeAll(file, bytes))
@@ -71,12 +84,13 @@ std::error_code fill(Descriptor& file, const QByteArray& bytes) {
 } // namespace
 
 std::error_code writePrivately(const QString& path, const QByteArray& bytes) {
-    Descriptor file(
-        open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_CLOEXEC, ownerOnly));
+    // Not to be blocked by a pipe that nobody reads.
+    Descriptor file(open(QFile::encodeName(path).constData(),
+                         O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK, ownerOnly));
     if (!file.isOpen())
         return lastError();
     const std::error_code error =
-        isRegular(file) ? writeRegular(file, bytes) : writeAll(file, bytes);
+        isRegular(file) ? writeRegular(file, bytes) : writePatiently(file, bytes);
     return error ? error : file.close();
 }
 
@@ -84,6 +98,8 @@ std::error_code replacePrivately(const QString& path, const QByteArray& bytes) {
     QByteArray target = QFile::encodeName(path);
     if (const std::error_code refusal = followLinks(target))
         return refusal;
+    if (isPipeOrDevice(target))
+        return {EOPNOTSUPP, std::generic_category()};
     // Its name owes nothing to the target's, which may be as long as names can be.
     QByteArray temporary = folderOf(target) + ".tessarine-XXXXXX";
     Descriptor file(mkostemp(temporary.data(), O_CLOEXEC));

@@ -1,14 +1,18 @@
 #include "platform/PrivateFile.h"
 
+#include "support/ChildRun.h"
 #include "support/OrdinaryUser.h"
 #include "support/Printers.h"
+#include "support/SmallDisk.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -17,7 +21,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/mount.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,6 +30,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using testing::asOrdinaryUser;
+using testing::SmallDisk;
 
 using Write = std::error_code (*)(const QString& path, const QByteArray& bytes);
 
@@ -175,27 +180,6 @@ TEST_P(PrivateFileTest, GivesUpOnALinkToItself) {
     EXPECT_EQ(write(path(u"loop"_qs), "content").value(), ELOOP);
 }
 
-// A disk with room for 64 KiB.
-class SmallDisk {
-public:
-    explicit SmallDisk(const QString& path)
-        : path_(QFile::encodeName(path)) {
-        QDir().mkpath(path);
-        mounted_ = mount("tmpfs", path_.constData(), "tmpfs", 0, "size=64k") == 0;
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-    ~SmallDisk() {
-        if (mounted_)
-            umount(path_.constData());
-    }
-    bool isThere() const { return mounted_; }
-
-private:
-    QByteArray path_;
-    bool mounted_;
-};
-
 TEST_P(PrivateFileTest, TellsThatTheDiskIsFull) {
     const SmallDisk disk(path(u"disk"_qs));
     if (!disk.isThere())
@@ -247,6 +231,45 @@ TEST(WritePrivately, LeavesTheModeOfADevice) {
     const mode_t before = modeOf(u"/dev/full"_qs);
     EXPECT_EQ(writePrivately(u"/dev/full"_qs, "content").value(), ENOSPC);
     EXPECT_EQ(modeOf(u"/dev/full"_qs), before);
+}
+
+TEST(WritePrivately, DoesNotWaitForAReaderOfAPipe) {
+    const testing::NoWaiting limit;
+    const QTemporaryDir folder;
+    const QByteArray path = QFile::encodeName(folder.filePath(u"pipe"_qs));
+    ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
+    EXPECT_EQ(writePrivately(QFile::decodeName(path), "content").value(), ENXIO);
+}
+
+TEST(WritePrivately, FillsAPipeAsFastAsItIsRead) {
+    const QTemporaryDir folder;
+    const QByteArray path = QFile::encodeName(folder.filePath(u"pipe"_qs));
+    ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
+    const int end = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const QByteArray much(1'000'000, 'x'); // more than a pipe holds
+    std::error_code error;
+    std::thread writer([&] { error = writePrivately(QFile::decodeName(path), much); });
+    for (int waiting = 0; waiting < fcntl(end, F_GETPIPE_SZ); ioctl(end, FIONREAD, &waiting))
+        std::this_thread::yield();
+    ASSERT_EQ(fcntl(end, F_SETFL, 0), 0); // from here on, to wait for the writer
+    qsizetype size = 0;
+    std::array<char, 65536> part{};
+    for (ssize_t read = 1; read > 0; size += read)
+        read = ::read(end, part.data(), part.size());
+    writer.join();
+    close(end);
+    EXPECT_FALSE(error);
+    EXPECT_EQ(size, much.size());
+}
+
+TEST(ReplacePrivately, LeavesAPipe) {
+    const QTemporaryDir folder;
+    const QByteArray path = QFile::encodeName(folder.filePath(u"pipe"_qs));
+    ASSERT_EQ(mkfifo(path.constData(), 0644), 0);
+    EXPECT_EQ(replacePrivately(QFile::decodeName(path), "content").value(), EOPNOTSUPP);
+    EXPECT_EQ(modeOf(QFile::decodeName(path)), mode_t(0644));
+    EXPECT_FALSE(QFileInfo(QFile::decodeName(path)).isFile());
+    EXPECT_EQ(entriesOf(folder.path()), QStringList(u"pipe"_qs));
 }
 
 TEST(ReplacePrivately, LeavesTheOldFileWhenTheDiskIsFull) {
