@@ -31,17 +31,21 @@ constexpr double textWidth = right - left;
 constexpr double contentTop = 786;    // cursors count downwards from here
 constexpr double contentHeight = 738; // as far as a cursor may come
 
-QFont systemFont(double size, QFont::Weight weight) {
-    QFont font = textFont();
+// Of the window's faces the report has their families alone: slant, weight and whatever else the
+// desktop's font has been given belong to that desktop, and a report looks the same from each.
+QFont reportFont(const QFont& face, double size, QFont::Weight weight) {
+    QFont font(face.families());
     font.setPointSizeF(size);
     font.setWeight(weight);
     return font;
 }
 
+QFont systemFont(double size, QFont::Weight weight) {
+    return reportFont(textFont(), size, weight);
+}
+
 QFont monospacedSystemFont(double size) {
-    QFont font = monospacedFont();
-    font.setPointSizeF(size);
-    return font;
+    return reportFont(monospacedFont(), size, QFont::Normal);
 }
 
 void finishPage(ReportCanvas& canvas, int number) {

@@ -3,13 +3,15 @@
 //   export_lines FORMAT FILE [PRIVATE_ID...] <LINES
 //
 // Each line is a notification as a JSON object: "app", "id", "title", "body" and "time", in seconds
-// since the reference date. The format is "txt", "csv" or "pdf".
+// since the reference date. The format is "txt", "csv" or "pdf". With ODD_DESKTOP_FONT in the
+// environment the desktop's font is one that nobody would print with.
 
 #include "export/ExportManager.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
 
 #include <QFile>
+#include <QFont>
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -56,11 +58,26 @@ ExportResult exported(const ExportManager& manager, const QString& format, const
     return ExportResult::failure(QStringLiteral("unknown format"));
 }
 
+QFont oddFont() {
+    QFont font(QStringLiteral("DejaVu Serif"), 30, QFont::Black, true);
+    font.setStyleName(QStringLiteral("Bold Italic"));
+    font.setStretch(QFont::Condensed);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, 5);
+    font.setWordSpacing(5);
+    font.setCapitalization(QFont::AllUppercase);
+    font.setUnderline(true);
+    font.setOverline(true);
+    font.setStrikeOut(true);
+    return font;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
+    if (qEnvironmentVariableIsSet("ODD_DESKTOP_FONT"))
+        QGuiApplication::setFont(oddFont());
     const QStringList arguments = QGuiApplication::arguments();
     if (arguments.size() < 3)
         return 2;

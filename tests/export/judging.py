@@ -34,11 +34,11 @@ class JudgeTestCase(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = folder.name
 
-    def export(self, file_format, records, *private_ids, locale="en_US.UTF-8"):
-        """Exports the records; gives the path of the file."""
+    def export(self, file_format, records, *private_ids, locale="en_US.UTF-8", **variables):
+        """Exports the records with these in the environment; gives the path of the file."""
         path = os.path.join(self.folder, "out." + file_format)
         lines = "".join(json.dumps(each) + "\n" for each in records)
-        environment = dict(os.environ, TZ="UTC", LC_ALL=locale)
+        environment = dict(os.environ, TZ="UTC", LC_ALL=locale, **variables)
         done = subprocess.run([self.exporter, file_format, path, *private_ids], env=environment,
                               input=lines, text=True, encoding="utf-8", timeout=PATIENCE)
         self.assertEqual(done.returncode, 0)

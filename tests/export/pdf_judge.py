@@ -49,9 +49,9 @@ def bounds(subpaths):
 
 
 class PdfJudge(judging.JudgeTestCase):
-    def judge(self, records, *private_ids):
+    def judge(self, records, *private_ids, **variables):
         """Compares every page with the model; gives the file's path and the model's pages."""
-        path = self.export("pdf", records, *private_ids)
+        path = self.export("pdf", records, *private_ids, **variables)
         file = pdf_reading.PdfFile(path)
         shown = [dict(each, title="[hidden]", body="[hidden]") if each["id"] in private_ids
                  else each for each in records]
@@ -313,6 +313,18 @@ class PdfJudge(judging.JudgeTestCase):
         self.assertGreater(len(fonts), 4)
         for font in fonts:
             self.assertRegex(font, r" yes +(yes|no) +yes +\d+ +0$")
+
+    def faces(self, path):
+        """The names of the embedded faces, without the tags of their subsets."""
+        done = subprocess.run(["pdffonts", path], check=True, capture_output=True, text=True)
+        return sorted(line.split()[0].split("+")[-1] for line in done.stdout.splitlines()[2:])
+
+    def test_the_desktops_font_changes_nothing(self):
+        path, _ = self.judge(rows(3))
+        plain = self.faces(path)
+        self.assertFalse([face for face in plain if re.search("italic|oblique", face.lower())])
+        path, _ = self.judge(rows(3), ODD_DESKTOP_FONT="yes")
+        self.assertEqual(self.faces(path), plain)
 
     def test_title_and_date_are_told(self):
         done = subprocess.run(["pdfinfo", self.export("pdf", [])], check=True, capture_output=True,
