@@ -30,11 +30,12 @@ public:
         return iconCacheKey(bundleId, appName);
     }
 
-    // Calls the completion with the icon: at once if it is known, else when it has been looked up.
-    // Never, if that lookup is under way already: the second to ask gets no answer.
+    // Calls the completion with the icon, or a null one where there is none: at once if it is
+    // known, else when it has been looked up. Never, if that lookup is under way already: the
+    // second to ask gets no answer.
     void resolve(const QString& bundleId, const QString& appName, Completion completion);
 
-    // The finished icons by their keys.
+    // The finished icons by their keys; null ones among them.
     const QHash<QString, QImage>& cache() const { return cache_; }
 
     // The lookups themselves, which touch nothing of the resolver's state. Any thread.

@@ -69,7 +69,7 @@ void AppIconView::rebuild() {
         return;
     const AppIconResolver* const icons = resolver();
     startedTask_.clear();
-    setHasIcon(icons && icons->cache().contains(cacheKey()));
+    setHasIcon(icons && !icons->cache().value(cacheKey()).isNull());
     Q_EMIT iconSourceChanged();
     polish();
 }
@@ -85,10 +85,11 @@ void AppIconView::updatePolish() {
     if (!isVisible() || hasIcon_ || !icons || startedTask_ == taskId())
         return;
     startedTask_ = taskId();
-    icons->resolve(bundleId_, appName_, [view = QPointer(this), key = cacheKey()](const QImage&) {
-        if (view && view->cacheKey() == key)
-            view->setHasIcon(true);
-    });
+    icons->resolve(bundleId_, appName_,
+                   [view = QPointer(this), key = cacheKey()](const QImage& icon) {
+                       if (view && view->cacheKey() == key)
+                           view->setHasIcon(!icon.isNull());
+                   });
 }
 
 AppIconResolver* AppIconView::resolver() const {

@@ -25,6 +25,8 @@ bool hasRealBundleId(const QString& bundleId) {
 }
 
 QImage finished(const QImage& icon) {
+    if (icon.isNull())
+        return icon;
     constexpr int pixels = iconSize * density;
     QImage copy = icon.convertToFormat(QImage::Format_ARGB32_Premultiplied)
                       .scaled(pixels, pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

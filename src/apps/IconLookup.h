@@ -24,8 +24,8 @@ struct IconSources {
 // its name.
 QString iconCacheKey(const QString& bundleId, const QString& appName);
 
-// The icon of an application, by a chain of lookups that ends with the generic icon: never null.
-// A picture of 36 by 36 points, sharp at three times that. Any thread.
+// The icon of an application, by a chain of lookups that ends with the generic icon: null only
+// where the system has none. A picture of 36 by 36 points, sharp at three times that. Any thread.
 QImage lookUpIcon(const IconSources& sources, const QString& bundleId, const QString& appName);
 
 // Whether the names are those of one of the system's agents that have no application of their own

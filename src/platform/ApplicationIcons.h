@@ -22,7 +22,7 @@ public:
 
     virtual QImage iconForRunningApplication(const RunningApplication& application) const = 0;
 
-    // What stands for any application. Never null.
+    // What stands for any application. Null on a system that leaves this to its applications.
     virtual QImage genericApplicationIcon() const = 0;
 };
 

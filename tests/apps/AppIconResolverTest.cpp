@@ -101,6 +101,17 @@ TEST_F(AppIconResolverTest, KeepsTheGenericIconOfAFailedLookup) {
     EXPECT_EQ(answers[1].pixelColor(54, 54), QColor(Qt::gray));
 }
 
+TEST_F(AppIconResolverTest, LooksOnceForAnIconThatDoesNotExist) {
+    icons.generic = QImage();
+    resolve(u"com.example.new"_qs, u"New"_qs);
+    system.scheduler.settle();
+    resolve(u"com.example.new"_qs, u"New"_qs);
+    EXPECT_EQ(system.scheduler.waitingGlobalTasks(), 0U);
+    ASSERT_EQ(answers.size(), 2U);
+    EXPECT_TRUE(answers[0].isNull());
+    EXPECT_TRUE(answers[1].isNull());
+}
+
 TEST_F(AppIconResolverTest, AnswersNobodyWhenItIsGone) {
     resolve(u"com.example.foo"_qs, u"Foo"_qs);
     resolver.reset();

@@ -132,6 +132,11 @@ TEST_F(IconLookupTest, EndsWithTheGenericIcon) {
     EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(36, 36));
 }
 
+TEST_F(IconLookupTest, EndsWithNoneWhereTheSystemHasNoGenericIcon) {
+    icons.generic = QImage();
+    EXPECT_TRUE(lookUpIcon(sources, u"com.example.foo"_qs, u"Foo"_qs).isNull());
+}
+
 TEST_F(IconLookupTest, TakesTheGenericIconWhateverItsSize) {
     icons.generic = square(8, Qt::cyan);
     EXPECT_EQ(colour({}, u"Foo"_qs), QColor(Qt::cyan));

@@ -65,6 +65,17 @@ TEST_F(AppIconViewTest, ShowsTheIconWhenItHasCome) {
     EXPECT_EQ(picture.pixelColor(0, 0), QColor(Qt::white));
 }
 
+TEST_F(AppIconViewTest, KeepsItsPlaceholderWhereThereIsNoIcon) {
+    icons.generic = QImage();
+    AppIconView* view = add(u"com.example.bar"_qs, u"Bar"_qs);
+    for (int i = 0; i < 2; ++i) { // when it is looked up, and when that is known
+        EXPECT_EQ(frame().pixelColor(18, 3), view->placeholderColour());
+        EXPECT_TRUE(shows(view, u"placeholder"_qs));
+        EXPECT_FALSE(view->hasIcon());
+        view->rebuild();
+    }
+}
+
 TEST_F(AppIconViewTest, ShowsAKnownIconFromTheFirstMoment) {
     add(u"com.example.foo"_qs, u"Foo"_qs);
     frame();

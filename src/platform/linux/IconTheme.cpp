@@ -3,24 +3,30 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <algorithm>
 #include <limits>
 
 namespace tessarine {
 
 namespace {
 
-const QStringList kinds{QStringLiteral(".svg"), QStringLiteral(".png"), QStringLiteral(".xpm")};
+// In the specification's order.
+const QStringList kinds{QStringLiteral(".png"), QStringLiteral(".svg"), QStringLiteral(".xpm")};
 
-QString existing(const QString& pathWithoutKind, const QString& kind) {
-    QString path = pathWithoutKind + kind;
-    return QFileInfo(path).isFile() ? path : QString();
+// The file of this name without its kind, in the first of the folders that has one.
+QString firstExisting(const QString& name, const QStringList& folders) {
+    for (const QString& folder : folders) {
+        for (const QString& kind : kinds) {
+            QString path = folder + u'/' + name + kind;
+            if (QFileInfo(path).isFile())
+                return path;
+        }
+    }
+    return {};
 }
 
-// How ill an icon of this size stands for one of the wanted size. Enlarging is worst.
-qint64 unfitness(int pixels, int wanted) {
-    constexpr qint64 enlarging = 1 << 20;
-    return pixels >= wanted ? pixels - wanted + 1 : enlarging + wanted - pixels;
-}
+// No folder of icons is as far from any size.
+constexpr qint64 farthest = std::numeric_limits<qint64>::max();
 
 QStringList listOf(const QVariant& value) {
     QStringList list = value.toStringList();
@@ -35,22 +41,15 @@ IconTheme::IconTheme(QString name, QStringList folders, QStringList looseFolders
     , folders_(std::move(folders))
     , looseFolders_(std::move(looseFolders)) {}
 
-QString IconTheme::find(const QString& icon, int pixels) const {
+QString IconTheme::find(const QString& icon, const IconSize& size) const {
     if (icon.isEmpty() || icon.contains(u'/'))
         return {};
     for (const QString& theme : chain()) {
-        QString path = findIn(theme, icon, pixels);
+        QString path = findIn(theme, icon, size);
         if (!path.isEmpty())
             return path;
     }
-    for (const QString& folder : folders_ + looseFolders_) {
-        for (const QString& kind : kinds) {
-            QString path = existing(folder + u'/' + icon, kind);
-            if (!path.isEmpty())
-                return path;
-        }
-    }
-    return {};
+    return firstExisting(icon, folders_ + looseFolders_);
 }
 
 QStringList IconTheme::chain() const {
@@ -80,44 +79,59 @@ QString IconTheme::indexOf(const QString& theme) const {
     return {};
 }
 
+// In pixels; less than nothing for the very size that was asked for, by points and scale.
+qint64 IconTheme::Folder::distance(const IconSize& wanted) const {
+    if (scale == wanted.scale && smallest <= wanted.points && wanted.points <= largest)
+        return -1;
+    const qint64 pixels = qint64(wanted.points) * wanted.scale;
+    return std::max({qint64(0), smallest * scale - pixels, pixels - largest * scale});
+}
+
+IconTheme::Folder IconTheme::folderIn(const QSettings& index, const QString& name) {
+    const auto number = [&](const char* field, int otherwise) {
+        return index.value(name + u'/' + QLatin1String(field), otherwise).toInt();
+    };
+    const int size = number("Size", 0);
+    const QString type = index.value(name + QStringLiteral("/Type")).toString();
+    Folder folder{name, size, size, number("Scale", 1)};
+    if (type == QStringLiteral("Scalable")) {
+        folder.smallest = number("MinSize", size);
+        folder.largest = number("MaxSize", size);
+    } else if (type != QStringLiteral("Fixed")) { // a threshold, if nothing is said
+        const int threshold = number("Threshold", 2);
+        folder.smallest -= threshold;
+        folder.largest += threshold;
+    }
+    return folder;
+}
+
 std::vector<IconTheme::Folder> IconTheme::foldersOf(const QString& theme) const {
     const QString path = indexOf(theme);
     if (path.isEmpty())
         return {};
-    QSettings index(path, QSettings::IniFormat);
+    const QSettings index(path, QSettings::IniFormat);
     std::vector<Folder> folders;
     for (const char* key : {"Icon Theme/Directories", "Icon Theme/ScaledDirectories"}) {
-        for (const QString& entry : listOf(index.value(QString::fromLatin1(key)))) {
-            const QString name = entry.trimmed();
-            const auto number = [&](const char* field, int otherwise) {
-                return index.value(name + QString::fromLatin1(field), otherwise).toInt();
-            };
-            folders.push_back({name, number("/Size", 0) * number("/Scale", 1)});
-        }
+        for (const QString& name : listOf(index.value(QString::fromLatin1(key))))
+            folders.push_back(folderIn(index, name.trimmed()));
     }
     return folders;
 }
 
-QString IconTheme::findIn(const QString& theme, const QString& icon, int pixels) const {
-    QString best;
-    qint64 leastUnfit = std::numeric_limits<qint64>::max();
+QString IconTheme::findIn(const QString& theme, const QString& icon, const IconSize& size) const {
+    QString closest;
+    qint64 leastDistance = farthest;
     for (const Folder& folder : foldersOf(theme)) {
-        for (const QString& base : folders_) {
-            const QString path = base + u'/' + theme + u'/' + folder.name + u'/' + icon;
-            for (const QString& kind : kinds) {
-                const bool isDrawing = kind == kinds.first();
-                const qint64 unfit = isDrawing ? 0 : unfitness(folder.pixels, pixels);
-                if (unfit >= leastUnfit)
-                    continue;
-                const QString found = existing(path, kind);
-                if (found.isEmpty())
-                    continue;
-                best = found;
-                leastUnfit = unfit;
-            }
-        }
+        const qint64 distance = folder.distance(size);
+        if (distance >= leastDistance)
+            continue;
+        const QString found = firstExisting(theme + u'/' + folder.name + u'/' + icon, folders_);
+        if (found.isEmpty())
+            continue;
+        closest = found;
+        leastDistance = distance;
     }
-    return best;
+    return closest;
 }
 
 } // namespace tessarine

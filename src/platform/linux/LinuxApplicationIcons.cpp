@@ -13,8 +13,9 @@ namespace tessarine {
 
 namespace {
 
-// Enough for what the views show at three times their size.
-constexpr int drawnPixels = 144;
+// The largest that views show, on the densest of displays.
+constexpr IconSize shownSize{48, 3};
+constexpr int drawnPixels = shownSize.points * shownSize.scale;
 
 QStringList below(const QString& name) {
     QStringList folders;
@@ -81,20 +82,6 @@ QString withoutEnding(const QString& icon) {
     return icon;
 }
 
-// Where no theme has an icon for programs.
-QImage plainTile() {
-    constexpr double inset = drawnPixels / 12.0;
-    constexpr double radius = drawnPixels / 5.0;
-    QImage image = emptySquare(drawnPixels);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0x8e, 0x8e, 0x93));
-    painter.drawRoundedRect(QRectF(image.rect()).adjusted(inset, inset, -inset, -inset), radius,
-                            radius);
-    return image;
-}
-
 } // namespace
 
 LinuxApplicationIcons::LinuxApplicationIcons()
@@ -118,16 +105,16 @@ LinuxApplicationIcons::iconForRunningApplication(const RunningApplication& appli
     return entry ? iconOf(*entry) : QImage();
 }
 
+// A theme's icon for any program looks the same for all: the views have something better.
 QImage LinuxApplicationIcons::genericApplicationIcon() const {
-    const QImage icon = load(theme_.find(QStringLiteral("application-x-executable"), drawnPixels));
-    return icon.isNull() ? plainTile() : icon;
+    return {};
 }
 
 QImage LinuxApplicationIcons::iconOf(const DesktopEntry& entry) const {
     if (QDir::isAbsolutePath(entry.icon))
         return load(entry.icon);
-    const QString path = theme_.find(entry.icon, drawnPixels);
-    return load(path.isEmpty() ? theme_.find(withoutEnding(entry.icon), drawnPixels) : path);
+    const QString path = theme_.find(entry.icon, shownSize);
+    return load(path.isEmpty() ? theme_.find(withoutEnding(entry.icon), shownSize) : path);
 }
 
 } // namespace tessarine
