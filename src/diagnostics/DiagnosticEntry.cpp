@@ -1,5 +1,7 @@
 #include "diagnostics/DiagnosticEntry.h"
 
+#include "shared/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -41,6 +43,17 @@ const CategoryFace& face(Category category) {
     return categoryFaces.at(static_cast<std::size_t>(category));
 }
 
+// Both in their caseless form. A letter without its marks is another letter. (A collator would find
+// more than was asked for: to it "²" is "2" and "か" is "カ", whatever their case.)
+bool holds(const QString& text, const QString& part) {
+    for (qsizetype at = 0; (at = text.indexOf(part, at)) >= 0; ++at) {
+        const qsizetype end = at + part.size();
+        if (end == text.size() || !text[end].isMark())
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 QString glyph(Level level) {
@@ -63,11 +76,12 @@ Colour colour(Category category) {
 QList<DiagnosticEntry> filteredEntries(const QList<DiagnosticEntry>& entries,
                                        std::optional<Category> selectedCategory,
                                        const QString& searchText) {
+    const QString sought = caselessForm(searchText);
     const auto passes = [&](const DiagnosticEntry& entry) {
         if (selectedCategory && entry.category != *selectedCategory)
             return false;
-        return searchText.isEmpty() || entry.message.contains(searchText, Qt::CaseInsensitive) ||
-               rawValue(entry.category).contains(searchText, Qt::CaseInsensitive);
+        return searchText.isEmpty() || holds(caselessForm(entry.message), sought) ||
+               holds(caselessForm(rawValue(entry.category)), sought);
     };
     QList<DiagnosticEntry> passed;
     std::copy_if(entries.begin(), entries.end(), std::back_inserter(passed), passes);

@@ -32,7 +32,8 @@ QString rawValue(Category category); // what filters and reports show: "AX", "DB
 Colour colour(Category category);
 
 // The entries of the category, if one is chosen, that hold the text, if there is one, in their
-// message or in their category's raw value. Letter case doesn't matter. Keeps the order.
+// message or in their category's raw value. Neither letter case, as the user's language has it, nor
+// the composition of characters matters. Keeps the order.
 QList<DiagnosticEntry> filteredEntries(const QList<DiagnosticEntry>& entries,
                                        std::optional<Category> selectedCategory,
                                        const QString& searchText);

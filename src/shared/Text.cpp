@@ -1,7 +1,10 @@
 #include "shared/Text.h"
 
+#include <QLocale>
+
 #include <unicode/brkiter.h>
 #include <unicode/locid.h>
+#include <unicode/unistr.h>
 #include <unicode/utext.h>
 
 #include <algorithm>
@@ -29,6 +32,10 @@ icu::BreakIterator* characterBreaks() {
         icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
     // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): it lives as long as its thread
     return U_SUCCESS(status) ? breaks.get() : nullptr;
+}
+
+bool hasDotlessI(QLocale::Language language) {
+    return language == QLocale::Turkish || language == QLocale::Azerbaijani;
 }
 
 } // namespace
@@ -97,6 +104,16 @@ bool plainTextLess(QStringView left, QStringView right) {
     if (here->isSurrogate() != there->isSurrogate())
         return there->isSurrogate();
     return *here < *there;
+}
+
+QString caselessForm(const QString& text) {
+    const QString composed = text.normalized(QString::NormalizationForm_C);
+    // Qt folds letter by letter only.
+    icu::UnicodeString folded(composed.utf16(), int32_t(composed.size()));
+    folded.foldCase(hasDotlessI(QLocale().language()) ? U_FOLD_CASE_EXCLUDE_SPECIAL_I
+                                                      : U_FOLD_CASE_DEFAULT);
+    return QString::fromUtf16(folded.getBuffer(), folded.length())
+        .normalized(QString::NormalizationForm_C);
 }
 
 QByteArray storedUtf8(const QString& text) {

@@ -23,6 +23,11 @@ QStringView trimmedBlanks(QStringView text);
 // would turn these two round.
 bool plainTextLess(QStringView left, QStringView right);
 
+// A form that is equal for texts that differ in letter case alone, or in how their characters are
+// composed: Unicode's full case folding, which takes "ß" for "ss" ("GRÖSSE", "größe"), in its
+// normalized form C. Where the user's language has a dotless "ı", that is the small letter of "I".
+QString caselessForm(const QString& text);
+
 // UTF-8 for storage. Half a surrogate pair, which UTF-8 cannot hold, becomes U+FFFD.
 QByteArray storedUtf8(const QString& text);
 

@@ -166,5 +166,22 @@ TEST(StoredUtf8, KeepsANul) {
     EXPECT_EQ(storedUtf8(units({u'a', 0, u'b'})), QByteArray("a\0b", 3));
 }
 
+// The caseless form: full mappings by CaseFolding.txt, composed.
+
+TEST(CaselessForm, FoldsAWholeLetterIntoSeveral) {
+    EXPECT_EQ(caselessForm(u"Größe"_qs), u"grösse"_qs);
+    EXPECT_EQ(caselessForm(u"ŉ ﬃ"_qs), u"ʼn ffi"_qs);
+}
+
+TEST(CaselessForm, Composes) {
+    EXPECT_EQ(caselessForm(u"O\u0308"_qs), u"\u00F6"_qs);
+}
+
+TEST(CaselessForm, KeepsWhatIsNoText) {
+    const QString odd = QString(QChar(0xD800)) + QChar(u'\0') + QChar(0xDC00);
+    EXPECT_EQ(caselessForm(odd), odd);
+    EXPECT_EQ(caselessForm({}), QString());
+}
+
 } // namespace
 } // namespace tessarine
