@@ -10,7 +10,9 @@ namespace tessarine {
 
 // The key-value store of the user's settings and cursors. What a setter is given is on disk before
 // it returns; a failure to write is silent and the value holds for this run. Getters are strict: a
-// value that is not plainly of the type asked for reads as absent. Any thread.
+// value that is not plainly of the type asked for reads as absent. They go by how a value reads and
+// not by the setter that wrote it: "1" is a text, a bool, an integer, a number and a list of one.
+// Any thread.
 class UserDefaults {
 public:
     UserDefaults() = default;
@@ -22,7 +24,7 @@ public:
 
     virtual bool boolean(const QString& key) const = 0;   // false when absent
     virtual qint64 integer(const QString& key) const = 0; // 0 when absent
-    virtual double real(const QString& key) const = 0;    // 0 when absent
+    virtual double real(const QString& key) const = 0;    // 0 when absent or not finite
     virtual std::optional<QString> text(const QString& key) const = 0;
     virtual QStringList textList(const QString& key) const = 0; // empty when absent
     // Empty when absent, and when a single element is no integer.

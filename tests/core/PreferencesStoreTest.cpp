@@ -70,10 +70,10 @@ TEST_F(PreferencesStoreTest, ReadsEveryFieldUnderItsOwnName) {
 TEST_F(PreferencesStoreTest, ReadsValuesOfAnotherTypeAsAbsent) {
     defaults.values = {{u"retentionDays"_qs, u"thirty"_qs},
                        {u"globalPrivacyMode"_qs, u"garbage"_qs},
-                       {u"privacyApps"_qs, qint64(3)},
-                       {u"hasAcceptedEULA"_qs, QStringList{u"true"_qs}},
+                       {u"privacyApps"_qs, QByteArray("a.b")},
+                       {u"hasAcceptedEULA"_qs, QStringList{u"true"_qs, u"true"_qs}},
                        {u"otpRetentionHours"_qs, true},
-                       {u"excludedBundleIds"_qs, QVariantList{qint64(1), qint64(2)}},
+                       {u"excludedBundleIds"_qs, QVariantList{u"a"_qs, QByteArray("b")}},
                        {u"appearanceMode"_qs, QStringList{u"dark"_qs, u"light"_qs}}};
     const PreferencesStore store(defaults);
     EXPECT_EQ(store.retentionDays(), 0);

@@ -423,7 +423,7 @@ TEST_F(ExcludedCapture, ExcludesTheEmptyIdWhenItIsListed) {
 }
 
 TEST_F(ExcludedCapture, ExcludesNothingWhenTheListIsOfAnotherType) {
-    defaults.values[excludedKey] = u"org.example.mail"_qs;
+    defaults.values[excludedKey] = QByteArray("org.example.mail");
     EXPECT_TRUE(store->insert(capture(1)));
 }
 

@@ -64,7 +64,7 @@ TEST_P(IntegerCursor, AsksTheHoardWhereZeroOrLessIsStored) {
 
 TEST_P(IntegerCursor, AsksTheHoardWhereAnotherTypeIsStored) {
     store->insert(capture(77));
-    defaults.setText(key(), u"12"_qs);
+    defaults.setText(key(), u"twelve"_qs);
     EXPECT_EQ(last(), 77);
 }
 
@@ -193,9 +193,9 @@ TEST_F(HoardCursors, RefuseANegativeTimeAtTheFirstTime) {
 }
 
 TEST_F(HoardCursors, CountTheWholeListAsEmptyWhenOneElementIsNoInteger) {
-    defaults.values[recIdsKey] = QVariantList{qint64(1), u"two"_qs, qint64(3)};
+    defaults.values[recIdsKey] = QStringList{u"1"_qs, u"two"_qs, u"3"_qs};
     EXPECT_THAT(store->lastSeenUsernotedRecIds(), IsEmpty());
-    defaults.values[recIdsKey] = QVariantList{qint64(1), 2.5};
+    defaults.values[recIdsKey] = QStringList{u"1"_qs, u"2.5"_qs};
     EXPECT_THAT(store->lastSeenUsernotedRecIds(), IsEmpty());
 }
 

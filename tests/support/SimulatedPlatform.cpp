@@ -8,14 +8,6 @@ namespace tessarine::testing {
 
 namespace {
 
-template <typename Value>
-std::optional<Value> typed(const std::map<QString, QVariant>& values, const QString& key) {
-    const auto found = values.find(key);
-    if (found == values.end() || found->second.metaType() != QMetaType::fromType<Value>())
-        return std::nullopt;
-    return found->second.value<Value>();
-}
-
 template <typename Port>
 Port& install(std::unique_ptr<Port> made, auto& place) {
     Port& port = *made;
@@ -25,41 +17,9 @@ Port& install(std::unique_ptr<Port> made, auto& place) {
 
 } // namespace
 
-bool SimulatedDefaults::boolean(const QString& key) const {
-    return typed<bool>(values, key).value_or(false);
-}
-
-qint64 SimulatedDefaults::integer(const QString& key) const {
-    return typed<qint64>(values, key).value_or(0);
-}
-
-double SimulatedDefaults::real(const QString& key) const {
-    return typed<double>(values, key).value_or(0);
-}
-
-std::optional<QString> SimulatedDefaults::text(const QString& key) const {
-    return typed<QString>(values, key);
-}
-
-QStringList SimulatedDefaults::textList(const QString& key) const {
-    return typed<QStringList>(values, key).value_or(QStringList());
-}
-
-std::vector<qint64> SimulatedDefaults::integerList(const QString& key) const {
-    std::vector<qint64> numbers;
-    for (const QVariant& number : typed<QVariantList>(values, key).value_or(QVariantList())) {
-        if (number.typeId() != QMetaType::LongLong)
-            return {};
-        numbers.push_back(number.toLongLong());
-    }
-    return numbers;
-}
-
-void SimulatedDefaults::setIntegerList(const QString& key, const std::vector<qint64>& value) {
-    QVariantList list;
-    for (const qint64 number : value)
-        list.append(number);
-    values[key] = list;
+QVariant SimulatedDefaults::value(const QString& key) const {
+    const auto found = values.find(key);
+    return found == values.end() ? QVariant() : found->second;
 }
 
 QStringList SimulatedFileSystem::applicationSupportDirectories() const {

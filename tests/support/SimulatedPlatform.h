@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/qt/StoredValue.h"
 #include "support/ManualScheduler.h"
 #include "support/SimulatedAccessibility.h"
 
@@ -14,25 +15,32 @@
 
 namespace tessarine::testing {
 
-// User defaults in memory, with the same strictness as the real ones: each key has one type.
+// User defaults in memory, which read like those in a file. Tests may put in what no setter would.
 class SimulatedDefaults : public UserDefaults {
 public:
     bool contains(const QString& key) const override { return values.contains(key); }
-    bool boolean(const QString& key) const override;
-    qint64 integer(const QString& key) const override;
-    double real(const QString& key) const override;
-    std::optional<QString> text(const QString& key) const override;
-    QStringList textList(const QString& key) const override;
-    std::vector<qint64> integerList(const QString& key) const override;
+    bool boolean(const QString& key) const override { return booleanOf(value(key)); }
+    qint64 integer(const QString& key) const override { return integerOf(value(key)); }
+    double real(const QString& key) const override { return numberOf(value(key)); }
+    std::optional<QString> text(const QString& key) const override { return textOf(value(key)); }
+    QStringList textList(const QString& key) const override { return textListOf(value(key)); }
+    std::vector<qint64> integerList(const QString& key) const override {
+        return integerListOf(value(key));
+    }
 
     void setBoolean(const QString& key, bool value) override { values[key] = value; }
     void setInteger(const QString& key, qint64 value) override { values[key] = value; }
     void setReal(const QString& key, double value) override { values[key] = value; }
     void setText(const QString& key, const QString& value) override { values[key] = value; }
     void setTextList(const QString& key, const QStringList& value) override { values[key] = value; }
-    void setIntegerList(const QString& key, const std::vector<qint64>& value) override;
+    void setIntegerList(const QString& key, const std::vector<qint64>& value) override {
+        values[key] = storedForm(value);
+    }
 
     std::map<QString, QVariant> values;
+
+private:
+    QVariant value(const QString& key) const;
 };
 
 // A file system whose home is a folder of the test's own.

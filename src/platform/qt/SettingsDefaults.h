@@ -8,9 +8,8 @@
 
 namespace tessarine {
 
-// User defaults in an INI file, which people can read and edit while the program is off. Every
-// value in it is text, so the getters judge by form: "true" is a bool, "12" an integer, a list is
-// separated by commas, and a single element is a list of one.
+// User defaults in an INI file, which people can read and edit while the program is off. A list is
+// separated by commas.
 class SettingsDefaults : public UserDefaults {
 public:
     explicit SettingsDefaults(const QString& path);
