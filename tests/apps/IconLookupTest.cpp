@@ -190,16 +190,35 @@ TEST_F(IconLookupTest, GivesOthersNoSettingsIcon) {
     EXPECT_EQ(lookUpSystemSettingsIcon(sources, u"Mail"_qs, u"com.apple.mail"_qs), std::nullopt);
 }
 
+class SettingsPartTest : public ::testing::TestWithParam<const char16_t*> {};
 class SettingsNameTest : public ::testing::TestWithParam<const char16_t*> {};
 class SettingsIdTest : public ::testing::TestWithParam<const char16_t*> {};
 class OtherNameTest : public ::testing::TestWithParam<const char16_t*> {};
 
-TEST_P(SettingsNameTest, StandsForTheSettings) {
-    EXPECT_TRUE(isSystemSettingsAlias(QString::fromUtf16(GetParam()), u"com.example"_qs));
+bool isAlias(const QString& name) {
+    return isSystemSettingsAlias(name, u"com.example"_qs);
 }
 
-TEST_P(SettingsIdTest, StandsForTheSettings) {
-    EXPECT_TRUE(isSystemSettingsAlias(u"Name"_qs, QString::fromUtf16(GetParam())));
+TEST_P(SettingsPartTest, StandsForTheSettingsWhereverItIsInAName) {
+    const QString part = QString::fromUtf16(GetParam());
+    EXPECT_TRUE(isAlias(part));
+    EXPECT_TRUE(isAlias(u"x"_qs + part + u"y"_qs));
+    EXPECT_TRUE(isAlias(u"My "_qs + part.toUpper() + u" …"_qs));
+    EXPECT_FALSE(isAlias(part.chopped(1)));
+}
+
+TEST_P(SettingsNameTest, StandsForTheSettings) {
+    const QString name = QString::fromUtf16(GetParam());
+    EXPECT_TRUE(isAlias(name));
+    EXPECT_TRUE(isAlias(u" \t"_qs + name.toUpper() + u"\n "_qs));
+}
+
+TEST_P(SettingsIdTest, StandsForTheSettingsAsAWhole) {
+    const QString id = QString::fromUtf16(GetParam());
+    EXPECT_TRUE(isSystemSettingsAlias(u"Name"_qs, id));
+    EXPECT_TRUE(isSystemSettingsAlias(u"Name"_qs, id.toUpper()));
+    EXPECT_FALSE(isSystemSettingsAlias(u"Name"_qs, id + u"x"_qs));
+    EXPECT_FALSE(isSystemSettingsAlias(u"Name"_qs, u' ' + id));
 }
 
 TEST_P(OtherNameTest, DoesNotStandForTheSettings) {
@@ -207,20 +226,24 @@ TEST_P(OtherNameTest, DoesNotStandForTheSettings) {
     EXPECT_FALSE(isSystemSettingsAlias(text, text));
 }
 
+INSTANTIATE_TEST_SUITE_P(Parts, SettingsPartTest,
+                         ::testing::Values(u"system settings", u"system preferences",
+                                           u"background items", u"background activity",
+                                           u"login items", u"software update",
+                                           u"softwareupdatenotification", u"btmnotificationagent"));
+// All of them but "preferences" hold one of the parts as well.
 INSTANTIATE_TEST_SUITE_P(Names, SettingsNameTest,
-                         ::testing::Values(u"system settings", u"System Preferences…",
-                                           u"x background items y", u"Background Activity",
-                                           u"Login Items", u"New Software Update Available",
-                                           u"SoftwareUpdateNotificationManager",
-                                           u"BTMNotificationAgent", u"App Background Activity",
-                                           u"Background Items Added", u"Preferences",
-                                           u" \t preferences\n", u"softwareupdatenotification"));
+                         ::testing::Values(u"app background activity", u"background items added",
+                                           u"background items", u"system settings",
+                                           u"system preferences", u"preferences", u"login items",
+                                           u"software update", u"softwareupdatenotification",
+                                           u"btmnotificationagent"));
 INSTANTIATE_TEST_SUITE_P(Ids, SettingsIdTest,
                          ::testing::Values(u"com.apple.systempreferences",
-                                           u"com.apple.SystemSettings", u"login.items",
+                                           u"com.apple.systemsettings", u"login.items",
                                            u"software.update",
-                                           u"com.apple.SoftwareUpdateNotification",
-                                           u"com.apple.BTMNotificationAgent"));
+                                           u"com.apple.softwareupdatenotification",
+                                           u"com.apple.btmnotificationagent"));
 INSTANTIATE_TEST_SUITE_P(Others, OtherNameTest,
                          ::testing::Values(u"", u"Mail", u"My Preferences", u"preference",
                                            u"settings", u"system  settings",

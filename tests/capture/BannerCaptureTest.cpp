@@ -272,10 +272,25 @@ TEST_F(BannerCaptureTest, AHoardThatCannotBeOpenedCountsAndLogsNothing) {
     EXPECT_THAT(logged(), ElementsAre(attached()));
 }
 
-TEST_F(BannerCaptureTest, RecentTitlesStayEmpty) {
-    show(u"Mail"_qs, {u"Hello"_qs});
+TEST_F(BannerCaptureTest, RecentTitlesStayEmptyWhateverIsCapturedAndRefused) {
     launch();
+    show(u"Mail"_qs, {u"Hello"_qs});
+    send();
+    advance(2);
+    send(); // the same banner once more
+    ASSERT_THAT(stored(), ElementsAre(u"Hello"_qs));
     EXPECT_THAT(listener_->recentTitles(), IsEmpty());
+}
+
+TEST_F(BannerCaptureTest, TheHoardAloneTellsWhatWasCapturedBefore) {
+    launch();
+    show(u"Mail"_qs, {u"Hello"_qs});
+    send();
+    ASSERT_THAT(stored(), ElementsAre(u"Hello"_qs));
+    hoard().deleteAll();
+    advance(2);
+    send();
+    EXPECT_THAT(stored(), ElementsAre(u"Hello"_qs));
 }
 
 } // namespace

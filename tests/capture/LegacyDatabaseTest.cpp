@@ -436,9 +436,10 @@ TEST_F(LegacyReadingTest, ALockedDatabaseIsEmptyUntilItIsFree) {
 }
 
 TEST_F(LegacyReadingTest, ADamagedDatabaseGivesWhatCanBeRead) {
+    const QByteArray payload = tools::legacyPayload({u"title"_qs, QString(500, u'x'), base});
     ASSERT_TRUE(writer_.begin());
     for (int i = 1; i <= 200; ++i)
-        add(i, {u"title"_qs, QString(500, u'x'), base});
+        add(i, payload);
     ASSERT_TRUE(writer_.commit());
     writer_.close();
     QFile file(path_);
@@ -446,7 +447,58 @@ TEST_F(LegacyReadingTest, ADamagedDatabaseGivesWhatCanBeRead) {
     ASSERT_TRUE(file.seek(file.size() / 2));
     ASSERT_GT(file.write(QByteArray(8192, '\xff')), 0);
     file.close();
-    EXPECT_LT(read().size(), 200U);
+    // The whole rows that SQLite itself reads before it comes to the damage.
+    const QString wholeRows =
+        u"SELECT note_id FROM notifications WHERE encoded_data = X'%1' ORDER BY note_id"_qs.arg(
+            QString::fromLatin1(payload.toHex()));
+    std::vector<qint64> whole;
+    for (const QStringList& row : testing::DatabaseFile(path_).rows(wholeRows))
+        whole.push_back(row.front().toLongLong());
+    ASSERT_GT(whole.size(), 0U);
+    ASSERT_LT(whole.size(), 200U);
+    std::vector<qint64> found;
+    for (const CapturedNotification& record : read())
+        found.push_back(record.noteId);
+    EXPECT_EQ(found, whole);
+}
+
+TEST_F(LegacyReadingTest, ADatabaseThatIsDamagedFromItsStartGivesNothing) {
+    add(1, {u"a"_qs, {}, base});
+    writer_.close();
+    QFile file(path_);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const QByteArray whole = file.readAll();
+    ASSERT_TRUE(file.seek(0));
+    file.write(QByteArray(whole.size(), '\xff'));
+    file.close();
+    EXPECT_THAT(read(), IsEmpty());
+    EXPECT_THAT(names(NullBundleId::fatal), IsEmpty());
+    makeFile(path_, whole);
+    EXPECT_THAT(titles(read()), ElementsAre(u"a"_qs));
+}
+
+// A number in a text is that number, and a text without one is 0.
+TEST_F(LegacyReadingTest, ColumnsOfOtherTypesAreReadAsFarAsTheyGo) {
+    writer_.close();
+    const QByteArray payload = tools::legacyPayload({u"Hello"_qs, u"World"_qs, base});
+    const QString data = u"X'"_qs + QString::fromLatin1(payload.toHex()) + u'\'';
+    ASSERT_TRUE(testing::DatabaseFile(path_).run(
+        u"DROP TABLE app_info; DROP TABLE notifications;"
+        "CREATE TABLE app_info(app_id TEXT, bundleid BLOB);"
+        "CREATE TABLE notifications(note_id TEXT, app_id TEXT, encoded_data TEXT);"
+        "INSERT INTO app_info VALUES('7', CAST('com.example.mail' AS BLOB)), ('x', 12);"
+        "INSERT INTO notifications VALUES('41', '7', %1);"
+        "INSERT INTO notifications VALUES('42', '7', 'no payload');"
+        "INSERT INTO notifications VALUES('nine', 'seven', %1)"_qs.arg(data)));
+    EXPECT_THAT(names(), ElementsAre(Pair(0, u"12"_qs), Pair(7, u"com.example.mail"_qs)));
+    const NotificationList records = read(0, names());
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[0].noteId, 41);
+    EXPECT_EQ(records[0].appBundleId, u"com.example.mail"_qs);
+    EXPECT_EQ(records[0].title, u"Hello"_qs);
+    EXPECT_EQ(records[0].timestamp, base);
+    EXPECT_EQ(records[1].noteId, 0);
+    EXPECT_EQ(records[1].appBundleId, u"12"_qs);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "capture/ListenerFixture.h"
 
+#include "support/PropertyListWriter.h"
+
 #include <QFile>
 
 #include <gmock/gmock.h>
@@ -452,11 +454,31 @@ TEST_F(ListenerTest, AHoardThatCannotBeOpenedCountsAndLogsNothing) {
     EXPECT_THAT(logged(), Not(Contains(u"Captured notification from [mail]"_qs)));
 }
 
-TEST_F(ListenerTest, RecentTitlesStayEmpty) {
+TEST_F(ListenerTest, RecentTitlesStayEmptyWhateverIsRecoveredAndPolled) {
+    add(1, u"recovered"_qs, start - 1);
     launchAndStart();
-    add(1, u"Hello"_qs, start + 1);
-    pollNow();
+    ASSERT_THAT(stored(), ElementsAre(u"recovered"_qs));
     EXPECT_TRUE(listener_->recentTitles().empty());
+    add(2, u"polled"_qs, start + 1);
+    pollNow();
+    ASSERT_THAT(stored(), ElementsAre(u"recovered"_qs, u"polled"_qs));
+    EXPECT_TRUE(listener_->recentTitles().empty());
+}
+
+// The two readings guess at a body in their own ways: only a poll takes a text that ends in
+// "Thread" for one of the archive's own.
+TEST_F(ListenerTest, TheRecoveryAndThePollReadArchivesEachInItsWay) {
+    using testing::PlistValue;
+    const QByteArray archive = testing::writeBinaryPropertyList(PlistValue::dictionary(
+        {{u"$objects"_qs, PlistValue::array({PlistValue::string(u"Reply in the Thread"_qs),
+                                             PlistValue::string(u"a short one"_qs)})}}));
+    const QByteArray payload = testing::writeBinaryPropertyList(PlistValue::dictionary(
+        {{u"titl"_qs, PlistValue::string(u"Title"_qs)}, {u"req"_qs, PlistValue::data(archive)}}));
+    ASSERT_TRUE(writer_.append(1, 1, payload, start - 1));
+    launchAndStart();
+    ASSERT_TRUE(writer_.append(2, 1, payload, start + 1));
+    pollNow();
+    EXPECT_THAT(stored(u"body"_qs), ElementsAre(u"Reply in the Thread"_qs, u"a short one"_qs));
 }
 
 TEST_F(ListenerTest, ANotificationOfBothBannerAndDatabaseGivesTwoRows) {

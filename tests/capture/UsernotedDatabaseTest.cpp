@@ -248,17 +248,46 @@ TEST_F(BadDatabase, OfEncryptedGarbageGivesNothingAndIsLeftAlone) {
     EXPECT_EQ(contents(), garbage);
 }
 
-TEST_F(BadDatabase, ThatIsCutOffGivesNothingOrItsFirstRows) {
-    {
+// Rows come in the order of their dates, which SQLite knows only when it has seen them all: one
+// that it can't read keeps the others back too.
+class DamagedDatabase : public BadDatabase {
+protected:
+    static constexpr std::size_t rows = 2000;
+
+    void SetUp() override {
         tools::UsernotedDatabase writer(path_);
         ASSERT_TRUE(writer.createTables());
         ASSERT_TRUE(writer.begin());
-        for (int i = 0; i < 2000; ++i)
-            ASSERT_TRUE(writer.append(i, 1, payload(u"Title"_qs), base + i));
+        for (std::size_t i = 0; i < rows; ++i)
+            ASSERT_TRUE(writer.append(qint64(i), 1, payload(u"Title"_qs), base + double(i)));
         ASSERT_TRUE(writer.commit());
+        writer.close();
+        whole_ = contents();
+        ASSERT_EQ(read().records.size(), rows);
     }
-    ASSERT_TRUE(QFile::resize(path_, QFile(path_).size() / 3));
-    EXPECT_LE(read().records.size(), 2000U);
+
+    QByteArray whole_;
+};
+
+TEST_F(DamagedDatabase, ThatIsCutOffGivesNothingUntilItIsWholeAgain) {
+    write(whole_.left(whole_.size() / 3));
+    expectNothingRead();
+    write(whole_);
+    EXPECT_EQ(read().records.size(), rows);
+}
+
+TEST_F(DamagedDatabase, InItsMiddleGivesNothingUntilItIsWholeAgain) {
+    QByteArray damaged = whole_;
+    damaged.replace(damaged.size() / 2, 8192, QByteArray(8192, '\xff'));
+    write(damaged);
+    expectNothingRead();
+    write(whole_);
+    EXPECT_EQ(read().records.size(), rows);
+}
+
+TEST_F(DamagedDatabase, InItsHeaderGivesNothing) {
+    write(QByteArray(100, '\xff') + whole_.mid(100));
+    expectNothingRead();
 }
 
 TEST_F(BadDatabase, WithoutTheTableOfRecordsGivesNothing) {
@@ -276,12 +305,27 @@ TEST_F(BadDatabase, WithoutTheTableOfApplicationsNamesThemByNumber) {
     EXPECT_EQ(reading.records.front().appBundleId, u"app_id_3"_qs);
 }
 
+// A number in a text is that number, and a text without one is 0.
 TEST_F(BadDatabase, WithColumnsOfOtherTypesIsReadAsFarAsItGoes) {
+    const QString data = u"X'"_qs + QString::fromLatin1(payload(u"Hello"_qs).toHex()) + u'\'';
     ASSERT_TRUE(testing::DatabaseFile(path_).run(
         u"CREATE TABLE app(app_id TEXT, identifier BLOB);"
         "CREATE TABLE record(rec_id TEXT, app_id TEXT, data TEXT, delivered_date TEXT);"
-        "INSERT INTO record VALUES('nine', 'seven', 'hello', '785000100')"_qs));
-    EXPECT_THAT(read().records, IsEmpty());
+        "INSERT INTO app VALUES('7', CAST('com.example.mail' AS BLOB));"
+        "INSERT INTO record VALUES('41', '7', %1, '785000100');"
+        "INSERT INTO record VALUES('nine', 'seven', %1, '785000200.5');"
+        "INSERT INTO record VALUES('43', '7', 'no payload', '785000300')"_qs.arg(data)));
+    const UsernotedReading reading = read();
+    ASSERT_EQ(reading.records.size(), 2U);
+    EXPECT_EQ(reading.records[0].noteId, 41);
+    EXPECT_EQ(reading.records[0].appBundleId, u"com.example.mail"_qs);
+    EXPECT_EQ(reading.records[0].title, u"Hello"_qs);
+    EXPECT_EQ(reading.records[0].timestamp, 785000100.0);
+    EXPECT_EQ(reading.records[1].noteId, 0);
+    EXPECT_EQ(reading.records[1].appBundleId, u"app_id_0"_qs);
+    EXPECT_EQ(reading.records[1].timestamp, 785000200.5);
+    EXPECT_EQ(reading.newest.timestamp, 785000300.0);
+    EXPECT_EQ(reading.newest.recIds, std::set<qint64>{43});
 }
 
 TEST_F(BadDatabase, LockedByAnotherConnectionGivesNothingNow) {

@@ -4,7 +4,8 @@
 //
 // Each line is a notification as a JSON object: "app", "id", "title", "body" and "time", in seconds
 // since the reference date. The format is "txt", "csv" or "pdf". With ODD_DESKTOP_FONT in the
-// environment the desktop's font is one that nobody would print with.
+// environment the desktop's font is one that nobody would print with; with INCLUDE_PRIVATE private
+// content is included.
 
 #include "export/ExportManager.h"
 #include "support/SimulatedDesktop.h"
@@ -49,12 +50,13 @@ NotificationList readInput() {
 
 ExportResult exported(const ExportManager& manager, const QString& format, const QString& file) {
     const NotificationList list = readInput();
+    const bool includePrivate = qEnvironmentVariableIsSet("INCLUDE_PRIVATE");
     if (format == fileExtension(ExportFormat::txt))
-        return manager.exportTXT(list, false, file);
+        return manager.exportTXT(list, includePrivate, file);
     if (format == fileExtension(ExportFormat::csv))
-        return manager.exportCSV(list, false, file);
+        return manager.exportCSV(list, includePrivate, file);
     if (format == fileExtension(ExportFormat::pdf))
-        return manager.exportPDF(list, false, file);
+        return manager.exportPDF(list, includePrivate, file);
     return ExportResult::failure(QStringLiteral("unknown format"));
 }
 

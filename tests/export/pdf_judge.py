@@ -215,6 +215,28 @@ class PdfJudge(judging.JudgeTestCase):
         records = [record(app="Bank", title="Code", body=""), record(app="Mail")]
         self.judge(records, "com.example.bank")
 
+    def test_private_records_are_masked_and_no_others(self):
+        texts = self.words_of(self.export("pdf", self.private_and_open(), "com.example.bank"))
+        self.assertNotIn("Secret", texts)
+        self.assertNotIn("Number", texts)
+        self.assertEqual(texts.count("[hidden]"), 2)
+        self.assertIn("Open", texts)
+
+    def test_private_records_show_where_they_are_included(self):
+        texts = self.words_of(self.export("pdf", self.private_and_open(), "com.example.bank",
+                                          INCLUDE_PRIVATE="yes"))
+        self.assertIn("Secret", texts)
+        self.assertIn("Number", texts)
+        self.assertNotIn("[hidden]", texts)
+
+    def private_and_open(self):
+        return [record(app="Bank", title="Secret", body="Number"),
+                record(app="Mail", title="Open", body="Letter")]
+
+    def words_of(self, path):
+        done = subprocess.run(["pdftotext", path, "-"], check=True, capture_output=True, text=True)
+        return done.stdout.split()
+
     def test_equal_title_and_body_are_both_drawn(self):
         self.judge([record(title="Same", body="Same")])
 
