@@ -3,6 +3,7 @@
 Nothing of the user's own session is touched. Everything that a session starts, it ends.
 """
 
+import contextlib
 import os
 import pathlib
 import shutil
@@ -140,11 +141,32 @@ class Session:
         process.send_signal(how)
         process.wait(PATIENCE)
 
+    def running(self):
+        """The ids of all that runs in the session, also of what its processes have started: an
+        accessibility bus, its registry, whatever the session bus starts by itself."""
+        home = f"HOME={self.home}".encode()
+        found = []
+        for folder in pathlib.Path("/proc").glob("[0-9]*"):
+            try:
+                if home in (folder / "environ").read_bytes().split(b"\0"):
+                    found.append(int(folder.name))
+            except OSError:  # it ended, or is another user's
+                continue
+        return found
+
+    def end_all(self):
+        """False while something still runs: each may have started another one at its end."""
+        for process in self.running():
+            with contextlib.suppress(ProcessLookupError):
+                os.kill(process, signal.SIGKILL)
+        for process in self.processes:
+            process.poll()
+        return not self.running()
+
     def close(self):
-        for process in reversed(self.processes):
-            if process.poll() is None:
-                process.kill()
-                process.wait()
+        wait_until(self.end_all, "the end of all that runs in the session")
+        for process in self.processes:
+            process.wait()
             for pipe in (process.stdin, process.stdout, process.stderr):
                 if pipe:
                     pipe.close()
