@@ -2,6 +2,7 @@
 
 #include "support/OrdinaryUser.h"
 #include "support/Printers.h"
+#include "support/SmallDisk.h"
 
 #include <QDir>
 #include <QFile>
@@ -506,6 +507,36 @@ TEST_F(SettingsDefaultsTest, HoldsAValueForTheRunWhereTheFileMayNotBeWritten) {
     EXPECT_EQ(answer, u"31"_qs);
     EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "old=1", ""));
     chmod(QFile::encodeName(folder.path()).constData(), 0755);
+}
+
+TEST_F(SettingsDefaultsTest, HoldsAValueWhileTheDiskIsFullAndWritesItOnceThereIsRoom) {
+    const QString disk = folder.filePath(u"disk"_qs);
+    const testing::SmallDisk small(disk);
+    if (!small.isThere())
+        GTEST_SKIP() << "only root may mount a small disk";
+    const QString file = disk + u"/settings.conf"_qs;
+    const auto content = [&file] {
+        QFile read(file);
+        return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray();
+    };
+    SettingsDefaults defaults(file);
+    defaults.setInteger(u"before"_qs, 1);
+    small.fill();
+    defaults.setInteger(key, 30);
+    EXPECT_EQ(defaults.integer(key), 30);
+    EXPECT_EQ(content(), "[General]\nbefore=1\n");
+    ASSERT_TRUE(QFile::remove(disk + u"/filler"_qs));
+    defaults.setInteger(u"after"_qs, 2);
+    EXPECT_EQ(content(), "[General]\nafter=2\nbefore=1\nkey=30\n");
+}
+
+TEST_F(SettingsDefaultsTest, FollowsALinkAndLeavesItInPlace) {
+    const QString target = folder.filePath(u"dotfiles/settings.conf"_qs);
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(target).path()));
+    ASSERT_TRUE(QFile::link(target, path()));
+    SettingsDefaults(path()).setInteger(key, 30);
+    EXPECT_TRUE(QFileInfo(path()).isSymLink());
+    EXPECT_EQ(SettingsDefaults(target).integer(key), 30);
 }
 
 TEST_F(SettingsDefaultsTest, HoldsAValueForTheRunWhereAFolderLiesInThePlaceOfTheFile) {
