@@ -50,25 +50,32 @@ const KnownApplication* knownApplication(const QString& bundleIdentifier) {
     return nullptr;
 }
 
-QString secondsText(double date) {
+// Nothing for a date that no calendar shows. One that isn't even a number of seconds is a fault;
+// only a timestamp can be that.
+std::optional<QString> secondsText(double date) {
     constexpr double beyond = 9223372036854775808.0; // 2^63
     const double seconds = std::trunc(date + unixSecondsAtReferenceDate);
     if (!(seconds >= -beyond && seconds < beyond))
         qFatal("The date %g has no number of seconds", date);
-    return QString::number(qint64(seconds));
+    return hasDate(date) ? std::optional(QString::number(qint64(seconds))) : std::nullopt;
 }
 
-QString tailText(Tail tail, const CapturedNotification& notification, double now) {
+std::optional<QString> dateText(const CapturedNotification& notification, double now) {
+    const std::optional<double> date =
+        eventDate(notification.body, notification.title, notification.timestamp, now);
+    return date ? secondsText(*date) : std::nullopt;
+}
+
+std::optional<QString> tailText(Tail tail, const CapturedNotification& notification, double now) {
     switch (tail) {
     case Tail::none:
-        return {};
+        return QString();
     case Tail::seconds:
-        return secondsText(
-            eventDate(notification.body, notification.title, notification.timestamp, now));
+        return dateText(notification, now);
     case Tail::messageId:
         return mailMessageId(notification.body).value_or(QString());
     }
-    return {};
+    return std::nullopt;
 }
 
 // The parts of an address, by RFC 3986, appendix A.
@@ -91,8 +98,10 @@ std::optional<QString> deepLink(const CapturedNotification& notification,
     const KnownApplication* const application = knownApplication(notification.appBundleId);
     if (!application || !application->address || !questions.isInstalled(notification.appBundleId))
         return std::nullopt;
-    const QString address = QString::fromLatin1(application->address) +
-                            tailText(application->tail, notification, questions.now);
+    const std::optional<QString> tail = tailText(application->tail, notification, questions.now);
+    if (!tail)
+        return std::nullopt;
+    const QString address = QString::fromLatin1(application->address) + *tail;
     return isAddress(address) ? std::optional(address) : std::nullopt;
 }
 

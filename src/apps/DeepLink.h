@@ -17,7 +17,8 @@ struct LinkQuestions {
 
 // The address that leads into the notification's application, where it is one of those that are
 // known to have some, and is installed. A calendar opens at the date that the texts speak of, mail
-// at the message; others come to the front.
+// at the message; others come to the front. None for a date that no calendar shows. A timestamp
+// that is no number of seconds ends the process, where the texts name no other date.
 std::optional<QString> deepLink(const CapturedNotification& notification,
                                 const LinkQuestions& questions);
 

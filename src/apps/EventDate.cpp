@@ -10,7 +10,6 @@
 
 #include <limits>
 #include <memory>
-#include <optional>
 
 namespace tessarine {
 
@@ -85,20 +84,26 @@ std::optional<Moment> atClockTime(const QString& text, double now) {
     return moment && *moment < now ? Moment(*moment + secondsPerDay) : moment;
 }
 
-} // namespace
-
-double eventDate(const QString& body, const QString& title, double timestamp, double now) {
+Moment dateInTexts(const QString& body, const QString& title, double now) {
     // Halves of surrogate pairs, which patterns refuse, become characters of their own.
     const QString text = QString::fromUtf8(storedUtf8(body + u' ' + title)).toLower();
     if (const auto date = afterNow(text, QStringLiteral("minute"), secondsPerMinute, now))
-        return *date;
+        return date;
     if (const auto date = afterNow(text, QStringLiteral("hour"), secondsPerHour, now))
-        return *date;
+        return date;
     if (const auto date = onNamedDay(text, now))
-        return date->value_or(timestamp);
-    if (const auto date = atClockTime(text, now))
-        return date->value_or(timestamp);
-    return timestamp;
+        return *date;
+    return atClockTime(text, now).value_or(std::nullopt);
+}
+
+} // namespace
+
+std::optional<double> eventDate(const QString& body, const QString& title, double timestamp,
+                                double now) {
+    const Moment named = dateInTexts(body, title, now);
+    if (!named)
+        return timestamp;
+    return hasDate(*named) ? named : std::nullopt;
 }
 
 } // namespace tessarine

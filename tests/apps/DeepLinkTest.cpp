@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 
 namespace tessarine {
@@ -105,13 +106,79 @@ TEST(DeepLinkTest, CutsSecondsTowardsZero) {
     EXPECT_EQ(link(notification), u"calshow://-5"_qs);
 }
 
-TEST(DeepLinkDeathTest, EndsTheProgramOnADateWithoutSeconds) {
+class FarTextTest : public ::testing::TestWithParam<const char16_t*> {};
+
+TEST_P(FarTextTest, MakesNoLink) {
+    const QString text = QString::fromUtf16(GetParam());
+    EXPECT_EQ(link(from(u"com.apple.iCal"_qs, text)), u"(none)"_qs);
+    EXPECT_EQ(link(from(u"com.flexibits.fantastical2.mac"_qs, text)), u"(none)"_qs);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, FarTextTest,
+                         ::testing::Values(u"in 9223372036854775807 minutes",
+                                           u"in 9223372036854775807 hours",
+                                           u"in 153722867280912930 minutes", // 2^63 seconds
+                                           u"in 2562047788015215 hours",     // and a bit less
+                                           u"in 9223372036854775807 minutes, today at 10:30",
+                                           u"IN 9223372036854775807 MINUTES",
+                                           u"in ９２２３３７２０３６８５４７７５８０７ minutes",
+                                           u"in 143970517021 minutes", u"in 2399508618 hours"));
+
+class ExtremeTextTest : public ::testing::TestWithParam<const char16_t*> {};
+
+// What each text makes of its numbers is told by the tests of dates; here it only must not be lost.
+TEST_P(ExtremeTextTest, StillMakesALink) {
+    const QString address = link(from(u"com.apple.iCal"_qs, QString::fromUtf16(GetParam())));
+    EXPECT_TRUE(address.startsWith(u"calshow://17"_qs)) << address.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, ExtremeTextTest,
+                         ::testing::Values(u"in 9223372036854775808 minutes", // no integer: 0
+                                           u"in 99999999999999999999999 hours", u"in 0 minutes",
+                                           u"today at 99:99", u"tomorrow at 99:99", u"99:99",
+                                           u"today at 00:00", u"tomorrow at 24:60"));
+
+TEST(DeepLinkTest, OpensNoCalendarAtADateThatItCannotShow) {
     CapturedNotification notification = from(u"com.apple.iCal"_qs);
-    notification.timestamp = std::numeric_limits<double>::infinity();
-    EXPECT_DEATH(link(notification), "has no number of seconds");
-    notification.timestamp = 1e19;
+    notification.timestamp =
+        8640000000000 - 978307200; // the last date: 100 million days after 1970
+    EXPECT_EQ(link(notification), u"calshow://8640000000000"_qs);
+    notification.timestamp += 1;
+    EXPECT_EQ(link(notification), u"(none)"_qs);
+    notification.timestamp = -8640000000000 - 978307200 - 1;
+    EXPECT_EQ(link(notification), u"(none)"_qs);
+    notification.timestamp = 9.2e18; // seconds that an integer holds
+    EXPECT_EQ(link(notification), u"(none)"_qs);
+}
+
+class NoSecondsTest : public ::testing::TestWithParam<double> {};
+using NoSecondsDeathTest = NoSecondsTest;
+
+TEST_P(NoSecondsDeathTest, EndTheProgramAsATimestamp) {
+    CapturedNotification notification = from(u"com.apple.iCal"_qs);
+    notification.timestamp = GetParam();
     EXPECT_DEATH(link(notification), "has no number of seconds");
 }
+
+TEST_P(NoSecondsTest, DoNotMatterWhereTheTextsNameADate) {
+    CapturedNotification notification = from(u"com.apple.iCal"_qs, u"Lunch in 5 minutes"_qs);
+    notification.timestamp = GetParam();
+    EXPECT_EQ(link(notification), u"calshow://1768979100"_qs);
+    notification.body = u"in 9223372036854775807 minutes"_qs;
+    EXPECT_EQ(link(notification), u"(none)"_qs);
+}
+
+TEST_P(NoSecondsTest, DoNotMatterToOtherApplications) {
+    CapturedNotification notification = from(u"com.apple.mail"_qs);
+    notification.timestamp = GetParam();
+    EXPECT_EQ(link(notification), u"message://"_qs);
+}
+
+constexpr std::array strangeTimestamps{std::numeric_limits<double>::infinity(),
+                                       -std::numeric_limits<double>::infinity(),
+                                       std::numeric_limits<double>::quiet_NaN(), 1e19, -1e19};
+INSTANTIATE_TEST_SUITE_P(Timestamps, NoSecondsTest, ::testing::ValuesIn(strangeTimestamps));
+INSTANTIATE_TEST_SUITE_P(Timestamps, NoSecondsDeathTest, ::testing::ValuesIn(strangeTimestamps));
 
 TEST(DeepLinkTest, OpensAMessageByItsId) {
     EXPECT_EQ(link(from(u"com.apple.mail"_qs, u"From Anna <CAF=x+1.y@Mail.example.com> today"_qs)),

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+#include <optional>
+
 namespace tessarine {
 namespace {
 
@@ -22,7 +25,8 @@ constexpr double timestamp = 790000000;
 
 class EventDateTest : public ::testing::Test {
 protected:
-    static double date(const QString& body, const QString& title = {}, double now = eight) {
+    static std::optional<double> date(const QString& body, const QString& title = {},
+                                      double now = eight) {
         return eventDate(body, title, timestamp, now);
     }
 
@@ -76,8 +80,29 @@ TEST_F(EventDateTest, TakesANumberThatFitsNoIntegerForZero) {
     EXPECT_EQ(date(u"in 99999999999999999999999999 hours"_qs), eight);
 }
 
-TEST_F(EventDateTest, TakesTheGreatestIntegerAsItIs) {
-    EXPECT_EQ(date(u"in 9223372036854775807 minutes"_qs), eight + 9223372036854775807.0 * 60);
+// 100 million days after 1970 are the last that have a date. Eight o'clock is 1768978800 seconds
+// and 8.64e12 - 1768978800 is 143970517020 minutes or 2399508617 hours.
+TEST_F(EventDateTest, ReachesToTheLastDate) {
+    EXPECT_EQ(date(u"in 143970517020 minutes"_qs), eight + 143970517020.0 * 60);
+    EXPECT_EQ(date(u"in 2399508617 hours"_qs), eight + 2399508617.0 * 3600);
+    EXPECT_EQ(date(u"in 143970517021 minutes"_qs), std::nullopt);
+    EXPECT_EQ(date(u"in 2399508618 hours"_qs), std::nullopt);
+}
+
+TEST_F(EventDateTest, IsNoneForTheGreatestInteger) {
+    EXPECT_EQ(date(u"in 9223372036854775807 minutes"_qs), std::nullopt);
+    EXPECT_EQ(date(u"in 9223372036854775807 hours"_qs), std::nullopt);
+}
+
+TEST_F(EventDateTest, IsTheTimestampEvenWithoutADate) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const double strange : {infinity, -infinity, 1e300})
+        EXPECT_EQ(eventDate(u"Lunch"_qs, {}, strange, eight), strange);
+}
+
+TEST_F(EventDateTest, IsTakenFromTheTextsWhateverTheTimestamp) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(eventDate(u"in 5 minutes"_qs, {}, infinity, eight), eight + 300);
 }
 
 TEST_F(EventDateTest, ReadsDigitsOfOtherScripts) {
