@@ -6,10 +6,7 @@
 
 #include <QRegularExpression>
 
-#include <unicode/calendar.h>
-
 #include <limits>
-#include <memory>
 
 namespace tessarine {
 
@@ -17,7 +14,6 @@ namespace {
 
 constexpr double secondsPerMinute = 60;
 constexpr double secondsPerHour = 3600;
-constexpr double millisecondsPerSecond = 1000;
 
 // Digits of every script count as digits, letters of every script as letters.
 QRegularExpression pattern(const QString& text) {
@@ -45,27 +41,12 @@ std::optional<double> afterNow(const QString& text, const QString& unit, double 
     return now + double(number(match.captured(1)).value_or(0)) * seconds;
 }
 
-// The clock time on the day of the given moment. Hours and minutes beyond those of a day run into
-// the days after it. Nothing where the calendar has no such moment.
-std::optional<double> onDayOf(double moment, const QString& hour, const QString& minute) {
-    followLocalZone();
-    UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(status));
-    if (U_FAILURE(status))
-        return std::nullopt;
-    calendar->setTime((moment + unixSecondsAtReferenceDate) * millisecondsPerSecond, status);
-    calendar->set(UCAL_HOUR_OF_DAY, int32_t(number(hour).value_or(0)));
-    calendar->set(UCAL_MINUTE, int32_t(number(minute).value_or(0)));
-    calendar->set(UCAL_SECOND, 0);
-    calendar->set(UCAL_MILLISECOND, 0);
-    const UDate date = calendar->getTime(status);
-    if (U_FAILURE(status))
-        return std::nullopt;
-    return date / millisecondsPerSecond - unixSecondsAtReferenceDate;
-}
-
 // Outside: whether the rule applies. Inside: whether the calendar has the moment.
 using Moment = std::optional<double>;
+
+Moment onDayOf(double moment, const QString& hour, const QString& minute) {
+    return clockTimeOnDayOf(moment, number(hour).value_or(0), number(minute).value_or(0));
+}
 
 std::optional<Moment> onNamedDay(const QString& text, double now) {
     const auto match =

@@ -1,12 +1,10 @@
 #include "browser/DateRangePreset.h"
 
 #include "shared/LocalZone.h"
-#include "shared/ReferenceTime.h"
 #include "shared/UserLocale.h"
+#include "shared/WallCalendar.h"
 
 #include <QCoreApplication>
-
-#include <unicode/calendar.h>
 
 #include <memory>
 
@@ -14,29 +12,22 @@ namespace tessarine {
 
 namespace {
 
-constexpr double millisecondsPerSecond = 1000.0;
-
-// A day of the user's calendar, by its first instant.
+// A day of the user's calendar, by its first instant: where the clock skips midnight, the day
+// begins after the gap; where it strikes twice, at the first stroke.
 class Day {
 public:
     explicit Day(double moment)
-        : status_(U_ZERO_ERROR) {
-        followLocalZone();
-        calendar_.reset(
-            icu::Calendar::createInstance(icu::Locale(userDateLocale().constData()), status_));
-        if (U_FAILURE(status_))
+        : status_(U_ZERO_ERROR)
+        , calendar_(wallCalendar(userDateLocale())) {
+        if (!calendar_)
             qFatal("The system has no calendar");
-        // Where the clock skips midnight the day begins after the gap; where it strikes twice, at
-        // the first stroke.
-        calendar_->setSkippedWallTimeOption(UCAL_WALLTIME_NEXT_VALID);
-        calendar_->setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
-        calendar_->setTime((moment + unixSecondsAtReferenceDate) * millisecondsPerSecond, status_);
-        toMidnight();
+        calendar_->setTime(icuDate(wallTime(moment)), status_);
+        for (const auto field : {UCAL_HOUR_OF_DAY, UCAL_MINUTE, UCAL_SECOND, UCAL_MILLISECOND})
+            calendar_->set(field, 0);
     }
 
     Day& back(UCalendarDateFields field, int32_t amount) {
         calendar_->add(field, -amount, status_);
-        toMidnight();
         return *this;
     }
 
@@ -50,17 +41,9 @@ public:
         return toFirstOfMonth();
     }
 
-    double start() {
-        const double milliseconds = calendar_->getTime(status_);
-        return milliseconds / millisecondsPerSecond - unixSecondsAtReferenceDate;
-    }
+    double start() { return firstMoment(wallTimeOf(calendar_->getTime(status_))); }
 
 private:
-    void toMidnight() {
-        for (const auto field : {UCAL_HOUR_OF_DAY, UCAL_MINUTE, UCAL_SECOND, UCAL_MILLISECOND})
-            calendar_->set(field, 0);
-    }
-
     UErrorCode status_;
     std::unique_ptr<icu::Calendar> calendar_;
 };

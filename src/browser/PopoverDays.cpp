@@ -1,7 +1,9 @@
 #include "browser/PopoverDays.h"
 
-#include <unicode/datefmt.h>
+#include "shared/WallCalendar.h"
+
 #include <unicode/smpdtfmt.h>
+#include <unicode/timezone.h>
 #include <unicode/unistr.h>
 
 namespace tessarine {
@@ -16,11 +18,13 @@ QString qtText(const icu::UnicodeString& text) {
     return QString::fromUtf16(text.getBuffer(), text.length());
 }
 
-// A fixed pattern in the popover's language, strict in reading.
+// A fixed pattern in the popover's language, strict in reading. Days are read and written without a
+// time zone: strict reading would refuse those whose midnight the clock skips.
 class Format {
 public:
     explicit Format(const char16_t* pattern)
         : format_(icu::UnicodeString(pattern), icu::Locale("it_CH"), status_) {
+        format_.setTimeZone(*icu::TimeZone::getGMT());
         format_.setLenient(false);
     }
 
@@ -56,6 +60,7 @@ private:
 
 std::vector<PopoverMonth> popoverMonths(const QStringList& availableDates,
                                         const QMap<QString, qsizetype>& notificationsPerDay) {
+    keepIcuFromFindingTheZone();
     const Format dayFormat(u"EEEE d MMMM yyyy");
     const Format monthFormat(u"MMMM yyyy");
     const Format labelFormat(u"EEE d MMM");

@@ -1,6 +1,5 @@
 #include "browser/RowTimeFormatter.h"
 
-#include "shared/LocalZone.h"
 #include "shared/UserLocale.h"
 
 #include <utility>
@@ -9,35 +8,34 @@ namespace tessarine {
 
 namespace {
 
-DateFormatter formatterOf(RowTimeFormatter::Style style, const QByteArray& locale,
-                          const QString& timeZone) {
+DateFormatter formatterOf(RowTimeFormatter::Style style, const QByteArray& locale) {
     using Part = DateFormatter::Style;
     switch (style) {
     case RowTimeFormatter::Style::dateAndTime:
-        return DateFormatter::withStyles(Part::medium, Part::medium, locale, timeZone);
+        return DateFormatter::withStyles(Part::medium, Part::medium, locale);
     case RowTimeFormatter::Style::timeOnly:
-        return DateFormatter::withStyles(Part::none, Part::medium, locale, timeZone);
+        return DateFormatter::withStyles(Part::none, Part::medium, locale);
     case RowTimeFormatter::Style::fullDate:
         break;
     }
-    return DateFormatter::withStyles(Part::full, Part::none, locale, timeZone);
+    return DateFormatter::withStyles(Part::full, Part::none, locale);
 }
 
-// Made anew when the user's clock is set to another zone.
+// Made anew when the user's locale changes.
 template <RowTimeFormatter::Style style>
 const RowTimeFormatter& userFormatter() {
-    static int zone = localZoneNumber();
-    static RowTimeFormatter formatter(style, userDateLocale());
-    const int zoneNow = localZoneNumber();
-    if (std::exchange(zone, zoneNow) != zoneNow)
-        formatter = RowTimeFormatter(style, userDateLocale());
+    static QByteArray locale = userDateLocale();
+    static RowTimeFormatter formatter(style, locale);
+    const QByteArray localeNow = userDateLocale();
+    if (std::exchange(locale, localeNow) != localeNow)
+        formatter = RowTimeFormatter(style, localeNow);
     return formatter;
 }
 
 } // namespace
 
-RowTimeFormatter::RowTimeFormatter(Style style, const QByteArray& locale, const QString& timeZone)
-    : format_(formatterOf(style, locale, timeZone)) {}
+RowTimeFormatter::RowTimeFormatter(Style style, const QByteArray& locale)
+    : format_(formatterOf(style, locale)) {}
 
 const RowTimeFormatter& rowDateTimeFormatter() {
     return userFormatter<RowTimeFormatter::Style::dateAndTime>();

@@ -10,18 +10,17 @@ class RowTimeFormatter {
 public:
     enum class Style { dateAndTime, timeOnly, fullDate };
 
-    // A locale by its ICU name ("de_DE"), a time zone by its Olson name; without one, the user's.
-    RowTimeFormatter(Style style, const QByteArray& locale, const QString& timeZone = {});
+    // A locale by its ICU name ("de_DE").
+    RowTimeFormatter(Style style, const QByteArray& locale);
 
-    // Of a moment in seconds since the reference date. Nothing for one that is no finite number;
-    // one outside the calendar's range reads as the range's end.
+    // Of a moment in seconds since the reference date, as DateFormatter does it.
     QString text(double timestamp) const { return format_.text(timestamp); }
 
 private:
     DateFormatter format_;
 };
 
-// In the user's locale and time zone as they are now; good until the next call.
+// In the user's locale as it is now; good until the next call.
 const RowTimeFormatter& rowDateTimeFormatter();
 const RowTimeFormatter& rowTimeFormatter();
 const RowTimeFormatter& dayTitleFormatter();

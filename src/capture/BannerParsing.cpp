@@ -7,12 +7,9 @@
 
 #include <QRegularExpression>
 
-#include <unicode/gregocal.h>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <memory>
 
 namespace tessarine {
 
@@ -127,27 +124,6 @@ std::optional<double> ageIn(QStringView token) {
     }
 }
 
-// The day of now at this hour and minute, in the user's time zone. Values beyond a day or an hour
-// carry over.
-std::optional<double> today(qint64 hour, qint64 minute, double now) {
-    constexpr qint64 limit = std::numeric_limits<qint32>::max();
-    if (std::abs(static_cast<double>(hour)) > limit ||
-        std::abs(static_cast<double>(minute)) > limit)
-        return std::nullopt;
-    followLocalZone();
-    UErrorCode status = U_ZERO_ERROR;
-    icu::GregorianCalendar calendar(status);
-    calendar.setTime((now + unixSecondsAtReferenceDate) * 1000.0, status);
-    calendar.set(UCAL_HOUR_OF_DAY, static_cast<int32_t>(hour));
-    calendar.set(UCAL_MINUTE, static_cast<int32_t>(minute));
-    calendar.set(UCAL_SECOND, 0);
-    calendar.set(UCAL_MILLISECOND, 0);
-    const UDate date = calendar.getTime(status);
-    if (U_FAILURE(status))
-        return std::nullopt;
-    return date / 1000.0 - unixSecondsAtReferenceDate;
-}
-
 qint64 wholeUnixSeconds(double timestamp) {
     const double seconds = std::trunc(timestamp + unixSecondsAtReferenceDate);
     if (!(seconds > -0x1p63))
@@ -196,7 +172,8 @@ double inferTimestamp(const QString& token, double now) {
         return now;
     const std::optional<qint64> hour = decimal(pieces[0]);
     const std::optional<qint64> minute = decimal(pieces[1]);
-    const std::optional<double> date = hour && minute ? today(*hour, *minute, now) : std::nullopt;
+    const std::optional<double> date =
+        hour && minute ? clockTimeOnDayOf(now, *hour, *minute) : std::nullopt;
     if (!date)
         return now;
     return *date > now ? *date - secondsPerDay : *date;

@@ -1,22 +1,17 @@
 #include "shared/DateFormatter.h"
 
 #include "shared/LocalZone.h"
-#include "shared/ReferenceTime.h"
+#include "shared/WallCalendar.h"
 
 #include <unicode/calendar.h>
 #include <unicode/datefmt.h>
 #include <unicode/smpdtfmt.h>
-#include <unicode/timezone.h>
 
-#include <algorithm>
 #include <cmath>
 
 namespace tessarine {
 
 namespace {
-
-// The range in which every calendar of ICU gives a sensible date: 100 million days around 1970.
-constexpr double greatestMilliseconds = 8.64e15;
 
 using IcuStyle = icu::DateFormat::EStyle;
 
@@ -44,33 +39,30 @@ struct DateFormatter::Format {
     std::unique_ptr<icu::DateFormat> format;
     std::unique_ptr<icu::Calendar> calendar;
 
-    Format(std::unique_ptr<icu::DateFormat> made, const QString& timeZone)
+    explicit Format(std::unique_ptr<icu::DateFormat> made)
         : format(std::move(made)) {
         if (!format)
             return;
-        if (!timeZone.isEmpty())
-            format->adoptTimeZone(icu::TimeZone::createTimeZone(icuText(timeZone)));
         calendar.reset(format->getCalendar()->clone());
+        useWallTime(*calendar);
     }
 };
 
-DateFormatter DateFormatter::withPattern(const QString& pattern, const QByteArray& locale,
-                                         const QString& timeZone) {
-    followLocalZone();
+DateFormatter DateFormatter::withPattern(const QString& pattern, const QByteArray& locale) {
+    keepIcuFromFindingTheZone();
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::DateFormat> format = std::make_unique<icu::SimpleDateFormat>(
         icuText(pattern), icu::Locale(locale.constData()), status);
     if (U_FAILURE(status))
         format.reset();
-    return DateFormatter(std::make_unique<Format>(std::move(format), timeZone));
+    return DateFormatter(std::make_unique<Format>(std::move(format)));
 }
 
-DateFormatter DateFormatter::withStyles(Style date, Style time, const QByteArray& locale,
-                                        const QString& timeZone) {
-    followLocalZone();
+DateFormatter DateFormatter::withStyles(Style date, Style time, const QByteArray& locale) {
+    keepIcuFromFindingTheZone();
     std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
         icuStyle(date), icuStyle(time), icu::Locale(locale.constData())));
-    return DateFormatter(std::make_unique<Format>(std::move(format), timeZone));
+    return DateFormatter(std::make_unique<Format>(std::move(format)));
 }
 
 DateFormatter::DateFormatter(std::unique_ptr<Format> format)
@@ -81,12 +73,10 @@ DateFormatter& DateFormatter::operator=(DateFormatter&& other) noexcept = defaul
 DateFormatter::~DateFormatter() = default;
 
 QString DateFormatter::text(double timestamp) const {
-    if (!format_->format || !std::isfinite(timestamp))
+    if (!format_->format || std::isnan(timestamp))
         return {};
-    const double milliseconds = (timestamp + unixSecondsAtReferenceDate) * 1000.0;
     UErrorCode status = U_ZERO_ERROR;
-    format_->calendar->setTime(
-        std::clamp(milliseconds, -greatestMilliseconds, greatestMilliseconds), status);
+    format_->calendar->setTime(icuDate(wallTime(timestamp)), status);
     if (U_FAILURE(status))
         return {};
     icu::UnicodeString text;

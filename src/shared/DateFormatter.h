@@ -7,27 +7,26 @@
 
 namespace tessarine {
 
-// Moments as text, by ICU: with the calendar, names and digits of a locale, in a time zone. Made
-// once for a purpose, since making one is far dearer than using it. One thread at a time.
+// Moments as text, by ICU: with the calendar, names and digits of a locale, as the user's clock
+// shows them when the text is made. Patterns have no signs for fractions of a second and for time
+// zones. Made once for a purpose, since making one is far dearer than using it. One thread at a
+// time.
 class DateFormatter {
 public:
     enum class Style { none, medium, full };
 
-    // A Unicode date pattern ("yyyy-MM-dd"). A locale by its ICU name ("de_DE"), a time zone by
-    // its Olson name; without one, that which the user's clock shows as the formatter is made.
-    static DateFormatter withPattern(const QString& pattern, const QByteArray& locale,
-                                     const QString& timeZone = {});
+    // A Unicode date pattern ("yyyy-MM-dd"). A locale by its ICU name ("de_DE").
+    static DateFormatter withPattern(const QString& pattern, const QByteArray& locale);
 
     // As the locale's readers are used to.
-    static DateFormatter withStyles(Style date, Style time, const QByteArray& locale,
-                                    const QString& timeZone = {});
+    static DateFormatter withStyles(Style date, Style time, const QByteArray& locale);
 
     DateFormatter(DateFormatter&& other) noexcept;
     DateFormatter& operator=(DateFormatter&& other) noexcept;
     ~DateFormatter();
 
-    // Of a moment in seconds since the reference date. Nothing for one that is no finite number;
-    // one outside the calendar's range reads as the range's end.
+    // Of a moment in seconds since the reference date. Nothing for what is no number; a moment
+    // without a date, also an infinite one, reads as the first or the last that has one.
     QString text(double timestamp) const;
 
 private:

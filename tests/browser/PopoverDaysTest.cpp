@@ -34,6 +34,15 @@ TEST_F(PopoverDaysTest, DaysInTheLongFormComeByMonth) {
     EXPECT_EQ(months[1].days[0].badge, 1);
 }
 
+TEST_F(PopoverDaysTest, DaysWithoutMidnightAreDaysToo) {
+    const testing::TimeZoneScope zone("Africa/Cairo"); // where 24 April 2026 begins at one o'clock
+    const QString day = u"venerdì 24 aprile 2026"_qs;
+    const auto months = popoverMonths({day}, {});
+    ASSERT_EQ(months.size(), 1U);
+    EXPECT_EQ(months[0].title, u"Aprile 2026"_qs);
+    EXPECT_EQ(months[0].days[0], (PopoverDay{day, u"Ven 24 Apr"_qs, std::nullopt}));
+}
+
 TEST_F(PopoverDaysTest, WhatIsNoDayFallsOut) {
     const QString day = u"lunedì 1 giugno 2026"_qs;
     const auto months = popoverMonths({u""_qs, u"lunedì"_qs, day + u" e oltre"_qs, day,

@@ -1,5 +1,6 @@
 #include "browser/RowTimeFormatter.h"
 
+#include "support/DateLocaleScope.h"
 #include "support/Printers.h"
 #include "support/TimeZoneScope.h"
 
@@ -12,70 +13,89 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using Style = RowTimeFormatter::Style;
+using testing::DateLocaleScope;
 using testing::TimeZoneScope;
 
 // 2025-11-16 15:33:20 UTC, by date(1) of 785000000 + 978307200.
 constexpr double afternoon = 785000000.0;
 
-TEST(RowTime, IsInTheMediumStyleOfTheLocale) {
-    EXPECT_EQ(RowTimeFormatter(Style::dateAndTime, "de_DE", u"UTC"_qs).text(afternoon),
-              u"16.11.2025, 15:33:20"_qs);
-    EXPECT_EQ(RowTimeFormatter(Style::dateAndTime, "en_US", u"UTC"_qs).text(afternoon),
-              u"Nov 16, 2025, 3:33:20\u202fPM"_qs);
-    EXPECT_EQ(RowTimeFormatter(Style::dateAndTime, "sv_SE", u"UTC"_qs).text(afternoon),
-              u"16 nov. 2025 15:33:20"_qs);
-    EXPECT_EQ(RowTimeFormatter(Style::timeOnly, "de_DE", u"UTC"_qs).text(afternoon),
-              u"15:33:20"_qs);
+QString text(Style style, const char* locale, double moment = afternoon) {
+    return RowTimeFormatter(style, locale).text(moment);
 }
 
-TEST(RowTime, IsInTheTimeZone) {
-    EXPECT_EQ(RowTimeFormatter(Style::timeOnly, "de_DE", u"Asia/Tokyo"_qs).text(afternoon),
-              u"00:33:20"_qs);
-    EXPECT_EQ(RowTimeFormatter(Style::dateAndTime, "de_DE", u"Asia/Tokyo"_qs).text(afternoon),
-              u"17.11.2025, 00:33:20"_qs);
+class RowTimeTest : public ::testing::Test {
+protected:
+    const TimeZoneScope zone_{"UTC"};
+};
+
+TEST_F(RowTimeTest, IsInTheMediumStyleOfTheLocale) {
+    EXPECT_EQ(text(Style::dateAndTime, "de_DE"), u"16.11.2025, 15:33:20"_qs);
+    EXPECT_EQ(text(Style::dateAndTime, "en_US"), u"Nov 16, 2025, 3:33:20\u202fPM"_qs);
+    EXPECT_EQ(text(Style::dateAndTime, "sv_SE"), u"16 nov. 2025 15:33:20"_qs);
+    EXPECT_EQ(text(Style::timeOnly, "de_DE"), u"15:33:20"_qs);
 }
 
-TEST(RowTime, FollowsTheUsersClockToAnotherZone) {
-    const TimeZoneScope rome("Europe/Rome");
-    EXPECT_TRUE(rowTimeFormatter().text(afternoon).contains(u":33:20"_qs));
-    const QString inRome = rowDateTimeFormatter().text(afternoon);
-    const QString dayInRome = dayTitleFormatter().text(afternoon);
+TEST_F(RowTimeTest, HasADayInTheFullStyle) {
+    EXPECT_EQ(text(Style::fullDate, "de_DE"), u"Sonntag, 16. November 2025"_qs);
+}
+
+TEST_F(RowTimeTest, IsInTheTimeZone) {
+    const TimeZoneScope tokyo("Asia/Tokyo");
+    EXPECT_EQ(text(Style::timeOnly, "de_DE"), u"00:33:20"_qs);
+    EXPECT_EQ(text(Style::dateAndTime, "de_DE"), u"17.11.2025, 00:33:20"_qs);
+}
+
+TEST_F(RowTimeTest, OfTheUserFollowsTheClockToAnotherZone) {
+    const DateLocaleScope german("de_DE.UTF-8");
+    EXPECT_EQ(rowTimeFormatter().text(afternoon), u"15:33:20"_qs);
+    EXPECT_EQ(dayTitleFormatter().text(afternoon), u"Sonntag, 16. November 2025"_qs);
     {
         const TimeZoneScope tokyo("Asia/Tokyo");
-        EXPECT_NE(rowDateTimeFormatter().text(afternoon), inRome);
-        EXPECT_NE(dayTitleFormatter().text(afternoon), dayInRome); // the next day there
+        EXPECT_EQ(rowTimeFormatter().text(afternoon), u"00:33:20"_qs);
+        EXPECT_EQ(rowDateTimeFormatter().text(afternoon), u"17.11.2025, 00:33:20"_qs);
+        EXPECT_EQ(dayTitleFormatter().text(afternoon), u"Montag, 17. November 2025"_qs);
     }
-    EXPECT_EQ(rowDateTimeFormatter().text(afternoon), inRome);
-    EXPECT_EQ(dayTitleFormatter().text(afternoon), dayInRome);
+    EXPECT_EQ(rowDateTimeFormatter().text(afternoon), u"16.11.2025, 15:33:20"_qs);
 }
 
-TEST(RowTime, DropsTheFractionOfASecond) {
-    const RowTimeFormatter formatter(Style::timeOnly, "de_DE", u"UTC"_qs);
-    EXPECT_EQ(formatter.text(afternoon + 0.999), u"15:33:20"_qs);
-    EXPECT_EQ(formatter.text(-0.5), u"23:59:59"_qs); // before the reference date
+TEST_F(RowTimeTest, OfTheUserFollowsTheLocale) {
+    const DateLocaleScope german("de_DE.UTF-8");
+    EXPECT_EQ(rowDateTimeFormatter().text(afternoon), u"16.11.2025, 15:33:20"_qs);
+    const DateLocaleScope swedish("sv_SE.UTF-8");
+    EXPECT_EQ(rowDateTimeFormatter().text(afternoon), u"16 nov. 2025 15:33:20"_qs);
+    EXPECT_EQ(rowTimeFormatter().text(afternoon), u"15:33:20"_qs);
+    EXPECT_EQ(dayTitleFormatter().text(afternoon), u"söndag 16 november 2025"_qs);
 }
 
-TEST(RowTime, IsEmptyForWhatIsNoMoment) {
-    const RowTimeFormatter formatter(Style::dateAndTime, "en_US", u"UTC"_qs);
-    EXPECT_EQ(formatter.text(std::numeric_limits<double>::quiet_NaN()), QString());
-    EXPECT_EQ(formatter.text(std::numeric_limits<double>::infinity()), QString());
-    EXPECT_EQ(formatter.text(-std::numeric_limits<double>::infinity()), QString());
+TEST_F(RowTimeTest, KeepsTheScriptOfTheLocale) {
+    const DateLocaleScope latin("sr_RS.UTF-8@latin");
+    EXPECT_EQ(dayTitleFormatter().text(afternoon), u"nedelja, 16. novembar 2025."_qs);
+    const DateLocaleScope cyrillic("sr_RS.UTF-8");
+    EXPECT_EQ(dayTitleFormatter().text(afternoon), u"недеља, 16. новембар 2025."_qs);
 }
 
-TEST(RowTime, TakesHugeMomentsAsTheEndsOfTheCalendar) {
-    const RowTimeFormatter formatter(Style::dateAndTime, "de_DE", u"UTC"_qs);
-    // 100 million days after 1970, as ECMAScript's greatest date has it.
-    EXPECT_EQ(formatter.text(1e300), u"13.09.275760, 00:00:00"_qs);
-    EXPECT_EQ(formatter.text(std::numeric_limits<double>::max()), formatter.text(1e300));
-    EXPECT_FALSE(formatter.text(-1e300).isEmpty());
+TEST_F(RowTimeTest, DropsTheFractionOfASecond) {
+    EXPECT_EQ(text(Style::timeOnly, "de_DE", afternoon + 0.999), u"15:33:20"_qs);
+    EXPECT_EQ(text(Style::timeOnly, "de_DE", -0.5), u"23:59:59"_qs); // before the reference date
 }
 
-TEST(RowTime, AnUnknownLocaleStillGivesADate) {
-    EXPECT_TRUE(RowTimeFormatter(Style::dateAndTime, "xx_YY", u"UTC"_qs)
-                    .text(afternoon)
-                    .contains(u"2025"_qs));
-    EXPECT_TRUE(
-        RowTimeFormatter(Style::dateAndTime, "C", u"UTC"_qs).text(afternoon).contains(u"2025"_qs));
+TEST_F(RowTimeTest, IsEmptyForWhatIsNoNumber) {
+    EXPECT_EQ(text(Style::dateAndTime, "en_US", std::numeric_limits<double>::quiet_NaN()),
+              QString());
+}
+
+TEST_F(RowTimeTest, TakesMomentsWithoutADateAsTheFirstOrTheLast) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    // 100 million days on either side of 1970, as ECMAScript's dates have it.
+    for (const double moment : {1e300, std::numeric_limits<double>::max(), infinity})
+        EXPECT_EQ(text(Style::dateAndTime, "de_DE", moment), u"13.09.275760, 00:00:00"_qs);
+    for (const double moment : {-1e300, std::numeric_limits<double>::lowest(), -infinity})
+        EXPECT_EQ(text(Style::dateAndTime, "de_DE", moment), u"20.04.271822, 00:00:00"_qs);
+}
+
+TEST_F(RowTimeTest, AnUnknownLocaleStillGivesADate) {
+    EXPECT_TRUE(text(Style::dateAndTime, "xx_YY").contains(u"2025"_qs));
+    EXPECT_TRUE(text(Style::dateAndTime, "C").contains(u"2025"_qs));
 }
 
 } // namespace

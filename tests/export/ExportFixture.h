@@ -1,6 +1,7 @@
 #pragma once
 
 #include "export/ExportManager.h"
+#include "support/DateLocaleScope.h"
 #include "support/Printers.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
@@ -12,28 +13,6 @@
 #include <gtest/gtest.h>
 
 namespace tessarine::testing {
-
-// Makes a locale that of the process's dates, for the length of a scope.
-class DateLocaleScope {
-public:
-    explicit DateLocaleScope(const char* locale)
-        : before_(qgetenv("LC_ALL"))
-        , wasSet_(qEnvironmentVariableIsSet("LC_ALL")) {
-        qputenv("LC_ALL", locale);
-    }
-    DateLocaleScope(const DateLocaleScope&) = delete;
-    DateLocaleScope& operator=(const DateLocaleScope&) = delete;
-    ~DateLocaleScope() {
-        if (wasSet_)
-            qputenv("LC_ALL", before_);
-        else
-            qunsetenv("LC_ALL");
-    }
-
-private:
-    QByteArray before_;
-    bool wasSet_;
-};
 
 // A moment of 3 March 2026, universal time, in seconds since the reference date: 794188800 is
 // midnight, by date(1).

@@ -97,10 +97,8 @@ TEST(DayKey, HasDigitsFromZeroToNineInEveryLanguage) {
     QLocale::setDefault(before);
 }
 
-TEST(DayKey, IsEmptyForWhatIsNoMoment) {
+TEST(DayKey, IsEmptyForWhatIsNoNumber) {
     EXPECT_TRUE(dayKey(std::numeric_limits<double>::quiet_NaN()).isEmpty());
-    EXPECT_TRUE(dayKey(infinity).isEmpty());
-    EXPECT_TRUE(dayKey(-infinity).isEmpty());
 }
 
 class DayKeyFarAway : public ::testing::TestWithParam<const char*> {
@@ -109,9 +107,9 @@ protected:
 };
 
 TEST_P(DayKeyFarAway, TakesMomentsOutsideFourDigitYearsAsTheEnds) {
-    for (const double moment : {1e300, 1e18, 9.3e18, 252423907200.0 + 2 * day})
+    for (const double moment : {infinity, 1e300, 1e18, 9.3e18, 252423907200.0 + 2 * day})
         EXPECT_EQ(key(moment), "9999-12-31") << moment;
-    for (const double moment : {-1e300, -1e18, -9.3e18, -63113904000.0 - 2 * day})
+    for (const double moment : {-infinity, -1e300, -1e18, -9.3e18, -63113904000.0 - 2 * day})
         EXPECT_EQ(key(moment), "0001-01-01") << moment;
 }
 

@@ -3,19 +3,16 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-#include <ctime>
-
 namespace tessarine::testing {
 
-// Makes a time zone that of the process, for the length of a scope, as a user would: ICU, which
-// keeps the zone that it has found once, isn't told.
+// Sets the variable TZ for the length of a scope. Nobody is told: what has found another zone
+// before must find this one by itself.
 class TimeZoneScope {
 public:
     explicit TimeZoneScope(const char* zone)
         : before_(qgetenv("TZ"))
         , wasSet_(qEnvironmentVariableIsSet("TZ")) {
         qputenv("TZ", zone);
-        tzset();
     }
     TimeZoneScope(const TimeZoneScope&) = delete;
     TimeZoneScope& operator=(const TimeZoneScope&) = delete;
@@ -24,7 +21,6 @@ public:
             qputenv("TZ", before_);
         else
             qunsetenv("TZ");
-        tzset();
     }
 
 private:
