@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that includes point one way, and that only a system's own folder knows the system.
+"""Checks that includes point one way, that only a system's own folder knows the system, and that one
+file alone knows the time zone.
 
 usage: check_layers.py ROOT
 """
@@ -46,6 +47,14 @@ SYSTEM_HEADER = re.compile(
     r"ServiceManagement/)")
 BUS_NAME = re.compile(r"org\.freedesktop\.\w+")
 SYSTEM_LIBRARY = re.compile(r"(Qt6::DBus|PkgConfig::DBUS|-framework)\b")
+
+# Two sources of a zone's rules would disagree about the day of a moment. ICU's calendars are for wall
+# time, which one file makes sure of.
+ZONE_FILES = ["src/shared/LocalZone.cpp", "src/shared/WallCalendar.cpp"]
+ZONE_SOURCE = re.compile(
+    r"\b(localtime\w*|mktime|tzset|QTimeZone|current_zone|zoned_time|LocalTime|toLocalTime|"
+    r"currentDateTime|QDate::currentDate|QTime::currentTime|createDefault|detectHostTimeZone|"
+    r"createTimeZone|Calendar::createInstance|GregorianCalendar)\b")
 
 
 def layer_of(file):
@@ -141,6 +150,19 @@ def check_systems(root, files):
     return violations
 
 
+def check_zones(root, files):
+    violations = []
+    for file in files:
+        if file.as_posix() in ZONE_FILES:
+            continue
+        for number, line in enumerate(sources.lines_of(root / file), 1):
+            match = ZONE_SOURCE.search(line.split("//")[0])
+            if match:
+                violations.append(f"{file}:{number}: {match[1]} has a time zone of its own; ask "
+                                  "shared/LocalZone.h")
+    return violations
+
+
 def check_libraries(root):
     violations = []
     for path in sorted((root / "src").rglob("CMakeLists.txt")):
@@ -157,7 +179,7 @@ def check_libraries(root):
 def check(root):
     files = sources.cpp_files(root, ["src"])
     return [*check_includes(root, files), *check_cycles(root, files),
-            *check_systems(root, files), *check_libraries(root)]
+            *check_systems(root, files), *check_zones(root, files), *check_libraries(root)]
 
 
 def main():

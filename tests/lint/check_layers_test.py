@@ -64,6 +64,15 @@ class LayersTest(unittest.TestCase):
         self.write("src/news/Reader.h")
         self.assert_violations("src/news/Reader.h:1: belongs to no layer")
 
+    def test_one_file_alone_asks_for_the_time_zone(self):
+        self.write("src/shared/LocalZone.cpp", "localtime_r(&time, &local);", "tzset();")
+        self.write("src/browser/Row.cpp", "// localtime_r was here", "localtime_r(&time, &local);",
+                   "const QDateTime now = QDateTime::currentDateTime();",
+                   "const QDateTime utc = QDateTime::currentDateTimeUtc();")
+        why = "has a time zone of its own; ask shared/LocalZone.h"
+        self.assert_violations(f"src/browser/Row.cpp:2: localtime_r {why}",
+                               f"src/browser/Row.cpp:3: currentDateTime {why}")
+
     def test_files_must_not_include_each_other(self):
         self.write("src/browser/List.h", '#include "browser/Row.h"')
         self.write("src/browser/Row.h", '#include "browser/List.h"')
