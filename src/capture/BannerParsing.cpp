@@ -166,7 +166,7 @@ double inferTimestamp(const QString& token, double now) {
     if (trimmed.isEmpty() || trimmed == justNow)
         return now;
     if (const std::optional<double> age = ageIn(trimmed))
-        return std::clamp(now - *age, earliestMoment, latestMoment);
+        return std::clamp(now - *age, firstSecond, lastSecond);
     const auto pieces = trimmed.split(u':', Qt::SkipEmptyParts);
     if (pieces.size() != 2)
         return now;

@@ -26,7 +26,7 @@ public:
     ~DateFormatter();
 
     // Of a moment in seconds since the reference date. Nothing for what is no number; a moment
-    // without a date, also an infinite one, reads as the first or the last that has one.
+    // beyond the years 1 to 9999, also an infinite one, reads as the first or the last of them.
     QString text(double timestamp) const;
 
 private:

@@ -5,7 +5,6 @@
 
 #include <QDate>
 
-#include <algorithm>
 #include <chrono>
 #include <cmath>
 
@@ -18,8 +17,6 @@ constexpr qsizetype keyLength = 10;
 constexpr qint64 daySeconds = static_cast<qint64>(secondsPerDay);
 
 constexpr std::chrono::sys_days referenceDay{std::chrono::year(2001) / 1 / 1};
-constexpr std::chrono::sys_days firstDay{std::chrono::year(1) / 1 / 1};
-constexpr std::chrono::sys_days lastDay{std::chrono::year(9999) / 12 / 31};
 
 void writeDigits(QChar* end, unsigned value, int count) {
     for (; count > 0; --count, value /= 10)
@@ -36,9 +33,8 @@ QString keyText(std::chrono::sys_days day) {
 }
 
 std::chrono::sys_days localDay(double timestamp) {
-    const auto day =
-        std::chrono::floor<std::chrono::days>(std::chrono::seconds(wallTime(timestamp)));
-    return std::clamp(referenceDay + day, firstDay, lastDay);
+    const std::chrono::seconds time(wallTime(timestamp));
+    return referenceDay + std::chrono::floor<std::chrono::days>(time);
 }
 
 } // namespace

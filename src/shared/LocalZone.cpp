@@ -97,6 +97,10 @@ ZoneWatch& zoneWatch() {
     return watch;
 }
 
+qint64 withinDates(qint64 wallTime) {
+    return std::clamp(wallTime, static_cast<qint64>(firstSecond), static_cast<qint64>(lastSecond));
+}
+
 qint64 floorDivided(qint64 value, qint64 divisor) {
     return value / divisor - (value % divisor < 0 ? 1 : 0);
 }
@@ -163,8 +167,7 @@ struct Moments {
 // what holds after it can show the wall time.
 Moments momentsOf(qint64 wallTime) {
     zoneWatch().look();
-    const qint64 wall = std::clamp(wallTime, static_cast<qint64>(earliestMoment),
-                                   static_cast<qint64>(latestMoment));
+    const qint64 wall = withinDates(wallTime);
     const qint64 before = askOffset(wall - greatestOffset);
     const qint64 after = askOffset(wall + greatestOffset);
     const bool isShownBefore = askOffset(wall - before) == before;
@@ -177,12 +180,14 @@ Moments momentsOf(qint64 wallTime) {
 } // namespace
 
 qint64 wallTime(double timestamp) {
-    const double known = std::isnan(timestamp) ? earliestMoment : timestamp;
+    // Some more on either side, so that the offset decides which moments lie within.
+    constexpr double first = firstSecond - greatestOffset;
+    constexpr double last = lastSecond + greatestOffset;
+    const double known = std::isnan(timestamp) ? first : std::clamp(timestamp, first, last);
     // Whole seconds first: the sum would round a moment just before midnight up to it.
-    const double seconds = std::floor(std::clamp(known, earliestMoment, latestMoment));
-    const auto moment = static_cast<qint64>(seconds);
+    const auto moment = static_cast<qint64>(std::floor(known));
     thread_local LocalClock clock;
-    return moment + clock.offset(moment);
+    return withinDates(moment + clock.offset(moment));
 }
 
 double firstMoment(qint64 wallTime) {

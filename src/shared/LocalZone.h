@@ -13,8 +13,8 @@ namespace tessarine {
 
 // What the user's clock shows, as the seconds since the reference date at which a clock in UTC
 // would show the same date and time. Whole ones: any fraction of a second before midnight still is
-// the day before. Moments without a date, infinite ones too, count as the first or the last that
-// has one; what is no number as the first.
+// the day before. Where that is no date of the years 1 to 9999, for infinite moments too, it is the
+// first or the last one; for what is no number the first.
 qint64 wallTime(double timestamp);
 
 // When the clock shows this wall time, in seconds since the reference date: the first or the last

@@ -8,14 +8,14 @@ inline constexpr double unixSecondsAtReferenceDate = 978307200.0;
 
 inline constexpr double secondsPerDay = 86400.0;
 
-// The moments that have a date: 100 million days on either side of 1970, for which every calendar
-// of ICU gives a sensible one.
-inline constexpr double earliestMoment = -100'000'000 * secondsPerDay - unixSecondsAtReferenceDate;
-inline constexpr double latestMoment = 100'000'000 * secondsPerDay - unixSecondsAtReferenceDate;
+// The first and the last second that have a date: 0001-01-01 00:00:00 and 9999-12-31 23:59:59. With
+// a year of four digits dates have their order as texts too.
+inline constexpr double firstSecond = -730'485 * secondsPerDay;
+inline constexpr double lastSecond = 2'921'574 * secondsPerDay - 1;
 
 // False also for what is no number.
 constexpr bool hasDate(double timestamp) {
-    return timestamp >= earliestMoment && timestamp <= latestMoment;
+    return timestamp >= firstSecond && timestamp < lastSecond + 1;
 }
 
 } // namespace tessarine

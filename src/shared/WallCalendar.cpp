@@ -29,7 +29,7 @@ void useWallTime(icu::Calendar& calendar) {
     calendar.setTimeZone(*icu::TimeZone::getGMT());
     UErrorCode status = U_ZERO_ERROR;
     if (auto* const gregorian = dynamic_cast<icu::GregorianCalendar*>(&calendar))
-        gregorian->setGregorianChange(icuDate(static_cast<qint64>(earliestMoment)), status);
+        gregorian->setGregorianChange(icuDate(static_cast<qint64>(firstSecond)), status);
 }
 
 std::unique_ptr<icu::Calendar> wallCalendar(const QByteArray& locale) {

@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, FarTextTest,
                                            u"in 9223372036854775807 minutes, today at 10:30",
                                            u"IN 9223372036854775807 MINUTES",
                                            u"in ９２２３３７２０３６８５４７７５８０７ minutes",
-                                           u"in 143970517021 minutes", u"in 2399508618 hours"));
+                                           u"in 4193888720 minutes", u"in 69898146 hours"));
 
 class ExtremeTextTest : public ::testing::TestWithParam<const char16_t*> {};
 
@@ -140,12 +140,14 @@ INSTANTIATE_TEST_SUITE_P(Texts, ExtremeTextTest,
 
 TEST(DeepLinkTest, OpensNoCalendarAtADateThatItCannotShow) {
     CapturedNotification notification = from(u"com.apple.iCal"_qs);
-    notification.timestamp =
-        8640000000000 - 978307200; // the last date: 100 million days after 1970
-    EXPECT_EQ(link(notification), u"calshow://8640000000000"_qs);
+    // The ends of the years 1 to 9999 in Unix time, by Python's date.
+    notification.timestamp = 253402300799.0 - 978307200;
+    EXPECT_EQ(link(notification), u"calshow://253402300799"_qs);
     notification.timestamp += 1;
     EXPECT_EQ(link(notification), u"(none)"_qs);
-    notification.timestamp = -8640000000000 - 978307200 - 1;
+    notification.timestamp = -62135596800.0 - 978307200;
+    EXPECT_EQ(link(notification), u"calshow://-62135596800"_qs);
+    notification.timestamp -= 1;
     EXPECT_EQ(link(notification), u"(none)"_qs);
     notification.timestamp = 9.2e18; // seconds that an integer holds
     EXPECT_EQ(link(notification), u"(none)"_qs);

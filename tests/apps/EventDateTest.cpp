@@ -80,13 +80,13 @@ TEST_F(EventDateTest, TakesANumberThatFitsNoIntegerForZero) {
     EXPECT_EQ(date(u"in 99999999999999999999999999 hours"_qs), eight);
 }
 
-// 100 million days after 1970 are the last that have a date. Eight o'clock is 1768978800 seconds
-// and 8.64e12 - 1768978800 is 143970517020 minutes or 2399508617 hours.
+// The year 9999 ends 253402300800 seconds after 1970 by Python's date, 251633322000 after that
+// eight o'clock, which are 4193888700 minutes or 69898145 hours.
 TEST_F(EventDateTest, ReachesToTheLastDate) {
-    EXPECT_EQ(date(u"in 143970517020 minutes"_qs), eight + 143970517020.0 * 60);
-    EXPECT_EQ(date(u"in 2399508617 hours"_qs), eight + 2399508617.0 * 3600);
-    EXPECT_EQ(date(u"in 143970517021 minutes"_qs), std::nullopt);
-    EXPECT_EQ(date(u"in 2399508618 hours"_qs), std::nullopt);
+    EXPECT_EQ(date(u"in 4193888699 minutes"_qs), eight + 4193888699.0 * 60);
+    EXPECT_EQ(date(u"in 69898144 hours"_qs), eight + 69898144.0 * 3600);
+    EXPECT_EQ(date(u"in 4193888700 minutes"_qs), std::nullopt);
+    EXPECT_EQ(date(u"in 69898145 hours"_qs), std::nullopt);
 }
 
 TEST_F(EventDateTest, IsNoneForTheGreatestInteger) {

@@ -187,6 +187,18 @@ TEST(Groups, OfDaysRunNewestFirstWhateverTheOrderInThem) {
     EXPECT_EQ(titlesOf(groups[1].notifications), QStringList({u"early"_qs, u"late"_qs}));
 }
 
+TEST(Groups, OfMomentsBeyondAllDaysComeFirstAndLast) {
+    const testing::TimeZoneScope zone("UTC");
+    const double infinity = std::numeric_limits<double>::infinity();
+    const NotificationList rows{row(u"A"_qs, 0, u"today"_qs), row(u"A"_qs, infinity, u"never"_qs),
+                                row(u"A"_qs, -1e300, u"old"_qs), row(u"A"_qs, 1e300, u"far"_qs),
+                                row(u"A"_qs, -infinity, u"oldest"_qs)};
+    const auto groups = groupedByDate(sortedBy(SortMode::newest, rows));
+    EXPECT_EQ(keysOf(groups), QStringList({u"9999-12-31"_qs, u"2001-01-01"_qs, u"0001-01-01"_qs}));
+    EXPECT_EQ(titlesOf(groups[0].notifications), QStringList({u"never"_qs, u"far"_qs}));
+    EXPECT_EQ(titlesOf(groups[2].notifications), QStringList({u"old"_qs, u"oldest"_qs}));
+}
+
 TEST(Choices, ReadTheWholeList) {
     const testing::TimeZoneScope zone("UTC");
     const NotificationList rows{row(u"b"_qs, 0), row(u"B"_qs, 86400), row(u"b"_qs, 5)};

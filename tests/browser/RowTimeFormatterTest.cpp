@@ -86,11 +86,10 @@ TEST_F(RowTimeTest, IsEmptyForWhatIsNoNumber) {
 
 TEST_F(RowTimeTest, TakesMomentsWithoutADateAsTheFirstOrTheLast) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    // 100 million days on either side of 1970, as ECMAScript's dates have it.
     for (const double moment : {1e300, std::numeric_limits<double>::max(), infinity})
-        EXPECT_EQ(text(Style::dateAndTime, "de_DE", moment), u"13.09.275760, 00:00:00"_qs);
+        EXPECT_EQ(text(Style::dateAndTime, "de_DE", moment), u"31.12.9999, 23:59:59"_qs);
     for (const double moment : {-1e300, std::numeric_limits<double>::lowest(), -infinity})
-        EXPECT_EQ(text(Style::dateAndTime, "de_DE", moment), u"20.04.271822, 00:00:00"_qs);
+        EXPECT_EQ(text(Style::dateAndTime, "de_DE", moment), u"01.01.1, 00:00:00"_qs);
 }
 
 TEST_F(RowTimeTest, AnUnknownLocaleStillGivesADate) {

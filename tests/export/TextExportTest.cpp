@@ -1,5 +1,7 @@
 #include "export/ExportFixture.h"
 
+#include <limits>
+
 namespace tessarine::testing {
 namespace {
 
@@ -119,6 +121,19 @@ TEST_F(TextExportTest, CutsDaysByTheUsersClock) {
                               u"\n00:00:00  [Mail]\n\n▸ 2026-03-03  (1 notification)\n"_qs +
                               dotted + u"\n23:59:59  [Mail]\n\n"_qs))
         << text.toStdString();
+}
+
+TEST_F(TextExportTest, PutsMomentsBeyondAllDaysFirstAndLast) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const QString text =
+        exported({notification(u"A"_qs, {}, {}, -infinity), notification(u"B"_qs, {}, {}),
+                  notification(u"C"_qs, {}, {}, infinity), notification(u"D"_qs, {}, {}, 1e18)});
+    const QString groups =
+        u"▸ 9999-12-31  (2 notifications)\n"_qs + dotted +
+        u"\n23:59:59  [C]\n\n23:59:59  [D]\n\n▸ 2026-03-03  (1 notification)\n"_qs + dotted +
+        u"\n09:00:00  [B]\n\n▸ 0001-01-01  (1 notification)\n"_qs + dotted +
+        u"\n00:00:00  [A]\n\n"_qs;
+    EXPECT_TRUE(text.contains(groups)) << text.toStdString();
 }
 
 } // namespace
