@@ -1,5 +1,5 @@
 #include "browser/BrowserFixture.h"
-#include "shared/DayKey.h"
+#include "support/TimeZoneScope.h"
 
 namespace tessarine::testing {
 namespace {
@@ -12,6 +12,8 @@ protected:
         storeMany(10);
         open().enterSelectionMode();
     }
+
+    const TimeZoneScope zone{"UTC"}; // where it is 15:33:20 on 2025-11-16
 };
 
 TEST_F(ContentViewSelectionTest, BeginsEmptyAndEndsEmpty) {
@@ -75,7 +77,7 @@ TEST_F(ContentViewSelectionTest, AnAppAndADayAddTheirVisibleRows) {
     reload();
     view->selectApp(u"Chat"_qs);
     EXPECT_EQ(view->selectedCount(), 1);
-    view->selectDay(dayKey(system.scheduler.now() - 5));
+    view->selectDay(u"2025-11-16"_qs);
     EXPECT_EQ(view->selectedCount(), 11);
     view->selectDay(u"1999-01-01"_qs);
     EXPECT_EQ(view->selectedCount(), 11);
@@ -98,7 +100,7 @@ TEST_F(ContentViewSelectionTest, PresetsAddUpWithinTheFilterAndCloseThePopover) 
 }
 
 TEST_F(ContentViewSelectionTest, TheLastHalfSecondOfADayIsInNoPresetOfTheTwoDays) {
-    const double midnight = *startOfDay(dayKey(system.scheduler.now()));
+    const double midnight = system.scheduler.now() - 56000; // 15:33:20 before
     store(u"Chat"_qs, u"late"_qs, system.scheduler.now() - (midnight - 0.5));
     reload();
     view->setSelectedApp(u"Chat"_qs);

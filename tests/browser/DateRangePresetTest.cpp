@@ -21,18 +21,24 @@ constexpr double fromUnix(double seconds) {
     return seconds - unixToReference;
 }
 
-TEST(DatePresets, HaveTheirRawValuesAndSymbolsInOrder) {
+TEST(DatePresets, HaveTheirRawValuesSymbolsAndLabelsInOrder) {
     QStringList names;
     QStringList symbols;
+    QStringList labels; // keys: the test loads no texts
     for (const Preset preset : allDateRangePresets) {
         names << rawValue(preset);
         symbols << symbolName(preset);
+        labels << label(preset);
     }
     EXPECT_EQ(names, QStringList({u"today"_qs, u"yesterday"_qs, u"last7days"_qs, u"last30days"_qs,
                                   u"thisMonth"_qs, u"lastMonth"_qs, u"thisYear"_qs}));
     EXPECT_EQ(symbols, QStringList({u"sun.max"_qs, u"moon"_qs, u"7.circle"_qs, u"30.circle"_qs,
                                     u"calendar"_qs, u"calendar.badge.minus"_qs,
                                     u"calendar.badge.clock"_qs}));
+    EXPECT_EQ(labels, QStringList({u"datePreset.today"_qs, u"datePreset.yesterday"_qs,
+                                   u"datePreset.last7days"_qs, u"datePreset.last30days"_qs,
+                                   u"datePreset.thisMonth"_qs, u"datePreset.lastMonth"_qs,
+                                   u"datePreset.thisYear"_qs}));
 }
 
 // 2026-03-31 00:00:30 in universal time

@@ -39,6 +39,12 @@ class CsvJudge(judging.JudgeTestCase):
                              each["title"], each["body"]] for i, each in enumerate(records)]
                 self.assertEqual(self.rows(records)[1:], expected)
 
+    def test_days_and_times_are_those_of_the_zone(self):
+        records = [judging.record(time=moment) for moment in judging.NUUK_MOMENTS]
+        with open(self.export("csv", records, zone=judging.NUUK), encoding="utf-8-sig") as file:
+            shown = [tuple(row[:2]) for row in csv.reader(file, delimiter=";")]
+        self.assertEqual(shown[1:], list(judging.NUUK_MOMENTS.values()))
+
     def test_only_fields_that_need_it_are_quoted(self):
         records = [judging.record(title="a,b", body="c;d")]
         with open(self.export("csv", records), encoding="utf-8-sig", newline="") as file:

@@ -9,6 +9,12 @@ import unittest
 
 PATIENCE = 120
 
+# A zone whose clock goes from 23:00 to midnight on 28 March 2026, and moments just before and at that,
+# with what it shows then: by Python's zoneinfo. One of 1900 is hours, minutes and seconds from UTC.
+NUUK = "America/Nuuk"
+NUUK_MOMENTS = {796438799: ("2026-03-28", "22:59:59"), 796438800: ("2026-03-29", "00:00:00"),
+                -3187296000: ("1899-12-31", "20:33:04")}
+
 # Midnight of 3 March 2026, universal time, in seconds since 2001.
 MARCH_3 = 794188800
 
@@ -34,11 +40,12 @@ class JudgeTestCase(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = folder.name
 
-    def export(self, file_format, records, *private_ids, locale="en_US.UTF-8", **variables):
+    def export(self, file_format, records, *private_ids, locale="en_US.UTF-8", zone="UTC",
+               **variables):
         """Exports the records with these in the environment; gives the path of the file."""
         path = os.path.join(self.folder, "out." + file_format)
         lines = "".join(json.dumps(each) + "\n" for each in records)
-        environment = dict(os.environ, TZ="UTC", LC_ALL=locale, **variables)
+        environment = dict(os.environ, TZ=zone, LC_ALL=locale, **variables)
         done = subprocess.run([self.exporter, file_format, path, *private_ids], env=environment,
                               input=lines, text=True, encoding="utf-8", timeout=PATIENCE)
         self.assertEqual(done.returncode, 0)

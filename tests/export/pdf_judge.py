@@ -211,6 +211,19 @@ class PdfJudge(judging.JudgeTestCase):
         file = pdf_reading.PdfFile(path)
         return [each for each in file.drawn(file.pages[1]) if isinstance(each, pdf_reading.Text)]
 
+    def test_days_and_times_are_those_of_the_zone(self):
+        path = self.export("pdf", [record(time=moment) for moment in judging.NUUK_MOMENTS],
+                           zone=judging.NUUK)
+        texts = [each.text for each in self.log_texts(path)]
+        days = [text.split("  ")[0] for text in texts if "  —  " in text]
+        times = [text for text in texts if re.fullmatch(r"\d\d:\d\d:\d\d", text)]
+        expected = sorted(judging.NUUK_MOMENTS.values(), reverse=True)
+        self.assertEqual(list(zip(days, times, strict=True)), expected)
+        file = pdf_reading.PdfFile(path)
+        summary = [each.text for each in file.drawn(file.pages[0])
+                   if isinstance(each, pdf_reading.Text)]
+        self.assertIn("Generated: 16 November 2025, 13:33", summary)
+
     def test_masked_records_say_so_twice(self):
         records = [record(app="Bank", title="Code", body=""), record(app="Mail")]
         self.judge(records, "com.example.bank")

@@ -1,4 +1,3 @@
-#include "shared/DayKey.h"
 #include "store/HoardFixture.h"
 #include "store/SqlTrace.h"
 #include "support/TimeZoneScope.h"
@@ -261,7 +260,7 @@ TEST_F(HoardDeletion, GivesTheCountOfTheChangeBeforeWhenItFails) {
     ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
     EXPECT_EQ(store->deleteOlderThan(1), 2);
     store->deleteOtpOlderThan(1);
-    store->deleteDay(dayKey(now - 3 * 86400.0));
+    store->deleteDay(u"2025-11-13"_qs); // the day of the third row
     sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
     sqlite3_close(other);
     EXPECT_THAT(keys(), ElementsAre(3));
