@@ -152,6 +152,8 @@ INSTANTIATE_TEST_SUITE_P(
                               utc(2025, 3, 30, 10, 0), utc(2025, 3, 30, 1, 30)},
                       Reading{"BeforeTheClocksGoBack", "Europe/Berlin", "1:30",
                               utc(2025, 10, 26, 11, 0), utc(2025, 10, 25, 23, 30)},
+                      Reading{"TheSecondOfTheRepeatedHour", "Europe/Berlin", "2:30",
+                              utc(2025, 10, 26, 11, 0), utc(2025, 10, 26, 1, 30)},
                       Reading{"AfterTheClocksWentBack", "Europe/Berlin", "3:30",
                               utc(2025, 10, 26, 11, 0), utc(2025, 10, 26, 2, 30)},
                       // 86400 seconds before 13:00, winter time, of the day on which they went
@@ -165,12 +167,26 @@ INSTANTIATE_TEST_SUITE_P(
                               utc(2025, 10, 26, 11, 0), utc(2025, 10, 25, 11, 0)}),
     nameOfReading);
 
-TEST(InferredTimeOfTheRepeatedHour, IsOneOfItsTwoMoments) {
-    const testing::TimeZoneScope zone("Europe/Berlin");
-    const double inferred = inferTimestamp(u"2:30"_qs, utc(2025, 10, 26, 11, 0));
-    EXPECT_TRUE(inferred == utc(2025, 10, 26, 0, 30) || inferred == utc(2025, 10, 26, 1, 30))
-        << inferred;
-}
+// The ends of the years 1 to 9999.
+constexpr double first = utc(1, 1, 1, 0, 0);
+constexpr double last = utc(9999, 12, 31, 23, 59, 59);
+
+INSTANTIATE_TEST_SUITE_P(
+    Extremes, InferredTime,
+    ::testing::Values(atNoon("GreatestSeconds", "9223372036854775807s ago", first),
+                      atNoon("GreatestMinutes", "9223372036854775807m ago", first),
+                      atNoon("GreatestHours", "9223372036854775807h ago", first),
+                      atNoon("GreatestDays", "9223372036854775807d ago", first),
+                      atNoon("LeastDays", "-9223372036854775808d ago", last),
+                      atNoon("LeastSeconds", "-9223372036854775808s ago", last),
+                      isNow("GreatestHour", "9223372036854775807:00"),
+                      isNow("GreatestMinute", "00:9223372036854775807"),
+                      isNow("LeastHour", "-9223372036854775808:00"),
+                      isNow("BeyondThirtyTwoBits", "2147483648:00"),
+                      isNow("BeyondTheYear9999",
+                            "99999999:00"), // 11,415 years from the midnight before
+                      isNow("BeforeTheYear1", "-99999999:00")),
+    nameOfReading);
 
 // Times inside a text
 
