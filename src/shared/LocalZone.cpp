@@ -26,7 +26,7 @@ constexpr qint64 unixSeconds = static_cast<qint64>(unixSecondsAtReferenceDate);
 constexpr qint64 daySeconds = static_cast<qint64>(secondsPerDay);
 
 // No zone's clock is further from UTC than the C library lets a rule put it.
-constexpr qint64 greatestOffset = 25 * 60 * 60;
+constexpr qint64 greatestOffset = 90'000; // seconds: 25 hours
 
 // Says when it is time to look after the zone again: twice a second, and when the variable has
 // another value. One thread at a time.
@@ -136,10 +136,11 @@ private:
         qint64 offset = 0;
     };
 
+    // Also when another thread has had the C library find another zone since.
     void followZone() {
-        if (lookout_.isDue())
-            zoneWatch_.look();
-        if (const int zone = zoneWatch_.lastNumber(); std::exchange(zone_, zone) != zone)
+        if (!lookout_.isDue() && zoneWatch_.lastNumber() == zone_)
+            return;
+        if (const int zone = zoneWatch_.look(); std::exchange(zone_, zone) != zone)
             days_.fill({});
     }
 

@@ -57,7 +57,7 @@ QByteArray usualScript(const QByteArray& locale) {
 
 // For a script without data ICU would take the language's usual one. English is Latin at least.
 QByteArray inScript(const PosixName& name, const QByteArray& script) {
-    const QByteArray plain = name.language + name.country;
+    QByteArray plain = name.language + name.country;
     if (usualScript(plain) == script)
         return plain;
     const QByteArray language = name.language + '_' + script;

@@ -57,6 +57,17 @@ void PrintTo(const Shown& shown, std::ostream* out) {
     *out << shown.name;
 }
 
+TEST(WallTimeInChangingZones, IsThatOfTheZoneNowWhoeverFoundTheLast) {
+    const TimeZoneScope utc("UTC");
+    EXPECT_EQ(wallTime(0), 0);
+    {
+        const TimeZoneScope tokyo("Asia/Tokyo");
+        localZoneNumber();
+    }
+    EXPECT_EQ(wallTime(0), 0);
+    EXPECT_EQ(wallTime(86400), 86400);
+}
+
 class WallTime : public ::testing::TestWithParam<Shown> {};
 
 TEST_P(WallTime, IsWhatTheClockShows) {

@@ -33,6 +33,7 @@ TEST(LocalZoneThreads, AllSeeOneZone) {
     const testing::TimeZoneScope tokyo("Asia/Tokyo"); // nine hours ahead all year
     std::vector<int> wrong(4, 0);
     std::vector<std::thread> threads;
+    threads.reserve(wrong.size());
     for (int& count : wrong)
         threads.emplace_back(showDays, &count);
     for (std::thread& thread : threads)

@@ -6,7 +6,7 @@ namespace tessarine {
 namespace {
 
 class UserDateLocaleTest : public ::testing::Test {
-protected:
+public:
     UserDateLocaleTest() {
         for (const char* name : names_)
             qunsetenv(name);
