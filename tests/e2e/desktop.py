@@ -1,5 +1,6 @@
 """A session bus with a notification daemon, and applications that announce things on it."""
 
+import contextlib
 import os
 import shutil
 import signal
@@ -148,6 +149,11 @@ class Application:
         self.connection.send_message_with_reply_and_block(message, PATIENCE)
 
     def close(self):
+        """The bus drops what a closed connection left unread, so it is asked something first. Its
+        answer comes after it has read all that was sent before."""
+        with contextlib.suppress(dbus.DBusException):  # the bus may be gone
+            self.connection.call_blocking("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                          "org.freedesktop.DBus", "GetId", "", [])
         self.connection.close()
 
 

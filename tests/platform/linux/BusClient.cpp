@@ -124,7 +124,7 @@ void BusClient::post(const Notification& notification) {
 }
 
 void BusClient::flush() {
-    dbus_connection_flush(connection_);
+    dbus_free(dbus_bus_get_id(connection_, nullptr)); // the bus answers in the order of its reading
 }
 
 void BusClient::emitSleep(bool isGoingToSleep) {

@@ -44,7 +44,8 @@ public:
     // Waits for the daemon's answer. The id, or nothing when it was an error.
     std::optional<std::uint32_t> notify(const Notification& notification);
 
-    // Doesn't wait. flush() returns when all of these have left.
+    // Doesn't wait. flush() returns when the bus has read all of these: it drops what a connection
+    // leaves unread when it closes.
     void post(const Notification& notification);
     void flush();
 
