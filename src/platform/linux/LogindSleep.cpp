@@ -1,24 +1,28 @@
 #include "platform/linux/LogindSleep.h"
 
+#include "platform/linux/BusNames.h"
+
 #include <cstdlib>
 
 namespace tessarine {
 
 namespace {
 
-using std::chrono::milliseconds;
-
 // Where the D-Bus Specification puts the system bus.
 constexpr char defaultAddress[] = "unix:path=/var/run/dbus/system_bus_socket";
 
-constexpr milliseconds answerTime{5000};
-constexpr milliseconds retry{30000}; // when a bus that was there is gone
+constexpr std::chrono::milliseconds retry{30000}; // when a bus that was there is gone
 
+constexpr char managerName[] = "org.freedesktop.login1";
 constexpr char managerInterface[] = "org.freedesktop.login1.Manager";
 constexpr char prepareForSleep[] = "PrepareForSleep";
-constexpr char rule[] = "type='signal',sender='org.freedesktop.login1',"
-                        "path='/org/freedesktop/login1',"
-                        "interface='org.freedesktop.login1.Manager',member='PrepareForSleep'";
+constexpr char sleepRule[] = "type='signal',sender='org.freedesktop.login1',"
+                             "path='/org/freedesktop/login1',"
+                             "interface='org.freedesktop.login1.Manager',member='PrepareForSleep'";
+
+bool addMatch(BusConnection& connection, const char* rule) {
+    return isReturn(connection.call(busCallWithText("AddMatch", rule), busAnswerTime));
+}
 
 } // namespace
 
@@ -59,30 +63,56 @@ void LogindSleep::run() {
     do {
         if (const auto connection = BusConnection::open(address_, stop_)) {
             wasThere = true;
-            listen(*connection);
+            if (subscribe(*connection))
+                listen(*connection);
         }
+        if (!stop_.isRaised())
+            ownerChanged({});
     } while (wasThere && !stop_.waitFor(retry));
 }
 
-void LogindSleep::listen(BusConnection& connection) {
-    const char* const match = rule;
-    BusMessage request = busCall("AddMatch");
-    dbus_message_append_args(request.get(), DBUS_TYPE_STRING, &match, DBUS_TYPE_INVALID);
-    if (!connection.call(std::move(request), answerTime))
-        return;
-    while (const BusMessage message = connection.next()) {
-        dbus_bool_t isGoingToSleep = false;
-        if (dbus_message_is_signal(message.get(), managerInterface, prepareForSleep) &&
-            dbus_message_get_args(message.get(), nullptr, DBUS_TYPE_BOOLEAN, &isGoingToSleep,
-                                  DBUS_TYPE_INVALID))
-            tell(isGoingToSleep);
-    }
+bool LogindSleep::subscribe(BusConnection& connection) {
+    if (!addMatch(connection, ownerChangeRule(managerName).c_str()))
+        return false;
+    const std::optional<std::string> owner = askForOwner(connection, managerName);
+    if (!owner || !addMatch(connection, sleepRule))
+        return false;
+    ownerChanged(*owner);
+    return true;
 }
 
-void LogindSleep::tell(bool isGoingToSleep) {
-    scheduler_.onMain([weak = std::weak_ptr(listeners_), isGoingToSleep] {
+void LogindSleep::listen(BusConnection& connection) {
+    while (const BusMessage message = connection.next())
+        handle(message.get());
+}
+
+void LogindSleep::handle(DBusMessage* message) {
+    if (const std::optional<OwnerChange> change = ownerChange(message)) {
+        if (change->name == managerName)
+            ownerChanged(change->owner);
+        return;
+    }
+    dbus_bool_t isGoingToSleep = false;
+    if (!owner_.empty() && dbus_message_has_sender(message, owner_.c_str()) &&
+        dbus_message_is_signal(message, managerInterface, prepareForSleep) &&
+        dbus_message_get_args(message, nullptr, DBUS_TYPE_BOOLEAN, &isGoingToSleep,
+                              DBUS_TYPE_INVALID))
+        tell(isGoingToSleep ? Sleep::begins : Sleep::ends);
+}
+
+void LogindSleep::ownerChanged(const std::string& owner) {
+    if (owner == owner_)
+        return;
+    owner_ = owner;
+    if (isAsleep_)
+        tell(Sleep::ends);
+}
+
+void LogindSleep::tell(Sleep sleep) {
+    isAsleep_ = sleep == Sleep::begins;
+    scheduler_.onMain([weak = std::weak_ptr(listeners_), sleep] {
         const std::shared_ptr<Listeners> listeners = weak.lock();
-        if (listeners && isGoingToSleep)
+        if (listeners && sleep == Sleep::begins)
             listeners->sleep.call();
         else if (listeners)
             listeners->wake.call();

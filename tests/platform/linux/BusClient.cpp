@@ -127,13 +127,54 @@ void BusClient::flush() {
     dbus_free(dbus_bus_get_id(connection_, nullptr)); // the bus answers in the order of its reading
 }
 
-void BusClient::emitSleep(bool isGoingToSleep) {
+void BusClient::emitSleep(bool isGoingToSleep, const std::string& destination) {
     const dbus_bool_t value = isGoingToSleep;
     const BusMessage signal{dbus_message_new_signal(
         "/org/freedesktop/login1", "org.freedesktop.login1.Manager", "PrepareForSleep")};
     dbus_message_append_args(signal.get(), DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
+    if (!destination.empty())
+        dbus_message_set_destination(signal.get(), destination.c_str());
     dbus_connection_send(connection_, signal.get(), nullptr);
     flush();
+}
+
+std::vector<std::string> BusClient::connections() {
+    const BusMessage call{dbus_message_new_method_call(DBUS_SERVICE_DBUS, DBUS_PATH_DBUS,
+                                                       DBUS_INTERFACE_DBUS, "ListNames")};
+    const BusMessage reply{
+        dbus_connection_send_with_reply_and_block(connection_, call.get(), patience, nullptr)};
+    char** names = nullptr;
+    int count = 0;
+    dbus_message_get_args(reply.get(), nullptr, DBUS_TYPE_ARRAY, DBUS_TYPE_STRING, &names, &count,
+                          DBUS_TYPE_INVALID);
+    std::vector<std::string> unique(names, names + count);
+    dbus_free_string_array(names);
+    std::erase_if(unique, [](const std::string& name) { return name.front() != ':'; });
+    return unique;
+}
+
+void BusClient::claimOwnerChange(const std::string& name, const std::string& owner,
+                                 const std::string& destination) {
+    const BusMessage signal{
+        dbus_message_new_signal(DBUS_PATH_DBUS, DBUS_INTERFACE_DBUS, "NameOwnerChanged")};
+    const char* const nobody = "";
+    const char* const nameText = name.c_str();
+    const char* const ownerText = owner.c_str();
+    dbus_message_append_args(signal.get(), DBUS_TYPE_STRING, &nameText, DBUS_TYPE_STRING, &nobody,
+                             DBUS_TYPE_STRING, &ownerText, DBUS_TYPE_INVALID);
+    dbus_message_set_destination(signal.get(), destination.c_str());
+    dbus_connection_send(connection_, signal.get(), nullptr);
+    flush();
+}
+
+void BusClient::own(const std::string& name) {
+    if (dbus_bus_request_name(connection_, name.c_str(), DBUS_NAME_FLAG_DO_NOT_QUEUE, nullptr) !=
+        DBUS_REQUEST_NAME_REPLY_PRIMARY_OWNER)
+        throw std::runtime_error(name + " is taken");
+}
+
+void BusClient::disown(const std::string& name) {
+    dbus_bus_release_name(connection_, name.c_str(), nullptr);
 }
 
 std::string BusClient::uniqueName() const {

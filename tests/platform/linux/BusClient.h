@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tessarine::testing {
 
@@ -49,7 +50,19 @@ public:
     void post(const Notification& notification);
     void flush();
 
-    void emitSleep(bool isGoingToSleep); // PrepareForSleep, as logind sends it
+    // PrepareForSleep, as logind sends it: to all who have asked for it, or to one connection
+    // alone.
+    void emitSleep(bool isGoingToSleep, const std::string& destination = {});
+
+    // The unique names of all connections on the bus.
+    std::vector<std::string> connections();
+
+    // What looks like the bus telling one connection that a name has another owner.
+    void claimOwnerChange(const std::string& name, const std::string& owner,
+                          const std::string& destination);
+
+    void own(const std::string& name); // a well-known name, which nobody has
+    void disown(const std::string& name);
 
     std::string uniqueName() const;
     bool isConnected() const { return dbus_connection_get_is_connected(connection_); }

@@ -11,6 +11,8 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using testing::PrivateBus;
 
+const std::string managerName = "org.freedesktop.login1";
+
 // Plays logind on a bus of the test's own.
 struct LogindSleepTest : ::testing::Test {
     PrivateBus bus;
@@ -37,7 +39,7 @@ struct LogindSleepTest : ::testing::Test {
 
     std::unique_ptr<BusClient> logind() {
         auto client = std::make_unique<BusClient>(bus.address());
-        dbus_bus_request_name(client->raw(), "org.freedesktop.login1", 0, nullptr);
+        client->own(managerName);
         return client;
     }
 
@@ -81,6 +83,85 @@ TEST_F(LogindSleepTest, BelievesNobodyElse) {
     BusClient other(bus.address());
     other.emitSleep(true);
     client->emitSleep(false);
+    ASSERT_TRUE(testing::turnsUntil([&] { return !told.empty(); }));
+    EXPECT_THAT(told, ElementsAre(u"wake"_qs));
+}
+
+// The bus hands a message that names its receiver to that one, whoever sent it and whatever rules
+// the receiver has set.
+TEST_F(LogindSleepTest, BelievesNobodyElseWhoWritesToItDirectly) {
+    const auto workspace = watch();
+    const auto client = logind();
+    ASSERT_TRUE(hearsTheLast(*client, true));
+    told.clear();
+    BusClient other(bus.address());
+    for (const std::string& connection : other.connections())
+        other.emitSleep(true, connection);
+    client->emitSleep(false);
+    ASSERT_TRUE(testing::turnsUntil([&] { return !told.empty(); }));
+    EXPECT_THAT(told, ElementsAre(u"wake"_qs));
+}
+
+TEST_F(LogindSleepTest, BelievesTheOneThatOwnsTheNameNow) {
+    const auto workspace = watch();
+    const auto first = logind();
+    ASSERT_TRUE(hearsTheLast(*first, true));
+    first->disown(managerName);
+    const auto second = logind();
+    told.clear();
+    for (const std::string& connection : first->connections())
+        first->emitSleep(true, connection);
+    second->emitSleep(false);
+    ASSERT_TRUE(testing::turnsUntil([&] { return !told.empty(); }));
+    EXPECT_THAT(told, ElementsAre(u"wake"_qs));
+}
+
+TEST_F(LogindSleepTest, BelievesNobodyWhileNobodyOwnsTheName) {
+    const auto workspace = watch();
+    const auto client = logind();
+    ASSERT_TRUE(hearsTheLast(*client, true));
+    client->disown(managerName);
+    told.clear();
+    for (const std::string& connection : client->connections())
+        client->emitSleep(true, connection);
+    client->own(managerName);
+    client->emitSleep(false);
+    ASSERT_TRUE(testing::turnsUntil([&] { return !told.empty(); }));
+    EXPECT_THAT(told, ElementsAre(u"wake"_qs));
+}
+
+// A change of the name's owner that the bus did not announce.
+TEST_F(LogindSleepTest, LetsNobodyElseNameTheOwner) {
+    const auto workspace = watch();
+    const auto client = logind();
+    ASSERT_TRUE(hearsTheLast(*client, true));
+    told.clear();
+    BusClient other(bus.address());
+    for (const std::string& connection : other.connections()) {
+        other.claimOwnerChange(managerName, other.uniqueName(), connection);
+        other.emitSleep(true, connection);
+    }
+    client->emitSleep(false);
+    ASSERT_TRUE(testing::turnsUntil([&] { return !told.empty(); }));
+    EXPECT_THAT(told, ElementsAre(u"wake"_qs));
+}
+
+TEST_F(LogindSleepTest, WakesWhenTheOneThatAnnouncedTheSleepGoes) {
+    const auto workspace = watch();
+    auto client = logind();
+    ASSERT_TRUE(hearsTheLast(*client, false));
+    told.clear();
+    client.reset();
+    ASSERT_TRUE(testing::turnsUntil([&] { return !told.empty(); }));
+    EXPECT_THAT(told, ElementsAre(u"wake"_qs));
+}
+
+TEST_F(LogindSleepTest, WakesWhenTheBusGoes) {
+    const auto workspace = watch();
+    const auto client = logind();
+    ASSERT_TRUE(hearsTheLast(*client, false));
+    told.clear();
+    bus.crash();
     ASSERT_TRUE(testing::turnsUntil([&] { return !told.empty(); }));
     EXPECT_THAT(told, ElementsAre(u"wake"_qs));
 }
