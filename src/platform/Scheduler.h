@@ -30,7 +30,10 @@ public:
     // The wall clock, in seconds since the reference date. For dates only: people set it back.
     virtual double now() const = 0;
 
-    // A clock that never goes back, in seconds from an arbitrary origin. For intervals.
+    // A clock that never goes back, in seconds from an arbitrary origin. It goes on while the
+    // system sleeps, so that what happened before is as old as a reader of the wall clock would
+    // say. For intervals and ages. Waiting is another matter: a sleep may lengthen the delays
+    // below.
     virtual double uptime() const = 0;
 
     // Runs the task on the main thread, after all that was handed over before it.

@@ -56,6 +56,16 @@ void ManualScheduler::spend(double seconds) {
     spent_ += seconds;
 }
 
+void ManualScheduler::sleep(double seconds) {
+    std::multimap<double, Task> later;
+    for (auto& [due, task] : delayed_)
+        later.emplace_hint(later.end(), due + seconds, std::move(task));
+    delayed_ = std::move(later);
+    for (auto& [id, timer] : timers_)
+        timer.next += seconds;
+    turnTo(uptime_ + seconds);
+}
+
 void ManualScheduler::settle() {
     while (runOneMainTask() || runDueDelayed() || runGlobalTask()) {
     }

@@ -28,6 +28,9 @@ public:
     // Turns both clocks on by this much, running each thing at its time.
     void advance(double seconds);
 
+    // The system sleeps so long: the clocks go on, what waits for its time waits longer.
+    void sleep(double seconds);
+
     // Sets the wall clock to another time, as a user may; the monotonic one goes on.
     void setWallClock(double now) { now_ = now; }
 

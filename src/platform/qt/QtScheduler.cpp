@@ -11,12 +11,20 @@
 #include <condition_variable>
 #include <utility>
 
+#include <time.h>
+
 namespace tessarine {
 
 namespace {
 
 // What tasks may take of a turn of the event loop: half a frame.
 constexpr std::chrono::milliseconds turnShare{8};
+
+#ifdef CLOCK_BOOTTIME
+constexpr clockid_t clockThatCountsSleep = CLOCK_BOOTTIME;
+#else
+constexpr clockid_t clockThatCountsSleep = CLOCK_MONOTONIC; // counts it where there is no other one
+#endif
 
 const QEvent::Type taskEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
@@ -81,9 +89,11 @@ double QtScheduler::now() const {
     return std::chrono::duration<double>(sinceUnix).count() - unixSecondsAtReferenceDate;
 }
 
+// The standard's steady clock stands still while Linux sleeps.
 double QtScheduler::uptime() const {
-    const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration<double>(sinceStart).count();
+    timespec sinceStart{};
+    clock_gettime(clockThatCountsSleep, &sinceStart);
+    return static_cast<double>(sinceStart.tv_sec) + static_cast<double>(sinceStart.tv_nsec) * 1e-9;
 }
 
 void QtScheduler::onMain(Task task) {
