@@ -8,7 +8,6 @@ namespace tessarine {
 
 namespace {
 
-constexpr double axThrottle = 1.0;     // seconds between scans
 constexpr double scanDeadline = 2.0;   // seconds until the watchdog speaks
 constexpr double searchInterval = 3.0; // seconds between looks for the banner process
 constexpr double delayAfterWake = 2.0;
@@ -80,12 +79,12 @@ void NotificationListener::handleAXEvent(const AXElementRef& element) {
 }
 
 // A scan that overruns its deadline goes on by itself and stores what it finds: a call into
-// another process can't be interrupted.
+// another process can't be interrupted. What a scan has taken nobody else has any more.
 void NotificationListener::scanBanners(qint32 pid) {
     Scheduler& main = scheduler();
     const auto scan = [weak = weak_from_this(), &main, &accessibility = accessibility(), pid] {
-        runBannerScan(accessibility, main, pid, [&](const CapturedNotification& record) {
-            main.onMain([weak, record] {
+        runBannerScan(accessibility, main, pid, [&](CapturedNotification captured) {
+            main.onMain([weak, record = std::move(captured)] {
                 if (const std::shared_ptr<NotificationListener> self = weak.lock())
                     self->storeBannerCapture(record);
             });

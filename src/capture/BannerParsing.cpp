@@ -124,13 +124,6 @@ std::optional<double> ageIn(QStringView token) {
     }
 }
 
-qint64 wholeUnixSeconds(double timestamp) {
-    const double seconds = std::trunc(timestamp + unixSecondsAtReferenceDate);
-    if (!(seconds > -0x1p63))
-        return std::numeric_limits<qint64>::min();
-    return seconds < 0x1p63 ? static_cast<qint64>(seconds) : std::numeric_limits<qint64>::max();
-}
-
 // The body: all texts after the first that are no times of their own, freed of the times in them.
 QString joinedBody(const QStringList& texts) {
     QStringList pieces;

@@ -1,5 +1,8 @@
 #include "capture/BannerScan.h"
 
+#include "shared/BundleId.h"
+#include "shared/ReferenceTime.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -44,7 +47,7 @@ bool isBanner(Accessibility& accessibility, const AXElementRef& element, const Q
 } // namespace
 
 void runBannerScan(Accessibility& accessibility, const Scheduler& clock, qint32 pid,
-                   const std::function<void(const CapturedNotification&)>& handler,
+                   const std::function<void(CapturedNotification)>& handler,
                    const std::stop_token& cancelled) {
     const AXElementRef application = accessibility.applicationElement(pid);
     accessibility.setMessagingTimeout(application, messagingTimeout);
@@ -58,8 +61,8 @@ void runBannerScan(Accessibility& accessibility, const Scheduler& clock, qint32 
     for (const AXElementRef& banner : banners) {
         if (cancelled.stop_requested())
             return;
-        if (const auto record = parseBanner(readBanner(accessibility, banner), clock.now()))
-            handler(*record);
+        if (auto record = captureBanner(accessibility, banner, clock.now()))
+            handler(std::move(*record));
     }
 }
 
@@ -79,6 +82,24 @@ std::vector<AXElementRef> collectBanners(Accessibility& accessibility, const AXE
         std::move(found.begin(), found.end(), std::back_inserter(banners));
     }
     return banners;
+}
+
+std::optional<CapturedNotification> captureBanner(Accessibility& accessibility,
+                                                  const AXElementRef& banner, double now) {
+    if (std::optional<Announcement> announcement = accessibility.takeAnnouncement(banner))
+        return recordOf(std::move(*announcement));
+    return parseBanner(readBanner(accessibility, banner), now);
+}
+
+CapturedNotification recordOf(Announcement announcement) {
+    CapturedNotification record;
+    record.appBundleId = derivedBundleId(announcement.application);
+    record.appName = std::move(announcement.application);
+    record.title = std::move(announcement.title);
+    record.body = std::move(announcement.body);
+    record.timestamp = announcement.moment;
+    record.noteId = wholeUnixSeconds(announcement.moment);
+    return record;
 }
 
 BannerTexts readBanner(Accessibility& accessibility, const AXElementRef& banner) {

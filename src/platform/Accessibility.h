@@ -42,6 +42,22 @@ inline const QString valueChanged = QStringLiteral("AXValueChanged");
 inline const QString focusedElementChanged = QStringLiteral("AXFocusedUIElementChanged");
 } // namespace ax
 
+// What an application announced, as it said it: which text is which need not be guessed.
+struct Announcement {
+    QString application; // the name that the user knows it by; may be empty
+    QString title;       // never empty
+    QString body;
+    double moment = 0; // of announcing, in seconds since the reference date
+
+    bool operator==(const Announcement&) const = default;
+};
+
+// An observer acts on an event that comes at least this many seconds after the last one that it
+// acted on, and drops the others: there is no scan for those. So a system that keeps banners until
+// they were taken sends another event after the last change, as soon as one gets through, and goes
+// on with that while any banner is left.
+inline constexpr double axThrottle = 1.0;
+
 // Receives the events of one process, once it is attached to the main run loop. Destroying it
 // detaches it: no call comes afterwards. Main thread.
 class AXObserver {
@@ -83,6 +99,12 @@ public:
     // Nothing on any error.
     virtual std::optional<AXValue> copyAttributeValue(const AXElementRef& element,
                                                       const QString& attribute) = 0;
+
+    // Takes the announcement that a banner stands for, where the system has more than a drawing of
+    // it: its texts and its moment, as values. Each is given once. The banner is gone then, for
+    // whoever else has found it too, and the announcement is the caller's to keep. Nothing where
+    // there is only a drawing, or when the banner is gone.
+    virtual std::optional<Announcement> takeAnnouncement(const AXElementRef& banner) = 0;
 
     // The process that the element belongs to. Nothing when the element is gone.
     virtual std::optional<qint32> pid(const AXElementRef& element) = 0;

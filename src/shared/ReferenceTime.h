@@ -1,5 +1,10 @@
 #pragma once
 
+#include <QtGlobal>
+
+#include <cmath>
+#include <limits>
+
 namespace tessarine {
 
 // Moments are counted in seconds since 2001-01-01 00:00:00 UTC, in the hoard, in the cursors and
@@ -16,6 +21,15 @@ inline constexpr double lastSecond = 2'921'574 * secondsPerDay - 1;
 // False also for what is no number.
 constexpr bool hasDate(double timestamp) {
     return timestamp >= firstSecond && timestamp < lastSecond + 1;
+}
+
+// The whole seconds of a moment since 1970, cut off towards it. What no count of seconds can hold
+// gives the nearest one; what is no number, the lowest.
+inline qint64 wholeUnixSeconds(double moment) {
+    const double seconds = std::trunc(moment + unixSecondsAtReferenceDate);
+    if (!(seconds > -0x1p63))
+        return std::numeric_limits<qint64>::min();
+    return seconds < 0x1p63 ? static_cast<qint64>(seconds) : std::numeric_limits<qint64>::max();
 }
 
 } // namespace tessarine

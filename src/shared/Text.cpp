@@ -34,6 +34,34 @@ icu::BreakIterator* characterBreaks() {
     return U_SUCCESS(status) ? breaks.get() : nullptr;
 }
 
+// A stretch of characters from a text's start.
+struct Characters {
+    qsizetype count;
+    qsizetype end; // the place behind the last one
+};
+
+// The first characters of a text, at most so many.
+Characters walkCharacters(QStringView text, qsizetype most) {
+    const qsizetype simple = std::min(text.size(), most);
+    if (isSimple(text.first(simple)) && (simple == text.size() || isSimple(text.sliced(simple, 1))))
+        return {simple, simple};
+    icu::BreakIterator* breaks = characterBreaks();
+    if (!breaks)
+        return {simple, simple};
+    UErrorCode status = U_ZERO_ERROR;
+    UText units = UTEXT_INITIALIZER;
+    utext_openUChars(&units, text.utf16(), text.size(), &status);
+    breaks->setText(&units, status);
+    Characters walked{0, 0};
+    if (U_SUCCESS(status)) {
+        breaks->first();
+        while (walked.count < most && breaks->next() != icu::BreakIterator::DONE)
+            walked = {walked.count + 1, breaks->current()};
+    }
+    utext_close(&units);
+    return U_SUCCESS(status) ? walked : Characters{simple, simple};
+}
+
 bool hasDotlessI(QLocale::Language language) {
     return language == QLocale::Turkish || language == QLocale::Azerbaijani;
 }
@@ -66,23 +94,11 @@ QString fixedText(double value, int decimals) {
 }
 
 qsizetype characterCount(QStringView text) {
-    if (isSimple(text))
-        return text.size();
-    icu::BreakIterator* breaks = characterBreaks();
-    if (!breaks)
-        return text.size();
-    UErrorCode status = U_ZERO_ERROR;
-    UText units = UTEXT_INITIALIZER;
-    utext_openUChars(&units, text.utf16(), text.size(), &status);
-    breaks->setText(&units, status);
-    qsizetype count = 0;
-    if (U_SUCCESS(status)) {
-        breaks->first();
-        while (breaks->next() != icu::BreakIterator::DONE)
-            ++count;
-    }
-    utext_close(&units);
-    return U_SUCCESS(status) ? count : text.size();
+    return walkCharacters(text, text.size()).count;
+}
+
+qsizetype endOfCharacters(QStringView text, qsizetype count) {
+    return walkCharacters(text, count).end;
 }
 
 QStringView trimmedBlanks(QStringView text) {

@@ -16,6 +16,9 @@ QString fixedText(double value, int decimals);
 // How many characters a reader sees: grapheme clusters by ICU's rules ("😀🇮🇹" has two).
 qsizetype characterCount(QStringView text);
 
+// Where the first so many characters end; the text's size when it has no more of them.
+qsizetype endOfCharacters(QStringView text, qsizetype count);
+
 // The text without blanks and tabs of any script at its ends. Line breaks stay.
 QStringView trimmedBlanks(QStringView text);
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace tessarine {
@@ -60,6 +61,17 @@ TEST_P(CharacterCount, CountsWhatAReaderSees) {
     EXPECT_EQ(characterCount(QString::fromUtf16(GetParam().text)), GetParam().characters);
 }
 
+TEST_P(CharacterCount, IsWhereTheLastOfThemEnds) {
+    const QString text = QString::fromUtf16(GetParam().text);
+    const qsizetype count = GetParam().characters;
+    EXPECT_EQ(endOfCharacters(text, count), text.size());
+    EXPECT_EQ(endOfCharacters(text, count + 1), text.size());
+    EXPECT_EQ(endOfCharacters(text + u'x', count), text.size());
+    EXPECT_EQ(endOfCharacters(text, 0), 0);
+    const qsizetype less = std::max<qsizetype>(count - 1, 0);
+    EXPECT_EQ(characterCount(QStringView(text).first(endOfCharacters(text, less))), less);
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Texts, CharacterCount,
     ::testing::Values(
@@ -94,6 +106,12 @@ TEST(CharacterCountOfOddTexts, CountsANul) {
 TEST(CharacterCountOfOddTexts, CountsAPartOfALongerText) {
     const QString text = u"x😀🇮🇹y"_qs;
     EXPECT_EQ(characterCount(QStringView(text).sliced(1, 6)), 2);
+}
+
+TEST(EndOfCharacters, TakesAMarkBehindPlainLettersAlong) {
+    EXPECT_EQ(endOfCharacters(u"abe\u0301f", 3), 4);
+    EXPECT_EQ(endOfCharacters(u"abe\u0301f", 2), 2);
+    EXPECT_EQ(endOfCharacters(u"ab\r\nf", 3), 4);
 }
 
 TEST(TrimmedBlanks, LosesBlanksAndTabsAtBothEnds) {

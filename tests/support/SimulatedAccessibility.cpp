@@ -1,5 +1,7 @@
 #include "support/SimulatedAccessibility.h"
 
+#include <utility>
+
 namespace tessarine::testing {
 
 namespace {
@@ -64,6 +66,13 @@ std::optional<AXValue> SimulatedAccessibility::copyAttributeValue(const AXElemen
     if (asked.gone || found == asked.attributes.end())
         return std::nullopt;
     return found->second;
+}
+
+std::optional<Announcement> SimulatedAccessibility::takeAnnouncement(const AXElementRef& banner) {
+    auto& asked = const_cast<SimulatedElement&>(simulated(banner)); // the tree is the test's own
+    std::optional<Announcement> taken = std::exchange(asked.announcement, std::nullopt);
+    asked.gone |= taken.has_value();
+    return taken;
 }
 
 std::optional<qint32> SimulatedAccessibility::pid(const AXElementRef& element) {

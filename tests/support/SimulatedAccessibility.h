@@ -23,7 +23,8 @@ public:
     qint32 pid;
     bool gone = false; // every question goes unanswered
     std::map<QString, AXValue> attributes;
-    std::map<QString, double> delays; // seconds that a question takes
+    std::optional<Announcement> announcement; // until it is taken
+    std::map<QString, double> delays;         // seconds that a question takes
     std::function<void(const QString&)> onRead;
 };
 
@@ -56,6 +57,7 @@ public:
     void setMessagingTimeout(const AXElementRef& element, double seconds) override;
     std::optional<AXValue> copyAttributeValue(const AXElementRef& element,
                                               const QString& attribute) override;
+    std::optional<Announcement> takeAnnouncement(const AXElementRef& banner) override;
     std::optional<qint32> pid(const AXElementRef& element) override;
 
     // Sends an event to the attached observers that asked for it.

@@ -1,126 +1,105 @@
 #include "platform/linux/BannerElements.h"
 
-#include <atomic>
-
 namespace tessarine {
 
 namespace {
 
-// What the elements of one window share: the texts, and which of them were asked for.
-class Banner {
+const QString windowRole = QStringLiteral("AXWindow");
+
+// The three elements of a banner in one object: there may be many thousands.
+class ShownBanner : public std::enable_shared_from_this<ShownBanner> {
 public:
-    Banner(qint32 pid, std::shared_ptr<const BannerState> state, std::function<double()> clock,
-           std::function<void(std::uint64_t)> allRead)
-        : pid_(pid)
-        , state_(std::move(state))
-        , clock_(std::move(clock))
-        , allRead_(std::move(allRead))
-        , textCount_(state_->shownTexts(clock_()).size())
-        , whole_(descriptionBit | ((1U << textCount_) - 1)) {}
+    ShownBanner(std::shared_ptr<const BannerLook> look, std::shared_ptr<BannerState> state)
+        : look_(std::move(look))
+        , state_(std::move(state)) {}
 
-    qint32 pid() const { return pid_; }
-
-    QString readDescription() {
-        noteRead(descriptionBit);
-        return state_->description();
-    }
-
-    qsizetype textCount() const { return textCount_; }
-
-    QString readText(qsizetype index) {
-        QString text = state_->shownTexts(clock_()).at(index);
-        noteRead(1U << index);
-        return text;
-    }
+    AXElementRef window() const { return {shared_from_this(), &window_}; }
 
 private:
-    static constexpr unsigned descriptionBit = 1U << 31;
+    class Element : public BannerElement {
+    public:
+        explicit Element(const ShownBanner& banner)
+            : banner_(banner) {}
 
-    void noteRead(unsigned bit) {
-        const unsigned before = read_.fetch_or(bit);
-        if (before != whole_ && (before | bit) == whole_)
-            allRead_(state_->number);
+        std::optional<qint32> pid() const override {
+            return banner_.isGone() ? std::nullopt : std::optional(banner_.look_->pid);
+        }
+
+        std::optional<AXValue> attribute(const QString& name) const override {
+            return banner_.isGone() ? std::nullopt : answer(name);
+        }
+
+        std::optional<Announcement> takeAnnouncement() const override { return std::nullopt; }
+
+    protected:
+        virtual std::optional<AXValue> answer(const QString& name) const = 0;
+
+        const ShownBanner& banner_;
+    };
+
+    class Window : public Element {
+        using Element::Element;
+
+        std::optional<AXValue> answer(const QString& name) const override {
+            if (name == ax::role)
+                return windowRole;
+            return name == ax::children ? banner_.list(banner_.group_) : std::nullopt;
+        }
+    };
+
+    class Group : public Element {
+    public:
+        using Element::Element;
+
+        std::optional<Announcement> takeAnnouncement() const override { return banner_.take(); }
+
+    private:
+        std::optional<AXValue> answer(const QString& name) const override {
+            if (name == ax::role)
+                return ax::group;
+            if (name == ax::description)
+                return banner_.state_->texts.title;
+            return name == ax::children ? banner_.list(banner_.text_) : std::nullopt;
+        }
+    };
+
+    class StaticText : public Element {
+        using Element::Element;
+
+        std::optional<AXValue> answer(const QString& name) const override {
+            if (name == ax::role)
+                return ax::staticText;
+            return name == ax::value ? std::optional<AXValue>(banner_.state_->texts.title)
+                                     : std::nullopt;
+        }
+    };
+
+    bool isGone() const { return state_->isTaken; }
+
+    std::optional<AXValue> list(const Element& element) const {
+        return std::vector<AXElementRef>{{shared_from_this(), &element}};
     }
 
-    const qint32 pid_;
-    const std::shared_ptr<const BannerState> state_;
-    const std::function<double()> clock_;
-    const std::function<void(std::uint64_t)> allRead_;
-    const qsizetype textCount_;
-    const unsigned whole_;
-    std::atomic<unsigned> read_ = 0; // one bit for each text, one for the description
-};
-
-class Part : public BannerElement {
-public:
-    explicit Part(std::shared_ptr<Banner> banner)
-        : banner_(std::move(banner)) {}
-
-    qint32 pid() const override { return banner_->pid(); }
-
-protected:
-    const std::shared_ptr<Banner> banner_;
-};
-
-class StaticText : public Part {
-public:
-    StaticText(std::shared_ptr<Banner> banner, qsizetype index)
-        : Part(std::move(banner))
-        , index_(index) {}
-
-    std::optional<AXValue> attribute(const QString& name) const override {
-        if (name == ax::role)
-            return ax::staticText;
-        if (name == ax::value)
-            return banner_->readText(index_);
-        return std::nullopt;
-    }
-
-private:
-    const qsizetype index_;
-};
-
-class Group : public Part {
-public:
-    using Part::Part;
-
-    std::optional<AXValue> attribute(const QString& name) const override {
-        if (name == ax::role)
-            return ax::group;
-        if (name == ax::description)
-            return banner_->readDescription();
-        if (name != ax::children)
+    std::optional<Announcement> take() const {
+        if (!look_->take(*state_))
             return std::nullopt;
-        std::vector<AXElementRef> texts;
-        for (qsizetype index = 0; index < banner_->textCount(); ++index)
-            texts.push_back(std::make_shared<StaticText>(banner_, index));
-        return texts;
-    }
-};
-
-class Window : public Part {
-public:
-    using Part::Part;
-
-    std::optional<AXValue> attribute(const QString& name) const override {
-        if (name == ax::role)
-            return windowRole;
-        if (name == ax::children)
-            return std::vector<AXElementRef>{std::make_shared<Group>(banner_)};
-        return std::nullopt;
+        const AnnouncedTexts& texts = state_->texts;
+        return Announcement{texts.application, texts.title, texts.body,
+                            state_->announcedAt + look_->wallClockAhead};
     }
 
-private:
-    static inline const QString windowRole = QStringLiteral("AXWindow");
+    const std::shared_ptr<const BannerLook> look_;
+    const std::shared_ptr<BannerState> state_;
+    const Window window_{*this};
+    const Group group_{*this};
+    const StaticText text_{*this};
 };
 
 } // namespace
 
-AXElementRef bannerWindow(qint32 pid, std::shared_ptr<const BannerState> state,
-                          std::function<double()> clock,
-                          std::function<void(std::uint64_t)> allRead) {
-    return std::make_shared<Window>(
-        std::make_shared<Banner>(pid, std::move(state), std::move(clock), std::move(allRead)));
+AXElementRef bannerWindow(std::shared_ptr<const BannerLook> look,
+                          std::shared_ptr<BannerState> state) {
+    return std::make_shared<const ShownBanner>(std::move(look), std::move(state))->window();
 }
 
 } // namespace tessarine

@@ -9,10 +9,8 @@ namespace tessarine {
 
 namespace {
 
-// The listener lets one event through each second. A reminder comes a little later than that, so
-// that it is let through for certain.
-constexpr double throttle = 1.0;          // seconds
-constexpr double reminderInterval = 1.05; // seconds
+// A reminder comes a little later than the throttle asks for, so that it gets through for certain.
+constexpr double reminderInterval = axThrottle + 0.05;
 
 const QString applicationRole = QStringLiteral("AXApplication");
 
@@ -25,7 +23,7 @@ public:
         : process_(std::move(process))
         , pid_(pid) {}
 
-    qint32 pid() const override { return pid_; }
+    std::optional<qint32> pid() const override { return pid_; }
 
     std::optional<AXValue> attribute(const QString& name) const override {
         const std::shared_ptr<BannerProcess> process = process_.lock();
@@ -38,6 +36,8 @@ public:
         return std::nullopt;
     }
 
+    std::optional<Announcement> takeAnnouncement() const override { return std::nullopt; }
+
 private:
     const std::weak_ptr<BannerProcess> process_;
     const qint32 pid_;
@@ -45,7 +45,6 @@ private:
 
 BannerProcess::BannerProcess(Scheduler& scheduler, std::chrono::milliseconds patience)
     : scheduler_(scheduler)
-    , tree_([&scheduler] { return scheduler.uptime(); })
     , patience_(std::chrono::steady_clock::now() + patience)
     , scannedAt_(-reminderInterval) {}
 
@@ -61,10 +60,6 @@ void BannerProcess::onMain(Function function) {
 void BannerProcess::setService(const BannerService& service) {
     {
         const std::lock_guard lock(mutex_);
-        if (service.owner && service.owner->turn != lastTurn_)
-            tree_.forgetIds();
-        if (service.owner)
-            lastTurn_ = service.owner->turn;
         const bool isFirst = !isServiceKnown_;
         isServiceKnown_ = true;
         serviceKnown_.notify_all();
@@ -77,11 +72,14 @@ void BannerProcess::setService(const BannerService& service) {
     onMain([service](BannerProcess& self) { self.apply(service); });
 }
 
-void BannerProcess::announce(const AnnouncementKey& key, AnnouncedTexts texts,
-                             std::uint32_t replacesId) {
-    const BannerChange change = tree_.announce(key, std::move(texts), replacesId);
+void BannerProcess::announce(BannerCall call) {
+    if (!isRecording_)
+        return;
+    const BannerChange change = tree_.announce(std::move(call));
     if (change == BannerChange::none)
         return;
+    if (*observers_ == 0)
+        tree_.keepLatest(mostUnobserved, mostUnobservedBytes);
     const std::lock_guard lock(mutex_);
     if (unsentChange_ != BannerChange::shown)
         unsentChange_ = change;
@@ -94,15 +92,19 @@ void BannerProcess::announce(const AnnouncementKey& key, AnnouncedTexts texts,
 // The throttle would swallow an event now. Sending it all the same would wake the main thread for
 // each of a burst of announcements, at the cost of those who announce. Under the lock.
 bool BannerProcess::isLeftToTheReminder() const {
-    return isReminderSet_ && scheduler_.uptime() - scannedAt_ < throttle;
+    return isReminderSet_ && scheduler_.uptime() - scannedAt_ < axThrottle;
 }
 
-void BannerProcess::answered(const AnnouncementKey& key, std::uint32_t id) {
-    tree_.answered(key, id);
+void BannerProcess::answered(const AnnouncementKey& key, std::uint32_t number) {
+    tree_.answered(key, number);
 }
 
-void BannerProcess::closed(std::uint32_t id) {
+void BannerProcess::closed(const BannerId& id) {
     tree_.closed(id);
+}
+
+void BannerProcess::forgetIds(NotificationService service) {
+    tree_.forgetIds(service);
 }
 
 BannerService BannerProcess::knownService() const {
@@ -130,32 +132,39 @@ std::optional<std::vector<AXElementRef>> BannerProcess::windows(qint32 pid) {
         const std::lock_guard lock(mutex_);
         scannedAt_ = scheduler_.uptime();
     }
+    const auto take = [weak = weak_from_this()](BannerState& state) {
+        const std::shared_ptr<BannerProcess> self = weak.lock();
+        return self && self->take(state);
+    };
+    const auto look = std::make_shared<const BannerLook>(
+        BannerLook{pid, scheduler_.now() - scheduler_.uptime(), take});
     std::vector<AXElementRef> windows;
-    for (auto& state : tree_.unread())
-        windows.push_back(bannerWindow(
-            pid, std::move(state), [&scheduler = scheduler_] { return scheduler.uptime(); },
-            [weak = weak_from_this()](std::uint64_t number) {
-                if (const std::shared_ptr<BannerProcess> self = weak.lock())
-                    self->read(number);
-            }));
+    for (auto& state : tree_.untaken())
+        windows.push_back(bannerWindow(look, std::move(state)));
     return windows;
 }
 
-void BannerProcess::read(std::uint64_t number) {
-    if (!tree_.markRead(number))
-        return;
+bool BannerProcess::take(BannerState& state) {
+    if (!tree_.take(state))
+        return false;
     const std::lock_guard lock(mutex_);
-    if (isEnding_)
-        onMain([](BannerProcess& self) { self.endWhenRead(); });
+    if (isEnding_ && tree_.isEmpty())
+        onMain([](BannerProcess& self) { self.endWhenEmpty(); });
+    return true;
 }
 
 std::shared_ptr<void> BannerProcess::onEvent(EventHandlers::Handler handler) {
-    std::shared_ptr<void> token = eventHandlers_.add(std::move(handler));
-    remindWhileUnread(); // what was announced while nobody listened
-    return token;
+    isRecording_ = true;
+    ++*observers_;
+    auto leave = [token = eventHandlers_.add(std::move(handler)), observers = observers_](void*) {
+        --*observers;
+    };
+    remindWhileUntaken(); // of what was announced while nobody observed
+    return {nullptr, std::move(leave)};
 }
 
 std::shared_ptr<void> BannerProcess::onLaunch(LifecycleHandlers::Handler handler) {
+    isRecording_ = true;
     return launchHandlers_.add(std::move(handler));
 }
 
@@ -178,7 +187,7 @@ void BannerProcess::apply(const BannerService& next) {
         service_.trusted = next.trusted;
         isEnding_ = last.owner.has_value();
     }
-    endWhenRead();
+    endWhenEmpty();
 }
 
 void BannerProcess::launch(const BannerService& service) {
@@ -201,7 +210,7 @@ void BannerProcess::terminate(const BannerService& service) {
     terminationHandlers_.call(pid);
 }
 
-void BannerProcess::endWhenRead() {
+void BannerProcess::endWhenEmpty() {
     BannerService rest;
     {
         const std::lock_guard lock(mutex_);
@@ -220,18 +229,18 @@ void BannerProcess::sendEvent() {
         isEventOnItsWay_ = false;
         change = std::exchange(unsentChange_, BannerChange::none);
         owner = service_.owner;
-        if (const double now = scheduler_.uptime(); now - scannedAt_ >= throttle)
+        if (const double now = scheduler_.uptime(); now - scannedAt_ >= axThrottle)
             scannedAt_ = now; // by what this event leads to
     }
     if (owner)
         eventHandlers_.call(applicationElement(owner->pid), change == BannerChange::replaced
                                                                 ? ax::valueChanged
                                                                 : ax::windowCreated);
-    remindWhileUnread();
+    remindWhileUntaken();
 }
 
 // One reminder at a time.
-void BannerProcess::remindWhileUnread() {
+void BannerProcess::remindWhileUntaken() {
     if (tree_.isEmpty() || eventHandlers_.isEmpty())
         return;
     double delay = reminderInterval;
@@ -239,7 +248,7 @@ void BannerProcess::remindWhileUnread() {
         const std::lock_guard lock(mutex_);
         if (std::exchange(isReminderSet_, true))
             return;
-        delay -= std::min(throttle, scheduler_.uptime() - scannedAt_);
+        delay -= std::min(axThrottle, scheduler_.uptime() - scannedAt_);
     }
     scheduler_.onMainAfter(delay, [weak = weak_from_this()] {
         const std::shared_ptr<BannerProcess> self = weak.lock();

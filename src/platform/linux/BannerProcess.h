@@ -5,6 +5,7 @@
 #include "platform/linux/BannerTree.h"
 #include "platform/linux/HandlerList.h"
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <memory>
@@ -13,8 +14,8 @@
 
 namespace tessarine {
 
-// Who draws banners. A daemon may hand over to another one in the same process: the turn tells
-// them apart.
+// Who draws banners. It may be followed by another one in the same process: the turn tells them
+// apart.
 struct BannerOwner {
     qint32 pid = 0;
     std::uint64_t turn = 0;
@@ -22,7 +23,7 @@ struct BannerOwner {
     bool operator==(const BannerOwner&) const = default;
 };
 
-// What is known of the service: whether the bus lets us look, and who holds the name.
+// What is known of the service: whether the bus lets us look, and who draws.
 struct BannerService {
     bool trusted = false;
     std::optional<BannerOwner> owner;
@@ -30,10 +31,14 @@ struct BannerService {
 
 // The process that draws banners, as a listener sees it: it launches, shows windows, sends events
 // and terminates. A bus thread tells what happens; a listener asks and is told.
-// A change sends an event at once, unless the listener's throttle is closed to it; and as long as
-// something is unread another one follows when the throttle must have run out. With nothing unread,
-// nothing runs.
-// A process with unread banners stays until they are read, or until another one takes its place.
+// Nothing is recorded before somebody listens: before the first observer is attached, or waits for
+// the launch of a process that doesn't run yet. From then on banners stay until they are taken;
+// while no observer is attached, the latest of them, within bounds.
+// A change sends an event at once, unless the port's throttle is closed to it; and as long as
+// a banner is left another one follows when the throttle must have run out. With none left, nothing
+// runs.
+// A process with banners that nobody took stays until they are taken, or until another one takes
+// its place.
 class BannerProcess : public std::enable_shared_from_this<BannerProcess> {
 public:
     using EventHandlers = HandlerList<const AXElementRef&, const QString&>;
@@ -42,13 +47,24 @@ public:
     // How long the first question may wait for the bus.
     static constexpr std::chrono::milliseconds firstAnswer{1000};
 
+    // What is kept while no observer is attached.
+    static constexpr std::size_t mostUnobserved = 20000;
+    static constexpr std::size_t mostUnobservedBytes = 32 << 20; // of texts
+
     explicit BannerProcess(Scheduler& scheduler, std::chrono::milliseconds patience = firstAnswer);
 
     // What the bus thread tells, in the order in which it happened.
     void setService(const BannerService& service);
-    void announce(const AnnouncementKey& key, AnnouncedTexts texts, std::uint32_t replacesId);
-    void answered(const AnnouncementKey& key, std::uint32_t id); // 0 for an error
-    void closed(std::uint32_t id);
+    void announce(BannerCall call);
+    void answered(const AnnouncementKey& key, std::uint32_t number); // 0 for an error
+    void closed(const BannerId& id);
+    void forgetIds(NotificationService service);
+
+    // Whether anything that is announced now would be recorded. Any thread.
+    bool isRecording() const { return isRecording_; }
+
+    // The clock of BannerCall::announcedAt. Any thread.
+    double uptime() const { return scheduler_.uptime(); }
 
     // Questions, any thread. The first of them waits, while there is patience, counted from the
     // start, until it is known whether the bus lets us look.
@@ -67,16 +83,16 @@ private:
     class Application;
 
     std::optional<std::vector<AXElementRef>> windows(qint32 pid);
-    void read(std::uint64_t number);
+    bool take(BannerState& state);
     BannerService knownService() const;
 
     void apply(const BannerService& next);
     void launch(const BannerService& service);
     void terminate(const BannerService& service);
-    void endWhenRead();
+    void endWhenEmpty();
     void sendEvent();
     bool isLeftToTheReminder() const;
-    void remindWhileUnread();
+    void remindWhileUntaken();
 
     template <typename Function>
     void onMain(Function function);
@@ -90,12 +106,14 @@ private:
     BannerService service_;
     bool isServiceKnown_ = false;
     mutable bool answeredInIgnorance_ = false;
-    std::uint64_t lastTurn_ = 0;
-    bool isEnding_ = false; // its name is gone, its banners are unread
+    bool isEnding_ = false; // nobody draws any more, but banners are left
     double scannedAt_;      // the last scan, or the last event that the throttle let through
     BannerChange unsentChange_ = BannerChange::none;
     bool isEventOnItsWay_ = false; // to the main thread
     bool isReminderSet_ = false;
+
+    std::atomic<bool> isRecording_ = false;
+    const std::shared_ptr<std::atomic<int>> observers_ = std::make_shared<std::atomic<int>>(0);
 
     // Main thread only.
     EventHandlers eventHandlers_;

@@ -4,123 +4,108 @@ namespace tessarine {
 
 namespace {
 
-// Daemons that never answer or never close must not make the tree grow. Forgetting one of so many
+// Services that never answer or never close must not make the tree grow. Forgetting one of so many
 // only makes a later replacement look like a new banner.
 constexpr std::size_t mostUnanswered = 10000;
 constexpr std::size_t mostIds = 10000;
 
-constexpr double secondsInMinute = 60;
-constexpr double secondsInHour = 3600;
-constexpr double secondsInDay = 86400;
-
-QString ago(double age, double unit, char16_t letter) {
-    return QString::number(static_cast<qint64>(age / unit)) + letter + QStringLiteral(" ago");
+bool isForNewBanner(const BannerId& id) {
+    const std::uint32_t* const number = std::get_if<std::uint32_t>(&id);
+    return number && *number == 0;
 }
 
 } // namespace
 
-QString ageText(double age) {
-    if (age < 1)
-        return QStringLiteral("Just now");
-    if (age < secondsInMinute)
-        return ago(age, 1, u's');
-    if (age < secondsInHour)
-        return ago(age, secondsInMinute, u'm');
-    if (age < secondsInDay)
-        return ago(age, secondsInHour, u'h');
-    return ago(age, secondsInDay, u'd');
-}
+BannerTree::BannerTree()
+    : unanswered_(mostUnanswered)
+    , ids_{Ids(mostIds), Ids(mostIds)} {}
 
-QString BannerState::description() const {
-    QString description = texts.application;
-    for (const QString& text : {texts.summary, texts.body}) {
-        if (!text.isEmpty())
-            description += QStringLiteral(", ") + text;
-    }
-    return description;
-}
-
-QStringList BannerState::shownTexts(double now) const {
-    QStringList shown{texts.summary, ageText(now - announcedAt), texts.body};
-    if (texts.summary.isEmpty())
-        shown = {texts.body, shown[1]};
-    else if (texts.body.isEmpty())
-        shown.removeLast();
-    return shown;
-}
-
-BannerTree::BannerTree(std::function<double()> clock)
-    : clock_(std::move(clock))
-    , unanswered_(mostUnanswered)
-    , byId_(mostIds) {}
-
-BannerChange BannerTree::announce(const AnnouncementKey& key, AnnouncedTexts texts,
-                                  std::uint32_t replacesId) {
-    const double announcedAt = clock_();
+BannerChange BannerTree::announce(BannerCall call) {
+    if (call.texts.title.isEmpty())
+        std::swap(call.texts.title, call.texts.body);
     const std::lock_guard lock(mutex_);
-    const bool replaces = byId_.find(replacesId).has_value();
-    const BannerRef banner = bannerFor(replacesId);
-    unanswered_.set(key, banner);
-    const bool isBlank = texts.summary.isEmpty() && texts.body.isEmpty();
-    if (isBlank || isUnread(*banner, texts))
+    const bool replaces = idsFor(call.id).find(call.id).has_value();
+    const BannerRef banner = bannerFor(call.id);
+    if (serviceOf(call.id) == NotificationService::freedesktop)
+        unanswered_.set(call.key, banner);
+    if (call.texts.title.isEmpty() || shows(*banner, call.texts))
         return BannerChange::none;
-    const StateRef state = std::make_shared<const BannerState>(
-        BannerState{++lastNumber_, std::move(texts), announcedAt});
-    unread_.emplace(state->number, state);
+    untakenBytes_ += bytesOf(call.texts);
+    const auto state =
+        std::make_shared<BannerState>(++lastNumber_, std::move(call.texts), call.announcedAt);
+    untaken_.emplace_hint(untaken_.end(), state->number, state);
     banner->last = state;
     return replaces ? BannerChange::replaced : BannerChange::shown;
 }
 
-// Until the daemon answers, a banner goes by the id that the sender asked for.
-BannerTree::BannerRef BannerTree::bannerFor(std::uint32_t replacesId) {
-    if (const std::optional<BannerRef> known = byId_.find(replacesId))
+// Until the service answers, a banner goes by the number that the sender asked for.
+BannerTree::BannerRef BannerTree::bannerFor(const BannerId& id) {
+    if (const std::optional<BannerRef> known = idsFor(id).find(id))
         return *known;
     auto banner = std::make_shared<Banner>();
-    if (replacesId != 0)
-        byId_.set(replacesId, banner);
+    if (!isForNewBanner(id))
+        idsFor(id).set(id, banner);
     return banner;
 }
 
-bool BannerTree::isUnread(const Banner& banner, const AnnouncedTexts& texts) const {
-    const StateRef last = banner.last.lock();
-    return last && unread_.contains(last->number) && last->texts == texts;
+bool BannerTree::shows(const Banner& banner, const AnnouncedTexts& texts) const {
+    const std::shared_ptr<const BannerState> last = banner.last.lock();
+    return last && untaken_.contains(last->number) && last->texts == texts;
 }
 
-void BannerTree::answered(const AnnouncementKey& key, std::uint32_t id) {
+void BannerTree::answered(const AnnouncementKey& key, std::uint32_t number) {
     const std::lock_guard lock(mutex_);
     const std::optional<BannerRef> banner = unanswered_.take(key);
-    if (banner && id != 0)
-        byId_.set(id, *banner);
+    if (banner && number != 0)
+        idsOf(NotificationService::freedesktop).set(number, *banner);
 }
 
-void BannerTree::closed(std::uint32_t id) {
+void BannerTree::closed(const BannerId& id) {
     const std::lock_guard lock(mutex_);
-    byId_.take(id);
+    idsFor(id).take(id);
 }
 
-void BannerTree::forgetIds() {
+void BannerTree::forgetIds(NotificationService service) {
     const std::lock_guard lock(mutex_);
-    byId_.clear();
-    unanswered_.clear();
+    idsOf(service).clear();
+    if (service == NotificationService::freedesktop)
+        unanswered_.clear();
 }
 
-std::vector<std::shared_ptr<const BannerState>> BannerTree::unread() const {
+std::vector<std::shared_ptr<BannerState>> BannerTree::untaken() const {
     const std::lock_guard lock(mutex_);
-    std::vector<std::shared_ptr<const BannerState>> states;
-    states.reserve(unread_.size());
-    for (const auto& [number, state] : unread_)
+    std::vector<StateRef> states;
+    states.reserve(untaken_.size());
+    for (const auto& [number, state] : untaken_)
         states.push_back(state);
     return states;
 }
 
 bool BannerTree::isEmpty() const {
     const std::lock_guard lock(mutex_);
-    return unread_.empty();
+    return untaken_.empty();
 }
 
-bool BannerTree::markRead(std::uint64_t number) {
+bool BannerTree::take(BannerState& state) {
+    if (state.isTaken.exchange(true))
+        return false;
     const std::lock_guard lock(mutex_);
-    return unread_.erase(number) != 0 && unread_.empty();
+    remove(state.number);
+    return true;
+}
+
+void BannerTree::keepLatest(std::size_t count, std::size_t bytes) {
+    const std::lock_guard lock(mutex_);
+    while (untaken_.size() > count || untakenBytes_ > bytes)
+        remove(untaken_.begin()->first);
+}
+
+void BannerTree::remove(std::uint64_t number) {
+    const auto found = untaken_.find(number);
+    if (found == untaken_.end())
+        return;
+    untakenBytes_ -= bytesOf(found->second->texts);
+    untaken_.erase(found);
 }
 
 } // namespace tessarine

@@ -1,104 +1,87 @@
 #pragma once
 
+#include "platform/linux/BannerCall.h"
 #include "platform/linux/RecentMap.h"
 
-#include <QString>
-#include <QStringList>
-
+#include <array>
+#include <atomic>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
-#include <string>
-#include <utility>
 #include <vector>
 
 namespace tessarine {
 
-// What a banner says, as it is drawn: without markup. The texts may be of any length.
-struct AnnouncedTexts {
-    QString application;
-    QString summary;
-    QString body;
-
-    bool operator==(const AnnouncedTexts&) const = default;
-};
-
-// Which call announced a banner: the sender's unique name on the bus, and the call's serial.
-using AnnouncementKey = std::pair<std::string, std::uint32_t>;
-
-// One state of a banner, with the moment (seconds, monotonic) at which it was announced.
+// One state of a banner.
 struct BannerState {
-    std::uint64_t number = 0; // in the order of announcing, never used twice
-    AnnouncedTexts texts;
-    double announcedAt = 0;
+    BannerState(std::uint64_t stateNumber, AnnouncedTexts stateTexts, double stateAnnouncedAt)
+        : number(stateNumber)
+        , texts(std::move(stateTexts))
+        , announcedAt(stateAnnouncedAt) {}
 
-    // "application, summary, body", without the pieces that are empty. An empty application
-    // leaves its place.
-    QString description() const;
-
-    // The texts that the banner shows now: summary, age, body; without a summary the body leads.
-    QStringList shownTexts(double now) const;
+    const std::uint64_t number; // in the order of announcing, never used twice
+    const AnnouncedTexts texts; // with a title
+    const double announcedAt;
+    std::atomic<bool> isTaken{false};
 };
-
-// How long ago, as a banner says it: "Just now", "12s ago", "3m ago", "2h ago", "1d ago". Takes
-// seconds.
-QString ageText(double age);
 
 // What changed on the screen.
 enum class BannerChange { none, shown, replaced };
 
-// The banners on the screen, as a listener must see them: each state of a banner stays until one
-// whole scan has read it, whatever becomes of the banner meanwhile, and leaves then. A banner that
-// is replaced before it was read shows its old texts first.
+// The banners on the screen, as a listener must see them: each state of a banner stays until it is
+// taken, whatever becomes of the banner meanwhile. A banner that is replaced before it was taken
+// shows its old texts first.
 // Every operation may be called from any thread.
 class BannerTree {
 public:
-    // The clock gives seconds, monotonic, on any thread.
-    explicit BannerTree(std::function<double()> clock);
+    BannerTree();
 
-    // A banner was announced; replacesId is 0 for a new one. Says what that changed: nothing where
-    // there is no text to show, or where the unread banner shows just this.
-    BannerChange announce(const AnnouncementKey& key, AnnouncedTexts texts,
-                          std::uint32_t replacesId);
+    // A banner was announced. Without a title the body leads; with neither there is no banner. Says
+    // what changed: nothing too where the banner shows just this and wasn't taken yet.
+    BannerChange announce(BannerCall call);
 
-    // The daemon answered the call: with the banner's id, or (0) with an error.
-    void answered(const AnnouncementKey& key, std::uint32_t id);
+    // The service answered the call: with the banner's number, or (0) with an error.
+    void answered(const AnnouncementKey& key, std::uint32_t number);
 
     // The banner with this id is gone from the screen: its id stands for no banner any more.
-    void closed(std::uint32_t id);
+    void closed(const BannerId& id);
 
-    // Another daemon gives its ids anew.
-    void forgetIds();
+    // Another process serves and gives its ids anew.
+    void forgetIds(NotificationService service);
 
-    // What is unread, in the order of announcing.
-    std::vector<std::shared_ptr<const BannerState>> unread() const;
+    // What wasn't taken yet, in the order of announcing.
+    std::vector<std::shared_ptr<BannerState>> untaken() const;
     bool isEmpty() const;
 
-    // A scan has read this state as a whole: it leaves. True when it was the last one.
-    bool markRead(std::uint64_t number);
+    // Takes a state out. False when it was taken before.
+    bool take(BannerState& state);
 
-    double now() const { return clock_(); }
+    // Lets the oldest go until no more than so many are left, with texts of no more bytes in all.
+    void keepLatest(std::size_t count, std::size_t bytes);
 
 private:
-    using StateRef = std::shared_ptr<const BannerState>;
+    using StateRef = std::shared_ptr<BannerState>;
 
-    // A banner that a later call may replace. Its texts live no longer than somebody reads them.
+    // A banner that a later call may replace. Its texts live no longer than they are needed.
     struct Banner {
         std::weak_ptr<const BannerState> last;
     };
     using BannerRef = std::shared_ptr<Banner>;
+    using Ids = RecentMap<BannerId, BannerRef>;
 
-    BannerRef bannerFor(std::uint32_t replacesId);
-    bool isUnread(const Banner& banner, const AnnouncedTexts& texts) const;
+    Ids& idsOf(NotificationService service) { return ids_[static_cast<std::size_t>(service)]; }
+    Ids& idsFor(const BannerId& id) { return idsOf(serviceOf(id)); }
+    BannerRef bannerFor(const BannerId& id);
+    bool shows(const Banner& banner, const AnnouncedTexts& texts) const;
+    void remove(std::uint64_t number);
 
-    const std::function<double()> clock_;
     mutable std::mutex mutex_;
-    std::map<std::uint64_t, StateRef> unread_; // by number
+    std::map<std::uint64_t, StateRef> untaken_; // by number
+    std::size_t untakenBytes_ = 0;
     std::uint64_t lastNumber_ = 0;
     RecentMap<AnnouncementKey, BannerRef> unanswered_;
-    RecentMap<std::uint32_t, BannerRef> byId_;
+    std::array<Ids, 2> ids_; // by service
 };
 
 } // namespace tessarine

@@ -106,7 +106,8 @@ BusMessage BusConnection::call(BusMessage message, milliseconds time) {
         while (BusMessage arrived{dbus_connection_pop_message(connection_)}) {
             if (isAnswer(arrived.get(), serial))
                 return arrived;
-            arrived_.push_back(std::move(arrived));
+            if (!keepsAnswersOnly_)
+                arrived_.push_back(std::move(arrived));
         }
         const auto rest = std::chrono::ceil<milliseconds>(deadline - Clock::now());
         if (!isUsable() || rest.count() <= 0 || !waitForInput(rest))
@@ -126,6 +127,15 @@ BusMessage BusConnection::next() {
         if (!isUsable() || !waitForInput(forEver))
             return nullptr;
     }
+}
+
+void BusConnection::dropArrived(const std::function<bool(DBusMessage*)>& fits) {
+    std::erase_if(arrived_, [&](const BusMessage& message) { return fits(message.get()); });
+}
+
+void BusConnection::keepAnswersOnly() {
+    keepsAnswersOnly_ = true;
+    arrived_.clear();
 }
 
 bool BusConnection::isUsable() const {

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -52,15 +53,18 @@ public:
     BusConnection& operator=(const BusConnection&) = delete;
 
     // Calls the bus driver and waits for its answer, which may be an error. Null when none came
-    // within the time.
+    // within the time. What else arrives meanwhile waits for next().
     BusMessage call(BusMessage message, std::chrono::milliseconds time);
 
     // The next message, in the order of their arrival. Null when the connection is lost or the stop
     // signal raised.
     BusMessage next();
 
-    // Drops what has arrived during calls and nobody has asked for.
-    void dropArrived() { arrived_.clear(); }
+    // Drops what waits and fits.
+    void dropArrived(const std::function<bool(DBusMessage*)>& fits);
+
+    // From now on nothing waits: whatever others send here, nobody is going to read it.
+    void keepAnswersOnly();
 
 private:
     BusConnection(DBusConnection* connection, const StopSignal& stop);
@@ -75,6 +79,7 @@ private:
     const StopSignal& stop_;
     std::vector<DBusWatch*> watches_;
     std::deque<BusMessage> arrived_;
+    bool keepsAnswersOnly_ = false;
 };
 
 } // namespace tessarine

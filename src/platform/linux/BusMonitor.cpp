@@ -1,12 +1,13 @@
 #include "platform/linux/BusMonitor.h"
 
-#include "platform/linux/NotificationsInterface.h"
-#include "platform/linux/NotifyMessage.h"
+#include "platform/linux/BoundedText.h"
+#include "platform/linux/BusNames.h"
+#include "platform/linux/NotificationInterfaces.h"
+#include "platform/linux/NotificationMessages.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <string_view>
 
 #include <unistd.h>
 
@@ -16,67 +17,36 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds answerTime{5000}; // the bus itself answers at once
 constexpr milliseconds firstRetry{100};
 constexpr milliseconds longestRetry{30000};
 constexpr std::chrono::seconds settled{10}; // a connection that held this long was a good one
 
 constexpr char monitoringInterface[] = "org.freedesktop.DBus.Monitoring";
-constexpr char nameOwnerChanged[] = "NameOwnerChanged";
 
-constexpr char ownerRule[] =
-    "type='signal',sender='org.freedesktop.DBus',interface='org.freedesktop.DBus',"
-    "member='NameOwnerChanged',arg0='org.freedesktop.Notifications'";
-
-// Senders may leave out the interface, so the path is as good a sign. Of replies only those of the
-// daemon come by, and the errors that the bus sends in its place.
+// Senders may leave out the interface, so the path is as good a sign; and they may address the
+// service by either of its names. Of replies only those that the daemon gives come by, and the
+// errors that the bus sends in its place. What portals are asked comes by when they pass it on.
 constexpr std::array<const char*, 7> monitorRules{
-    ownerRule,
     "type='method_call',path='/org/freedesktop/Notifications',member='Notify'",
     "type='method_call',interface='org.freedesktop.Notifications',member='Notify'",
+    "type='method_call',path='/org/gtk/Notifications'",
     "type='method_return',sender='org.freedesktop.Notifications'",
     "type='error',sender='org.freedesktop.Notifications'",
     "type='error',sender='org.freedesktop.DBus'",
     "type='signal',interface='org.freedesktop.Notifications',member='NotificationClosed'",
 };
 
-bool isReturn(const BusMessage& message) {
-    return message && dbus_message_get_type(message.get()) == DBUS_MESSAGE_TYPE_METHOD_RETURN;
+// How the programs of desktop portals are called.
+constexpr QStringView portalProgram = u"xdg-desktop-portal";
+
+constexpr std::size_t mostSenderNames = 1000;
+
+const char* nameOf(NotificationService service) {
+    return interfaceOf(service).name;
 }
 
-bool isFromBus(DBusMessage* message) {
-    return dbus_message_has_sender(message, DBUS_SERVICE_DBUS);
-}
-
-BusMessage busCallWithText(const char* member, const char* text) {
-    BusMessage call = busCall(member);
-    dbus_message_append_args(call.get(), DBUS_TYPE_STRING, &text, DBUS_TYPE_INVALID);
-    return call;
-}
-
-// A single unsigned integer in front of whatever follows. Nothing when there is none.
-std::optional<dbus_uint32_t> firstNumber(DBusMessage* message) {
-    DBusMessageIter at;
-    dbus_uint32_t number = 0;
-    if (!dbus_message_iter_init(message, &at) ||
-        dbus_message_iter_get_arg_type(&at) != DBUS_TYPE_UINT32)
-        return std::nullopt;
-    dbus_message_iter_get_basic(&at, &number);
-    return number;
-}
-
-// The process behind a name. Nothing when it is gone, or lives where the bus can't see it.
-std::optional<qint32> processId(BusConnection& connection, const char* busName) {
-    const BusMessage answer =
-        connection.call(busCallWithText("GetConnectionUnixProcessID", busName), answerTime);
-    const std::optional<dbus_uint32_t> pid =
-        isReturn(answer) ? firstNumber(answer.get()) : std::nullopt;
-    return pid && *pid != 0 ? std::optional(static_cast<qint32>(*pid)) : std::nullopt;
-}
-
-// A daemon whose process the bus can't name goes by our own number, which is no other daemon's.
-qint32 ownerPid(BusConnection& connection, const char* busName) {
-    return processId(connection, busName).value_or(static_cast<qint32>(getpid()));
+std::string ownerRule(NotificationService service) {
+    return ownerChangeRule(nameOf(service));
 }
 
 } // namespace
@@ -96,7 +66,8 @@ std::string sessionBusAddress() {
 
 BusMonitor::BusMonitor(std::shared_ptr<BannerProcess> process, std::string address)
     : address_(std::move(address))
-    , filter_(std::move(process)) {
+    , filter_(std::move(process))
+    , senderNames_(mostSenderNames) {
     if (address_.empty()) {
         filter_.disconnected();
         return;
@@ -129,41 +100,52 @@ void BusMonitor::run() {
     } while (!stop_.waitFor(delay));
 }
 
-// All that concerns the owner of the name is asked on the connection that then becomes the monitor:
-// so answers, changes and calls come in one order, and none is missed in between.
+// All that concerns the owners of the names is asked on the connection that then becomes the
+// monitor: so answers, changes and calls come in one order, and none is missed in between.
 bool BusMonitor::attach() {
-    questions_ = BusConnection::open(address_, stop_);
+    senderNames_.clear(); // another bus gives them anew
+    questions_ = BusQuestions::open(address_, stop_);
     stream_ = questions_ ? BusConnection::open(address_, stop_) : nullptr;
-    if (!stream_ || !isReturn(stream_->call(busCallWithText("AddMatch", ownerRule), answerTime)))
+    if (!stream_)
         return false;
-    const std::optional<NameOwner> owner = currentOwner();
-    if (!owner || !becomeMonitor())
+    const std::optional<NameOwner> freedesktop = watchOwner(NotificationService::freedesktop);
+    const std::optional<NameOwner> gtk =
+        freedesktop ? watchOwner(NotificationService::gtk) : std::nullopt;
+    if (!gtk || !becomeMonitor())
         return false;
-    filter_.connected(*owner);
+    filter_.connected(*freedesktop, *gtk);
     return true;
 }
 
-std::optional<NameOwner> BusMonitor::currentOwner() {
-    const BusMessage answer =
-        stream_->call(busCallWithText("GetNameOwner", notifications::name), answerTime);
-    if (!answer)
+// The owner now; changes are told from here on.
+std::optional<NameOwner> BusMonitor::watchOwner(NotificationService service) {
+    if (!isReturn(
+            stream_->call(busCallWithText("AddMatch", ownerRule(service).c_str()), busAnswerTime)))
         return std::nullopt;
-    stream_->dropArrived(); // changes before the answer, which has them already
-    const char* owner = nullptr;
-    if (!isReturn(answer) ||
-        !dbus_message_get_args(answer.get(), nullptr, DBUS_TYPE_STRING, &owner, DBUS_TYPE_INVALID))
-        return NameOwner{};
-    return NameOwner{owner, ownerPid(*stream_, owner)};
+    const std::optional<std::string> name = askForOwner(*stream_, nameOf(service));
+    return name ? std::optional(ownerNamed(*name)) : std::nullopt;
+}
+
+// One whose process the bus can't name goes by our own number, which is no other one's.
+NameOwner BusMonitor::ownerNamed(const std::string& uniqueName) {
+    if (uniqueName.empty())
+        return {};
+    const std::optional<qint32> pid = questions_->processOf(uniqueName.c_str());
+    return {uniqueName, pid.value_or(static_cast<qint32>(getpid()))};
 }
 
 bool BusMonitor::becomeMonitor() {
-    BusMessage request = busCall(DBUS_PATH_DBUS, monitoringInterface, "BecomeMonitor");
-    const char* const* rules = monitorRules.data();
+    const std::string freedesktopOwner = ownerRule(NotificationService::freedesktop);
+    const std::string gtkOwner = ownerRule(NotificationService::gtk);
+    std::vector<const char*> rules{freedesktopOwner.c_str(), gtkOwner.c_str()};
+    rules.insert(rules.end(), monitorRules.begin(), monitorRules.end());
+    const char* const* const first = rules.data();
     const dbus_uint32_t flags = 0;
-    dbus_message_append_args(request.get(), DBUS_TYPE_ARRAY, DBUS_TYPE_STRING, &rules,
-                             static_cast<int>(monitorRules.size()), DBUS_TYPE_UINT32, &flags,
+    BusMessage request = busCall(DBUS_PATH_DBUS, monitoringInterface, "BecomeMonitor");
+    dbus_message_append_args(request.get(), DBUS_TYPE_ARRAY, DBUS_TYPE_STRING, &first,
+                             static_cast<int>(rules.size()), DBUS_TYPE_UINT32, &flags,
                              DBUS_TYPE_INVALID);
-    return isReturn(stream_->call(std::move(request), answerTime));
+    return isReturn(stream_->call(std::move(request), busAnswerTime));
 }
 
 void BusMonitor::read() {
@@ -176,7 +158,8 @@ void BusMonitor::handle(DBusMessage* message) {
     case DBUS_MESSAGE_TYPE_METHOD_CALL:
         return handleCall(message);
     case DBUS_MESSAGE_TYPE_METHOD_RETURN:
-        return handleReply(message);
+        return filter_.answered(senderOf(message), answeredCall(message),
+                                firstNumber(message).value_or(0));
     case DBUS_MESSAGE_TYPE_ERROR:
         return handleError(message);
     case DBUS_MESSAGE_TYPE_SIGNAL:
@@ -187,56 +170,57 @@ void BusMonitor::handle(DBusMessage* message) {
 }
 
 void BusMonitor::handleCall(DBusMessage* call) {
-    std::optional<Announcement> announcement = readNotify(call);
-    if (!announcement)
+    const double announcedAt = filter_.uptime();
+    const std::optional<NotificationService> service = calledService(call);
+    if (!service || !filter_.counts(*service, destinationOf(call)))
         return;
-    if (announcement->texts.application.isEmpty())
-        announcement->texts.application = applicationName(call);
-    filter_.announced(std::move(*announcement));
-}
-
-void BusMonitor::handleReply(DBusMessage* reply) {
-    filter_.answered(answeredCall(reply), firstNumber(reply).value_or(0));
+    if (std::optional<SentAnnouncement> sent = readAnnouncement(call, *service)) {
+        sent->call.announcedAt = announcedAt;
+        if (sent->call.texts.application.isEmpty())
+            sent->call.texts.application = applicationName(sent->desktopEntry, senderOf(call));
+        filter_.announced(std::move(sent->call));
+    } else if (const auto name = readRemoval(call); name && *service == NotificationService::gtk) {
+        filter_.removed(*name);
+    }
 }
 
 void BusMonitor::handleError(DBusMessage* error) {
     if (isFromBus(error))
         filter_.refusedByBus(answeredCall(error));
     else
-        filter_.refusedByDaemon(answeredCall(error));
+        filter_.refusedByService(senderOf(error), answeredCall(error));
 }
 
 void BusMonitor::handleSignal(DBusMessage* signal) {
-    if (dbus_message_is_signal(signal, notifications::interface,
-                               notifications::notificationClosed)) {
-        if (const std::optional<dbus_uint32_t> id = firstNumber(signal))
-            filter_.closed(*id);
-        return;
+    if (const std::optional<std::uint32_t> number = readClosed(signal))
+        return filter_.closed(senderOf(signal), *number);
+    const std::optional<OwnerChange> change = ownerChange(signal);
+    for (const auto service : {NotificationService::freedesktop, NotificationService::gtk}) {
+        if (change && change->name == nameOf(service))
+            filter_.ownerChanged(service, ownerNamed(change->owner));
     }
-    const char* name = nullptr;
-    const char* oldOwner = nullptr;
-    const char* newOwner = nullptr;
-    if (!isFromBus(signal) ||
-        !dbus_message_is_signal(signal, DBUS_INTERFACE_DBUS, nameOwnerChanged) ||
-        !dbus_message_get_args(signal, nullptr, DBUS_TYPE_STRING, &name, DBUS_TYPE_STRING,
-                               &oldOwner, DBUS_TYPE_STRING, &newOwner, DBUS_TYPE_INVALID) ||
-        std::string_view(name) != notifications::name)
-        return;
-    if (*newOwner)
-        filter_.ownerChanged({newOwner, ownerPid(*questions_, newOwner)});
-    else
-        filter_.ownerChanged({});
 }
 
-// Of an application that doesn't tell its name.
-QString BusMonitor::applicationName(DBusMessage* notify) {
-    const QString entry = desktopEntryHint(notify);
-    QString name = entry.isEmpty() ? QString() : names_.ofDesktopEntry(entry);
+// Of an application that doesn't tell its name, or tells the id of its entry instead. A portal
+// speaks for others: the name of its process would say nothing.
+QString BusMonitor::applicationName(const QString& desktopEntry, const char* sender) {
+    QString name = desktopEntry.isEmpty() ? QString() : names_.ofDesktopEntry(desktopEntry);
     if (!name.isEmpty())
-        return name;
-    const char* const sender = dbus_message_get_sender(notify);
-    const std::optional<qint32> pid = sender ? processId(*questions_, sender) : std::nullopt;
-    return pid ? processName(*pid) : QString();
+        return boundedText(name, longestName);
+    name = senderName(sender);
+    const bool saysNothing = name.isEmpty() || name.startsWith(portalProgram);
+    return saysNothing && !desktopEntry.isEmpty() ? boundedText(desktopEntry, longestName) : name;
+}
+
+// A connection's process stays the same, and its name is never another connection's.
+QString BusMonitor::senderName(const char* sender) {
+    if (const std::optional<QString> known = senderNames_.find(sender))
+        return *known;
+    const std::optional<qint32> pid = questions_->processOf(sender);
+    const QString name = pid ? boundedText(processName(*pid), longestName) : QString();
+    if (!name.isEmpty())
+        senderNames_.set(sender, name);
+    return name;
 }
 
 } // namespace tessarine

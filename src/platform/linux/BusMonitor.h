@@ -3,6 +3,8 @@
 #include "platform/linux/AnnouncementFilter.h"
 #include "platform/linux/ApplicationNames.h"
 #include "platform/linux/BusConnection.h"
+#include "platform/linux/BusQuestions.h"
+#include "platform/linux/RecentMap.h"
 
 #include <memory>
 #include <optional>
@@ -31,23 +33,25 @@ private:
     void run();
     bool attach();
     void read();
-    std::optional<NameOwner> currentOwner();
+    std::optional<NameOwner> watchOwner(NotificationService service);
+    NameOwner ownerNamed(const std::string& uniqueName);
     bool becomeMonitor();
 
     void handle(DBusMessage* message);
     void handleCall(DBusMessage* call);
-    void handleReply(DBusMessage* reply);
     void handleError(DBusMessage* error);
     void handleSignal(DBusMessage* signal);
 
-    QString applicationName(DBusMessage* notify);
+    QString applicationName(const QString& desktopEntry, const char* sender);
+    QString senderName(const char* sender);
 
     const std::string address_;
     AnnouncementFilter filter_;
     ApplicationNames names_;
+    RecentMap<std::string, QString> senderNames_; // of their programs, by unique name
     StopSignal stop_;
-    std::unique_ptr<BusConnection> stream_;    // the monitor: may only read
-    std::unique_ptr<BusConnection> questions_; // for what the monitor needs to ask
+    std::unique_ptr<BusConnection> stream_;   // the monitor: may only read
+    std::unique_ptr<BusQuestions> questions_; // for what the monitor needs to ask
     std::thread thread_;
 };
 

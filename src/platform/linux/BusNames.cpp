@@ -45,7 +45,10 @@ std::optional<std::string> askForOwner(BusConnection& connection, const char* na
     const BusMessage answer = connection.call(busCallWithText("GetNameOwner", name), busAnswerTime);
     if (!answer)
         return std::nullopt;
-    connection.dropArrived();
+    connection.dropArrived([name](DBusMessage* message) {
+        const std::optional<OwnerChange> change = ownerChange(message);
+        return change && change->name == name;
+    });
     const char* owner = nullptr;
     if (!isReturn(answer) ||
         !dbus_message_get_args(answer.get(), nullptr, DBUS_TYPE_STRING, &owner, DBUS_TYPE_INVALID))

@@ -31,8 +31,8 @@ struct OwnerChange {
 // Nothing when the message isn't a change of an owner that the bus announces.
 std::optional<OwnerChange> ownerChange(DBusMessage* message);
 
-// The unique name of the name's owner; empty when nobody has it. What arrived before the answer is
-// dropped: changes among it are older than the answer. Nothing when the bus doesn't answer.
+// The unique name of the name's owner; empty when nobody has it. Changes of this owner that arrived
+// before the answer are dropped: it has them already. Nothing when the bus doesn't answer.
 std::optional<std::string> askForOwner(BusConnection& connection, const char* name);
 
 } // namespace tessarine

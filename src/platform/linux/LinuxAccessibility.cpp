@@ -71,9 +71,14 @@ std::optional<AXValue> LinuxAccessibility::copyAttributeValue(const AXElementRef
     return banner ? banner->attribute(attribute) : std::nullopt;
 }
 
+std::optional<Announcement> LinuxAccessibility::takeAnnouncement(const AXElementRef& banner) {
+    const BannerElement* const element = known(banner);
+    return element ? element->takeAnnouncement() : std::nullopt;
+}
+
 std::optional<qint32> LinuxAccessibility::pid(const AXElementRef& element) {
     const BannerElement* const banner = known(element);
-    return banner ? std::optional(banner->pid()) : std::nullopt;
+    return banner ? banner->pid() : std::nullopt;
 }
 
 } // namespace tessarine

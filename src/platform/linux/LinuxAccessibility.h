@@ -23,6 +23,7 @@ public:
     void setMessagingTimeout(const AXElementRef& element, double seconds) override;
     std::optional<AXValue> copyAttributeValue(const AXElementRef& element,
                                               const QString& attribute) override;
+    std::optional<Announcement> takeAnnouncement(const AXElementRef& banner) override;
     std::optional<qint32> pid(const AXElementRef& element) override;
 
 private:

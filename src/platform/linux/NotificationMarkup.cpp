@@ -1,95 +1,121 @@
 #include "platform/linux/NotificationMarkup.h"
 
+#include "platform/linux/BoundedText.h"
+
 #include <QChar>
 
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string>
 #include <utility>
 
 namespace tessarine {
 
 namespace {
 
-constexpr std::array<QStringView, 5> tagNames{u"b", u"i", u"u", u"a", u"img"};
+constexpr std::array<std::string_view, 5> tagNames{"b", "i", "u", "a", "img"};
 
-constexpr std::array<std::pair<QStringView, char16_t>, 5> entities{{
-    {u"&amp;", u'&'},
-    {u"&lt;", u'<'},
-    {u"&gt;", u'>'},
-    {u"&quot;", u'"'},
-    {u"&apos;", u'\''},
+constexpr std::array<std::pair<std::string_view, char>, 5> entities{{
+    {"&amp;", '&'},
+    {"&lt;", '<'},
+    {"&gt;", '>'},
+    {"&quot;", '"'},
+    {"&apos;", '\''},
 }};
 
-bool isBlank(QChar character) {
-    return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r';
+bool isBlank(char character) {
+    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
 }
 
-bool isNameCharacter(QChar character) {
-    return character.isLetterOrNumber() || character == u'-' || character == u'_' ||
-           character == u':' || character == u'.';
+char lowered(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character | 0x20) : character;
 }
 
-// Reads one body from its start to its end.
-class MarkupReader {
+bool isDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+// Letters of other scripts count as a whole: all their bytes lie above ASCII.
+bool isNameCharacter(char character) {
+    const char letter = lowered(character);
+    return (letter >= 'a' && letter <= 'z') || isDigit(character) || character == '-' ||
+           character == '_' || character == ':' || character == '.' ||
+           static_cast<unsigned char>(character) >= 0x80;
+}
+
+bool isKnownTag(std::string_view name) {
+    return std::any_of(tagNames.begin(), tagNames.end(), [&](std::string_view tag) {
+        return std::equal(name.begin(), name.end(), tag.begin(), tag.end(),
+                          [](char left, char right) { return lowered(left) == right; });
+    });
+}
+
+// Reads one body from its start towards its end, as far as it is asked to.
+class MarkupReader : public TextSource {
 public:
-    explicit MarkupReader(QStringView body)
+    explicit MarkupReader(std::string_view body)
         : body_(body) {}
 
-    QString text() const {
-        QString text;
-        text.reserve(body_.size());
-        for (qsizetype at = 0; at < body_.size();) {
-            const QChar character = body_[at];
-            const qsizetype end = character == u'<'   ? tagEnd(at)
-                                  : character == u'&' ? entityEnd(at, text)
-                                                      : at;
-            if (end == at)
-                text += character;
-            at = std::max(end, at + 1);
-        }
-        return text;
+    std::string_view upTo(std::size_t bytes) override {
+        while (text_.size() < bytes && !isWhole())
+            readOn(bytes - text_.size());
+        return text_;
     }
 
+    bool isWhole() const override { return at_ == body_.size(); }
+
 private:
-    QChar character(qsizetype at) const { return at < body_.size() ? body_[at] : QChar(); }
+    // What lies before the next tag or entity, or that itself.
+    void readOn(std::size_t bytes) {
+        const std::size_t start = at_;
+        if (character(at_) == '<')
+            at_ = tagEnd(at_);
+        else if (character(at_) == '&')
+            at_ = entityEnd(at_);
+        if (at_ > start)
+            return;
+        const std::string_view ahead = body_.substr(at_, bytes);
+        const std::size_t plain = std::min(ahead.find_first_of("<&", 1), ahead.size());
+        text_ += ahead.substr(0, plain);
+        at_ += plain;
+    }
+
+    char character(std::size_t at) const { return at < body_.size() ? body_[at] : '\0'; }
 
     template <typename Predicate>
-    qsizetype skip(qsizetype at, Predicate predicate) const {
+    std::size_t skip(std::size_t at, Predicate predicate) const {
         while (at < body_.size() && predicate(body_[at]))
             ++at;
         return at;
     }
 
     // The place behind the tag that starts here; the same place when none does.
-    qsizetype tagEnd(qsizetype start) const {
-        const bool closing = character(start + 1) == u'/';
-        const qsizetype nameStart = start + (closing ? 2 : 1);
-        const qsizetype nameEnd = skip(nameStart, isNameCharacter);
-        const QStringView name = body_.sliced(nameStart, nameEnd - nameStart);
-        const bool known = std::any_of(tagNames.begin(), tagNames.end(), [&](QStringView tag) {
-            return name.compare(tag, Qt::CaseInsensitive) == 0;
-        });
-        if (!known)
+    std::size_t tagEnd(std::size_t start) const {
+        const bool closing = character(start + 1) == '/';
+        const std::size_t nameStart = start + (closing ? 2 : 1);
+        const std::size_t nameEnd = skip(nameStart, isNameCharacter);
+        if (nameStart >= body_.size() || !isKnownTag(body_.substr(nameStart, nameEnd - nameStart)))
             return start;
-        const std::optional<qsizetype> end = closing ? closingEnd(nameEnd) : attributesEnd(nameEnd);
+        const std::optional<std::size_t> end =
+            closing ? closingEnd(nameEnd) : attributesEnd(nameEnd);
         return end.value_or(start);
     }
 
-    std::optional<qsizetype> closingEnd(qsizetype at) const {
+    std::optional<std::size_t> closingEnd(std::size_t at) const {
         at = skip(at, isBlank);
-        return character(at) == u'>' ? std::optional(at + 1) : std::nullopt;
+        return character(at) == '>' ? std::optional(at + 1) : std::nullopt;
     }
 
     // Two walks through the same text that started at different tags never agree on what is in
     // quotes, and one that meets a bracket outside of them ends. So at most three walks pass any
     // place, and the whole takes time in proportion to the length.
-    std::optional<qsizetype> attributesEnd(qsizetype at) const {
+    std::optional<std::size_t> attributesEnd(std::size_t at) const {
         while (true) {
-            const qsizetype next = skip(at, isBlank);
-            if (const qsizetype end = bracketEnd(next); end != next)
+            const std::size_t next = skip(at, isBlank);
+            if (const std::size_t end = bracketEnd(next); end != next)
                 return end;
-            const std::optional<qsizetype> attribute =
+            const std::optional<std::size_t> attribute =
                 next == at ? std::nullopt : attributeEnd(next);
             if (!attribute)
                 return std::nullopt;
@@ -97,84 +123,83 @@ private:
         }
     }
 
-    qsizetype bracketEnd(qsizetype at) const {
-        if (character(at) == u'>')
+    std::size_t bracketEnd(std::size_t at) const {
+        if (character(at) == '>')
             return at + 1;
-        return character(at) == u'/' && character(at + 1) == u'>' ? at + 2 : at;
+        return character(at) == '/' && character(at + 1) == '>' ? at + 2 : at;
     }
 
     // name = value, the value in quotes or a single word.
-    std::optional<qsizetype> attributeEnd(qsizetype at) const {
-        const qsizetype nameEnd = skip(at, isNameCharacter);
-        const qsizetype equals = skip(nameEnd, isBlank);
-        if (nameEnd == at || character(equals) != u'=')
+    std::optional<std::size_t> attributeEnd(std::size_t at) const {
+        const std::size_t nameEnd = skip(at, isNameCharacter);
+        const std::size_t equals = skip(nameEnd, isBlank);
+        if (nameEnd == at || character(equals) != '=')
             return std::nullopt;
-        const qsizetype value = skip(equals + 1, isBlank);
-        const QChar quote = character(value);
-        if (quote != u'"' && quote != u'\'')
+        const std::size_t value = skip(equals + 1, isBlank);
+        const char quote = character(value);
+        if (quote != '"' && quote != '\'')
             return wordEnd(value);
-        const qsizetype closing = body_.indexOf(quote, value + 1);
-        return closing < 0 ? std::nullopt : std::optional(closing + 1);
+        const std::size_t closing = body_.find(quote, value + 1);
+        return closing == std::string_view::npos ? std::nullopt : std::optional(closing + 1);
     }
 
-    std::optional<qsizetype> wordEnd(qsizetype at) const {
-        const qsizetype end = skip(at, [](QChar character) {
-            return !isBlank(character) && character != u'<' && character != u'>' &&
-                   character != u'"' && character != u'\'';
+    std::optional<std::size_t> wordEnd(std::size_t at) const {
+        const std::size_t end = skip(at, [](char character) {
+            return !isBlank(character) && character != '<' && character != '>' &&
+                   character != '"' && character != '\'';
         });
         return end == at ? std::nullopt : std::optional(end);
     }
 
     // The place behind the entity that starts here, with its character appended to the text; the
     // same place when none does.
-    qsizetype entityEnd(qsizetype start, QString& text) const {
-        const QStringView rest = body_.sliced(start);
-        if (rest.startsWith(u"&#"))
-            return numericEnd(start, text);
+    std::size_t entityEnd(std::size_t start) {
+        const std::string_view rest = body_.substr(start);
+        if (rest.starts_with("&#"))
+            return numericEnd(start);
         for (const auto& [entity, character] : entities) {
-            if (rest.startsWith(entity)) {
-                text += character;
+            if (rest.starts_with(entity)) {
+                text_ += character;
                 return start + entity.size();
             }
         }
         return start;
     }
 
-    qsizetype numericEnd(qsizetype start, QString& text) const {
-        const bool hexadecimal = character(start + 2).toLower() == u'x';
-        const qsizetype firstDigit = start + (hexadecimal ? 3 : 2);
-        qsizetype at = firstDigit;
+    std::size_t numericEnd(std::size_t start) {
+        const bool hexadecimal = lowered(character(start + 2)) == 'x';
+        const std::size_t firstDigit = start + (hexadecimal ? 3 : 2);
+        std::size_t at = firstDigit;
         char32_t code = 0;
         for (int digit; (digit = digitAt(at, hexadecimal)) >= 0; ++at)
             code = std::min<char32_t>(code * (hexadecimal ? 16 : 10) + static_cast<char32_t>(digit),
                                       QChar::LastValidCodePoint + 1);
         const bool isCharacter =
             code != 0 && code <= QChar::LastValidCodePoint && !QChar::isSurrogate(code);
-        if (at == firstDigit || character(at) != u';' || !isCharacter)
+        if (at == firstDigit || character(at) != ';' || !isCharacter)
             return start;
-        text += QChar::fromUcs4(code);
+        text_ += QString::fromUcs4(&code, 1).toStdString();
         return at + 1;
     }
 
     // ASCII digits only. Negative when there is none.
-    int digitAt(qsizetype at, bool hexadecimal) const {
-        const char16_t digit = character(at).unicode();
-        if (digit >= u'0' && digit <= u'9')
-            return digit - u'0';
-        const int letter = (digit | 0x20) - u'a';
-        const bool isHexadecimal = digit < 0x80 && letter >= 0 && letter < 6;
-        return hexadecimal && isHexadecimal ? letter + 10 : -1;
+    int digitAt(std::size_t at, bool hexadecimal) const {
+        const char digit = lowered(character(at));
+        if (isDigit(digit))
+            return digit - '0';
+        return hexadecimal && digit >= 'a' && digit <= 'f' ? digit - 'a' + 10 : -1;
     }
 
-    QStringView body_;
+    const std::string_view body_;
+    std::size_t at_ = 0; // what lies before it is decoded
+    std::string text_;
 };
 
 } // namespace
 
-QString withoutMarkup(QStringView body) {
-    if (!body.contains(u'<') && !body.contains(u'&'))
-        return body.toString();
-    return MarkupReader(body).text();
+QString withoutMarkup(std::string_view utf8, qsizetype characters) {
+    MarkupReader reader(utf8);
+    return boundedText(reader, characters);
 }
 
 } // namespace tessarine

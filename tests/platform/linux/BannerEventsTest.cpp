@@ -22,10 +22,10 @@ TEST_F(BannerEventsTest, SendsAnEventForEachChange) {
     daemonTakesTheName();
     const auto observer = attach();
     announce(u"one"_qs);
-    scannedSummaries();
+    takenTitles();
     scheduler.advance(1.0);
     announce(u"two"_qs);
-    scannedSummaries();
+    takenTitles();
     scheduler.advance(7.0);
     announce(u"three"_qs);
     EXPECT_THAT(eventTimes, areAbout({0.0, 1.0, 8.0}));
@@ -35,23 +35,23 @@ TEST_F(BannerEventsTest, WakesNobodyForWhatTheThrottleWouldSwallow) {
     daemonTakesTheName();
     const auto observer = attach();
     announce(u"one"_qs);
-    scannedSummaries();
+    takenTitles();
     scheduler.advance(0.5);
     announceWithoutTurningTheLoop(u"two"_qs);
     EXPECT_FALSE(scheduler.runOneMainTask());
     scheduler.advance(1.0);
     EXPECT_THAT(eventTimes, areAbout({0.0, 1.05}));
-    EXPECT_THAT(scannedSummaries(), ElementsAre(u"two"_qs));
+    EXPECT_THAT(takenTitles(), ElementsAre(u"two"_qs));
 }
 
 TEST_F(BannerEventsTest, NamesAnEventThatHadToWaitAsTheScreenChanged) {
     daemonTakesTheName();
     const auto observer = attach();
-    announceWithoutTurningTheLoop(u"one"_qs, 9);
+    announceWithoutTurningTheLoop(u"one"_qs, 9U);
     scheduler.settle();
-    scannedSummaries();
+    takenTitles();
     scheduler.advance(0.5);
-    announceWithoutTurningTheLoop(u"two"_qs, 9);
+    announceWithoutTurningTheLoop(u"two"_qs, 9U);
     scheduler.advance(1.0);
     EXPECT_THAT(eventNames, ElementsAre(ax::windowCreated, ax::valueChanged));
 }
@@ -59,11 +59,11 @@ TEST_F(BannerEventsTest, NamesAnEventThatHadToWaitAsTheScreenChanged) {
 TEST_F(BannerEventsTest, NamesTheEventsAsTheScreenChanges) {
     daemonTakesTheName();
     const auto observer = attach();
-    announceWithoutTurningTheLoop(u"one"_qs, 9);
+    announceWithoutTurningTheLoop(u"one"_qs, 9U);
     scheduler.settle();
-    scannedSummaries();
+    takenTitles();
     scheduler.advance(2.0);
-    announceWithoutTurningTheLoop(u"two"_qs, 9);
+    announceWithoutTurningTheLoop(u"two"_qs, 9U);
     scheduler.settle();
     EXPECT_THAT(eventNames, ElementsAre(ax::windowCreated, ax::valueChanged));
 }
@@ -85,7 +85,7 @@ TEST_F(BannerEventsTest, SendsNothingWhenNothingIsToBeSeen) {
     EXPECT_THAT(eventTimes, IsEmpty());
 }
 
-TEST_F(BannerEventsTest, ComesBackWhileSomethingIsUnread) {
+TEST_F(BannerEventsTest, ComesBackWhileSomethingIsLeft) {
     daemonTakesTheName();
     const auto observer = attach();
     announce(u"one"_qs);
@@ -93,11 +93,11 @@ TEST_F(BannerEventsTest, ComesBackWhileSomethingIsUnread) {
     EXPECT_THAT(eventTimes, areAbout({0.0, 1.05, 2.1, 3.15}));
 }
 
-TEST_F(BannerEventsTest, IsSilentOnceEverythingIsRead) {
+TEST_F(BannerEventsTest, IsSilentOnceEverythingIsTaken) {
     daemonTakesTheName();
     const auto observer = attach();
     announce(u"one"_qs);
-    scannedSummaries();
+    takenTitles();
     scheduler.advance(60);
     EXPECT_THAT(eventTimes, SizeIs(1));
 }
@@ -107,10 +107,10 @@ TEST_F(BannerEventsTest, ComesBackAsSoonAsTheThrottleOfTheLastScanIsOver) {
     daemonTakesTheName();
     const auto observer = attach();
     announce(u"one"_qs);
-    scannedSummaries();
+    takenTitles();
     scheduler.advance(1.2);
     announce(u"two"_qs);
-    scannedSummaries();
+    takenTitles();
     scheduler.advance(0.3);
     announce(u"three"_qs);
     scheduler.advance(1.0);

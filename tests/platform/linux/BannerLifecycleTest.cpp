@@ -47,7 +47,7 @@ TEST_F(BannerLifecycleTest, ChangesOnlyWhenTheMainThreadIsTold) {
     EXPECT_THAT(runningPids(), ElementsAre(otherPid));
 }
 
-TEST_F(BannerLifecycleTest, StaysUntilItsBannersAreRead) {
+TEST_F(BannerLifecycleTest, StaysUntilItsBannersAreTaken) {
     daemonTakesTheName();
     const auto observer = attach();
     announceWithoutTurningTheLoop(u"last words"_qs);
@@ -56,20 +56,20 @@ TEST_F(BannerLifecycleTest, StaysUntilItsBannersAreRead) {
     EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs));
     EXPECT_THAT(runningPids(), ElementsAre(pid));
     EXPECT_THAT(eventTimes, SizeIs(5)) << "it goes on reminding";
-    EXPECT_THAT(scannedSummaries(), ElementsAre(u"last words"_qs));
+    EXPECT_THAT(takenTitles(), ElementsAre(u"last words"_qs));
     scheduler.settle();
     EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs));
     EXPECT_THAT(runningPids(), IsEmpty());
 }
 
-TEST_F(BannerLifecycleTest, LeavesItsUnreadBannersToItsSuccessor) {
+TEST_F(BannerLifecycleTest, LeavesItsBannersToItsSuccessor) {
     daemonTakesTheName();
     announce(u"last words"_qs);
     daemonGoes();
     daemonTakesTheName(otherPid);
     EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs, u"launch 4712"_qs));
-    EXPECT_THAT(scannedSummaries(pid), IsEmpty());
-    EXPECT_THAT(scannedSummaries(otherPid), ElementsAre(u"last words"_qs));
+    EXPECT_THAT(takenTitles(pid), IsEmpty());
+    EXPECT_THAT(takenTitles(otherPid), ElementsAre(u"last words"_qs));
     scheduler.settle();
     EXPECT_THAT(told, SizeIs(3));
 }
@@ -89,7 +89,7 @@ TEST_F(BannerLifecycleTest, ShowsItsBannersWhenTheBusIsGone) {
     announce(u"last words"_qs);
     busGoes();
     EXPECT_FALSE(accessibility.isProcessTrusted());
-    EXPECT_THAT(scannedSummaries(), ElementsAre(u"last words"_qs));
+    EXPECT_THAT(takenTitles(), ElementsAre(u"last words"_qs));
     scheduler.settle();
     EXPECT_THAT(told, ElementsAre(u"launch 4711"_qs, u"termination 4711"_qs));
 }
@@ -128,23 +128,27 @@ TEST_F(BannerLifecycleTest, LetsAnObservationEndInItsOwnEvent) {
     EXPECT_EQ(launches, 1);
 }
 
-TEST_F(BannerLifecycleTest, ForgetsTheIdsOfADaemonThatIsGone) {
+TEST_F(BannerLifecycleTest, ForgetsTheIdsOfAServiceThatIsGone) {
     daemonTakesTheName();
-    announceWithoutTurningTheLoop(u"same"_qs, 1);
-    daemonTakesTheName(otherPid);
-    announceWithoutTurningTheLoop(u"same"_qs, 1);
-    EXPECT_THAT(scannedSummaries(otherPid), ElementsAre(u"same"_qs, u"same"_qs));
+    announceWithoutTurningTheLoop(u"same"_qs, 1U);
+    process->forgetIds(NotificationService::freedesktop);
+    announceWithoutTurningTheLoop(u"same"_qs, 1U);
+    EXPECT_THAT(takenTitles(), ElementsAre(u"same"_qs, u"same"_qs));
 }
 
 TEST_F(BannerLifecycleTest, DoesNothingOnceItIsDestroyed) {
     auto gone = std::make_shared<BannerProcess>(scheduler);
     gone->setService({true, BannerOwner{pid, 1}});
     const AXElementRef application = gone->applicationElement(pid);
-    gone->announce({":1.1", 1}, {{}, u"one"_qs, {}}, 0);
+    const auto observation = gone->onEvent([](const auto&, const auto&) {});
+    gone->announce({{":1.1", 1}, 0U, {{}, u"one"_qs, {}}, 0});
+    const auto windows = testing::elements(accessibility, application, ax::windows);
+    const auto group = testing::elements(accessibility, windows.at(0), ax::children).at(0);
     gone->setService({true, std::nullopt});
     gone.reset();
     scheduler.advance(5);
     EXPECT_EQ(accessibility.copyAttributeValue(application, ax::windows), std::nullopt);
+    EXPECT_EQ(accessibility.takeAnnouncement(group), std::nullopt);
 }
 
 // The first answer.

@@ -55,13 +55,13 @@ struct BannerProcessFixture : ::testing::Test {
         scheduler.settle();
     }
 
-    void announceWithoutTurningTheLoop(const QString& summary, std::uint32_t replacesId = 0) {
-        process->announce({":1.1", ++lastSerial}, {QStringLiteral("Mail"), summary, {}},
-                          replacesId);
+    void announceWithoutTurningTheLoop(const QString& title, const BannerId& id = 0U) {
+        process->announce(
+            {{":1.1", ++lastSerial}, id, {QStringLiteral("Mail"), title, {}}, scheduler.uptime()});
     }
 
-    void announce(const QString& summary) {
-        announceWithoutTurningTheLoop(summary);
+    void announce(const QString& title) {
+        announceWithoutTurningTheLoop(title);
         scheduler.settle();
     }
 
@@ -81,11 +81,11 @@ struct BannerProcessFixture : ::testing::Test {
         return observer;
     }
 
-    std::vector<QString> scannedSummaries(qint32 scanned = pid) {
-        std::vector<QString> summaries;
-        for (const DrawnBanner& banner : scan(accessibility, scanned))
-            summaries.push_back(banner.texts.value(0));
-        return summaries;
+    std::vector<QString> takenTitles(qint32 scanned = pid) {
+        std::vector<QString> titles;
+        for (const Announcement& announcement : takeAll(accessibility, scanned))
+            titles.push_back(announcement.title);
+        return titles;
     }
 
     std::vector<qint32> runningPids() const {

@@ -14,9 +14,9 @@ using ::testing::SizeIs;
 
 using BannerProcessTest = testing::BannerProcessFixture;
 
-TEST_F(BannerProcessTest, DrawsABannerAsAWindowWithOneGroupOfTexts) {
+TEST_F(BannerProcessTest, ShowsABannerAsAWindowWithOneDescribedGroupOfText) {
     daemonTakesTheName();
-    process->announce({":1.1", 1}, {u"Mail"_qs, u"Ann"_qs, u"Hello"_qs}, 0);
+    announce(u"Ann"_qs);
     const AXElementRef application = accessibility.applicationElement(pid);
     const auto windows = testing::elements(accessibility, application, ax::windows);
     ASSERT_THAT(windows, SizeIs(1));
@@ -26,13 +26,11 @@ TEST_F(BannerProcessTest, DrawsABannerAsAWindowWithOneGroupOfTexts) {
     ASSERT_THAT(groups, SizeIs(1));
     EXPECT_EQ(testing::text(accessibility, groups[0], ax::role), ax::group);
     EXPECT_EQ(accessibility.pid(groups[0]), pid);
-    EXPECT_EQ(testing::text(accessibility, groups[0], ax::description), u"Mail, Ann, Hello"_qs);
+    EXPECT_EQ(testing::text(accessibility, groups[0], ax::description), u"Ann"_qs);
     const auto texts = testing::elements(accessibility, groups[0], ax::children);
-    ASSERT_THAT(texts, SizeIs(3));
+    ASSERT_THAT(texts, SizeIs(1));
     EXPECT_EQ(testing::text(accessibility, texts[0], ax::role), ax::staticText);
     EXPECT_EQ(testing::text(accessibility, texts[0], ax::value), u"Ann"_qs);
-    EXPECT_EQ(testing::text(accessibility, texts[1], ax::value), u"Just now"_qs);
-    EXPECT_EQ(testing::text(accessibility, texts[2], ax::value), u"Hello"_qs);
 }
 
 TEST_F(BannerProcessTest, AnswersNothingThatAnElementDoesNotHave) {
@@ -46,64 +44,84 @@ TEST_F(BannerProcessTest, AnswersNothingThatAnElementDoesNotHave) {
     EXPECT_EQ(accessibility.copyAttributeValue(window, ax::description), std::nullopt);
     EXPECT_EQ(accessibility.copyAttributeValue(group, ax::value), std::nullopt);
     EXPECT_EQ(accessibility.copyAttributeValue(value, ax::children), std::nullopt);
+    for (const AXElementRef& other : {application, window, value})
+        EXPECT_EQ(accessibility.takeAnnouncement(other), std::nullopt);
+    EXPECT_THAT(takenTitles(), ElementsAre(u"one"_qs)) << "nobody has taken it so far";
 }
 
-TEST_F(BannerProcessTest, TellsTheAgeAtTheMomentOfReading) {
+TEST_F(BannerProcessTest, HandsTheAnnouncementOverAsItWasSent) {
+    daemonTakesTheName();
+    const AnnouncedTexts texts{u"Foo, Inc."_qs, u"Meeting 14:30 - 15:00, Room 5"_qs, u"07:30"_qs};
+    process->announce({{":1.1", 1}, 0U, texts, scheduler.uptime()});
+    scheduler.advance(12.5);
+    EXPECT_THAT(testing::takeAll(accessibility, pid),
+                ElementsAre(Announcement{texts.application, texts.title, texts.body,
+                                         testing::ManualScheduler::startOfTime}));
+}
+
+TEST_F(BannerProcessTest, TellsTheMomentToTheMillisecond) {
+    daemonTakesTheName();
+    scheduler.advance(0.125);
+    announce(u"one"_qs);
+    scheduler.advance(0.5);
+    announce(u"two"_qs);
+    scheduler.advance(100.0625);
+    const auto taken = testing::takeAll(accessibility, pid);
+    ASSERT_THAT(taken, SizeIs(2));
+    EXPECT_EQ(taken[0].moment, testing::ManualScheduler::startOfTime + 0.125);
+    EXPECT_EQ(taken[1].moment, testing::ManualScheduler::startOfTime + 0.625);
+}
+
+TEST_F(BannerProcessTest, TellsTheMomentBeforeASleepOfTheSystem) {
     daemonTakesTheName();
     announce(u"one"_qs);
-    const auto group = testing::shownGroups(accessibility, pid).front();
-    scheduler.advance(12);
-    EXPECT_EQ(testing::readGroup(accessibility, group).texts,
-              QStringList({u"one"_qs, u"12s ago"_qs}));
+    scheduler.sleep(8 * 3600 + 0.25);
+    const auto taken = testing::takeAll(accessibility, pid);
+    ASSERT_THAT(taken, SizeIs(1));
+    EXPECT_EQ(taken[0].moment, testing::ManualScheduler::startOfTime);
 }
 
-TEST_F(BannerProcessTest, ShowsABannerUntilAWholeScanHasReadIt) {
+// The clock was wrong when the banner came.
+TEST_F(BannerProcessTest, TellsTheMomentByTheWallClockOfTheReading) {
     daemonTakesTheName();
     announce(u"one"_qs);
-    EXPECT_THAT(testing::shownGroups(accessibility, pid), SizeIs(1)) << "found, but not read";
-    EXPECT_THAT(scannedSummaries(), ElementsAre(u"one"_qs));
-    EXPECT_THAT(scannedSummaries(), IsEmpty());
+    scheduler.advance(2);
+    scheduler.setWallClock(testing::ManualScheduler::startOfTime + 3600);
+    const auto taken = testing::takeAll(accessibility, pid);
+    ASSERT_THAT(taken, SizeIs(1));
+    EXPECT_EQ(taken[0].moment, testing::ManualScheduler::startOfTime + 3598);
 }
 
-TEST_F(BannerProcessTest, KeepsABannerWhoseTextsWereNotAllRead) {
+TEST_F(BannerProcessTest, ShowsABannerUntilItIsTaken) {
+    daemonTakesTheName();
+    announce(u"one"_qs);
+    EXPECT_THAT(testing::shownGroups(accessibility, pid), SizeIs(1));
+    EXPECT_THAT(testing::shownGroups(accessibility, pid), SizeIs(1)) << "found, but not taken";
+    EXPECT_THAT(takenTitles(), ElementsAre(u"one"_qs));
+    EXPECT_THAT(testing::shownGroups(accessibility, pid), IsEmpty());
+}
+
+TEST_F(BannerProcessTest, LetsABannerBeReadWithoutBeingTaken) {
     daemonTakesTheName();
     announce(u"one"_qs);
     const auto group = testing::shownGroups(accessibility, pid).front();
     testing::text(accessibility, group, ax::description);
-    const auto texts = testing::elements(accessibility, group, ax::children);
-    testing::text(accessibility, texts[0], ax::value);
-    testing::text(accessibility, texts[0], ax::value);
-    EXPECT_THAT(scannedSummaries(), ElementsAre(u"one"_qs));
+    for (const auto& child : testing::elements(accessibility, group, ax::children))
+        testing::text(accessibility, child, ax::value);
+    EXPECT_THAT(takenTitles(), ElementsAre(u"one"_qs));
 }
 
-TEST_F(BannerProcessTest, KeepsABannerWhoseDescriptionWasNotRead) {
+TEST_F(BannerProcessTest, GivesABannerThatTwoScansHaveFoundToOneOfThem) {
     daemonTakesTheName();
     announce(u"one"_qs);
     const auto group = testing::shownGroups(accessibility, pid).front();
-    for (const auto& child : testing::elements(accessibility, group, ax::children))
-        testing::text(accessibility, child, ax::value);
-    EXPECT_THAT(scannedSummaries(), ElementsAre(u"one"_qs));
-}
-
-TEST_F(BannerProcessTest, DoesNotAddUpTheHalvesOfTwoScans) {
-    daemonTakesTheName();
-    announce(u"one"_qs);
-    const auto first = testing::shownGroups(accessibility, pid).front();
-    testing::text(accessibility, first, ax::description);
-    testing::text(accessibility, testing::elements(accessibility, first, ax::children)[0],
-                  ax::value);
-    const auto second = testing::shownGroups(accessibility, pid).front();
-    testing::text(accessibility, testing::elements(accessibility, second, ax::children)[1],
-                  ax::value);
-    EXPECT_THAT(scannedSummaries(), ElementsAre(u"one"_qs));
-}
-
-TEST_F(BannerProcessTest, LetsOverlappingScansBothReadToTheEnd) {
-    daemonTakesTheName();
-    announce(u"one"_qs);
-    const auto slow = testing::shownGroups(accessibility, pid);
-    EXPECT_THAT(scannedSummaries(), ElementsAre(u"one"_qs));
-    EXPECT_EQ(testing::readGroup(accessibility, slow[0]).description, u"Mail, one"_qs);
+    const auto texts = testing::elements(accessibility, group, ax::children);
+    EXPECT_THAT(takenTitles(), ElementsAre(u"one"_qs));
+    EXPECT_EQ(accessibility.takeAnnouncement(group), std::nullopt);
+    for (const AXElementRef& gone : {group, texts[0]}) {
+        EXPECT_EQ(accessibility.pid(gone), std::nullopt);
+        EXPECT_EQ(accessibility.copyAttributeValue(gone, ax::role), std::nullopt);
+    }
 }
 
 TEST_F(BannerProcessTest, HasNoWindowsUnderAnotherPid) {
@@ -125,7 +143,83 @@ TEST_F(BannerProcessTest, AnswersNothingOnceItIsGone) {
 TEST_F(BannerProcessTest, AnswersNothingForElementsOfOthers) {
     EXPECT_EQ(accessibility.copyAttributeValue(std::make_shared<AXElement>(), ax::role),
               std::nullopt);
+    EXPECT_EQ(accessibility.takeAnnouncement(std::make_shared<AXElement>()), std::nullopt);
     EXPECT_EQ(accessibility.pid(nullptr), std::nullopt);
+}
+
+// ---- what is recorded
+
+struct UnheardBannersTest : BannerProcessTest {
+    UnheardBannersTest() {
+        launches.reset();
+        terminations.reset();
+        process = std::make_shared<BannerProcess>(scheduler);
+        ports = std::make_unique<LinuxAccessibility>(process, std::string());
+        daemonTakesTheName();
+    }
+
+    std::unique_ptr<AXObserver> observe() {
+        auto observer = ports->createObserver(pid, [](const auto&, const auto&) {});
+        observer->attachToMainRunLoop();
+        return observer;
+    }
+
+    std::vector<QString> taken() {
+        std::vector<QString> titles;
+        for (const Announcement& announcement : testing::takeAll(*ports, pid))
+            titles.push_back(announcement.title);
+        return titles;
+    }
+
+    std::unique_ptr<LinuxAccessibility> ports;
+};
+
+TEST_F(UnheardBannersTest, AreNotRecordedBeforeTheFirstObserverIsAttached) {
+    announce(u"before"_qs);
+    const auto made = ports->createObserver(pid, [](const auto&, const auto&) {});
+    announce(u"made, but not attached"_qs);
+    made->attachToMainRunLoop();
+    announce(u"after"_qs);
+    EXPECT_THAT(taken(), ElementsAre(u"after"_qs));
+}
+
+// A daemon that the bus starts for the first announcement is observed a second later.
+TEST_F(UnheardBannersTest, AreRecordedForWhoeverWaitsForTheLaunch) {
+    const auto waiting = process->onLaunch([](qint32) {});
+    announce(u"first"_qs);
+    EXPECT_THAT(taken(), ElementsAre(u"first"_qs));
+}
+
+TEST_F(UnheardBannersTest, AreRecordedOnceSomebodyHasObserved) {
+    observe().reset();
+    announce(u"while nobody looks"_qs);
+    EXPECT_THAT(taken(), ElementsAre(u"while nobody looks"_qs));
+}
+
+TEST_F(UnheardBannersTest, AreKeptUpToACount) {
+    observe().reset();
+    const int most = BannerProcess::mostUnobserved;
+    for (int i = 0; i < most + 5; ++i)
+        announceWithoutTurningTheLoop(QString::number(i));
+    const auto titles = taken();
+    ASSERT_THAT(titles, SizeIs(most));
+    EXPECT_EQ(titles.front(), u"5"_qs) << "the latest are kept";
+}
+
+TEST_F(UnheardBannersTest, AreKeptUpToAnAmountOfText) {
+    observe().reset();
+    const QString megabyte(500000, u'x');
+    for (int i = 0; i < 50; ++i)
+        announceWithoutTurningTheLoop(megabyte + QString::number(i));
+    EXPECT_THAT(taken(), SizeIs(33)); // 33 times 1,000,012 bytes and no more are within 32 MiB
+}
+
+TEST_F(UnheardBannersTest, HaveNoBoundsWhileSomebodyObserves) {
+    const auto observer = observe();
+    const int more = BannerProcess::mostUnobserved + 5;
+    for (int i = 0; i < more; ++i)
+        announceWithoutTurningTheLoop(QString::number(i));
+    EXPECT_THAT(taken(), SizeIs(more));
 }
 
 } // namespace

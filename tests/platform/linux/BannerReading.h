@@ -3,25 +3,11 @@
 #include "platform/Accessibility.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <ostream>
 #include <vector>
 
 namespace tessarine::testing {
-
-// A banner as it is drawn.
-struct DrawnBanner {
-    QString description;
-    QStringList texts;
-
-    bool operator==(const DrawnBanner&) const = default;
-};
-
-inline void PrintTo(const DrawnBanner& banner, std::ostream* out) {
-    *out << '"' << banner.description.left(200).toStdString()
-         << "\": " << banner.texts.join(u'|').left(200).toStdString();
-}
 
 inline std::vector<AXElementRef> elements(Accessibility& accessibility, const AXElementRef& of,
                                           const QString& attribute) {
@@ -37,13 +23,6 @@ inline QString text(Accessibility& accessibility, const AXElementRef& of,
     return text ? *text : QString();
 }
 
-inline DrawnBanner readGroup(Accessibility& accessibility, const AXElementRef& group) {
-    DrawnBanner banner{text(accessibility, group, ax::description), {}};
-    for (const AXElementRef& child : elements(accessibility, group, ax::children))
-        banner.texts.append(text(accessibility, child, ax::value));
-    return banner;
-}
-
 // The groups of all windows that the process shows now.
 inline std::vector<AXElementRef> shownGroups(Accessibility& accessibility, qint32 pid) {
     std::vector<AXElementRef> groups;
@@ -55,12 +34,24 @@ inline std::vector<AXElementRef> shownGroups(Accessibility& accessibility, qint3
     return groups;
 }
 
-// One whole scan.
-inline std::vector<DrawnBanner> scan(Accessibility& accessibility, qint32 pid) {
-    std::vector<DrawnBanner> banners;
-    for (const AXElementRef& group : shownGroups(accessibility, pid))
-        banners.push_back(readGroup(accessibility, group));
-    return banners;
+// What the process has to hand over now.
+inline std::vector<Announcement> takeAll(Accessibility& accessibility, qint32 pid) {
+    std::vector<Announcement> taken;
+    for (const AXElementRef& group : shownGroups(accessibility, pid)) {
+        if (std::optional<Announcement> announcement = accessibility.takeAnnouncement(group))
+            taken.push_back(std::move(*announcement));
+    }
+    return taken;
 }
 
 } // namespace tessarine::testing
+
+namespace tessarine {
+
+inline void PrintTo(const Announcement& announcement, std::ostream* out) {
+    const auto start = [](const QString& text) { return text.left(200).toStdString(); };
+    *out << '[' << start(announcement.application) << "] " << start(announcement.title) << " | "
+         << start(announcement.body);
+}
+
+} // namespace tessarine

@@ -19,40 +19,38 @@ using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 struct BannerTreeTest : ::testing::Test {
-    double now = 5000;
-    BannerTree tree{[this] { return now; }};
+    BannerTree tree;
     std::uint32_t lastSerial = 0;
 
     AnnouncementKey nextCall() { return {":1.7", ++lastSerial}; }
 
-    BannerChange announce(const QString& summary, const QString& body = {},
-                          std::uint32_t replacesId = 0) {
-        return tree.announce(nextCall(), {QStringLiteral("Mail"), summary, body}, replacesId);
+    BannerChange announce(const QString& title, const QString& body = {}, const BannerId& id = 0U) {
+        return tree.announce({nextCall(), id, {u"Mail"_qs, title, body}, 0});
     }
 
-    // Announces a banner that the daemon gives this id.
-    void announceAs(std::uint32_t id, const QString& summary) {
+    // Announces a banner that the daemon gives this number.
+    void announceAs(std::uint32_t number, const QString& title) {
         const AnnouncementKey call = nextCall();
-        tree.announce(call, {QStringLiteral("Mail"), summary, {}}, 0);
-        tree.answered(call, id);
+        tree.announce({call, 0U, {u"Mail"_qs, title, {}}, 0});
+        tree.answered(call, number);
     }
 
-    std::vector<QString> unreadSummaries() const {
-        std::vector<QString> summaries;
-        for (const auto& state : tree.unread())
-            summaries.push_back(state->texts.summary);
-        return summaries;
+    std::vector<QString> titles() const {
+        std::vector<QString> titles;
+        for (const auto& state : tree.untaken())
+            titles.push_back(state->texts.title);
+        return titles;
     }
 
-    void readAll() {
-        for (const auto& state : tree.unread())
-            tree.markRead(state->number);
+    void takeAll() {
+        for (const auto& state : tree.untaken())
+            tree.take(*state);
     }
 };
 
 TEST_F(BannerTreeTest, IsEmptyAtFirst) {
     EXPECT_TRUE(tree.isEmpty());
-    EXPECT_THAT(tree.unread(), IsEmpty());
+    EXPECT_THAT(tree.untaken(), IsEmpty());
 }
 
 TEST_F(BannerTreeTest, ShowsBannersInTheOrderOfTheirAnnouncing) {
@@ -60,13 +58,13 @@ TEST_F(BannerTreeTest, ShowsBannersInTheOrderOfTheirAnnouncing) {
     EXPECT_EQ(announce(u"two"_qs), BannerChange::shown);
     EXPECT_EQ(announce(u"three"_qs), BannerChange::shown);
     EXPECT_FALSE(tree.isEmpty());
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"one"_qs, u"two"_qs, u"three"_qs));
+    EXPECT_THAT(titles(), ElementsAre(u"one"_qs, u"two"_qs, u"three"_qs));
 }
 
 TEST_F(BannerTreeTest, ShowsTheSameTextOfTwoBannersTwice) {
     announce(u"again"_qs);
     announce(u"again"_qs);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"again"_qs, u"again"_qs));
+    EXPECT_THAT(titles(), ElementsAre(u"again"_qs, u"again"_qs));
 }
 
 TEST_F(BannerTreeTest, HasNoBannerWithoutAnyText) {
@@ -74,173 +72,243 @@ TEST_F(BannerTreeTest, HasNoBannerWithoutAnyText) {
     EXPECT_TRUE(tree.isEmpty());
 }
 
-TEST_F(BannerTreeTest, KeepsABannerUntilItWasRead) {
+TEST_F(BannerTreeTest, LetsTheBodyOfABannerWithoutATitleLead) {
+    announce({}, u"body"_qs);
+    EXPECT_EQ(tree.untaken().front()->texts, (AnnouncedTexts{u"Mail"_qs, u"body"_qs, {}}));
+}
+
+TEST_F(BannerTreeTest, KeepsTextsAsTheyAre) {
+    const AnnouncedTexts texts{u"Foo, Inc."_qs, u"Meeting 14:30 - 15:00, Room 5"_qs,
+                               u" 5m ago\n"_qs};
+    tree.announce({nextCall(), 0U, texts, 17.25});
+    EXPECT_EQ(tree.untaken().front()->texts, texts);
+    EXPECT_EQ(tree.untaken().front()->announcedAt, 17.25);
+}
+
+TEST_F(BannerTreeTest, KeepsABannerUntilItIsTaken) {
     announce(u"one"_qs);
     announce(u"two"_qs);
-    const auto states = tree.unread();
-    EXPECT_FALSE(tree.markRead(states[0]->number));
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"two"_qs));
-    EXPECT_TRUE(tree.markRead(states[1]->number)) << "the last one";
+    const auto states = tree.untaken();
+    EXPECT_TRUE(tree.take(*states[0]));
+    EXPECT_THAT(titles(), ElementsAre(u"two"_qs));
+    EXPECT_TRUE(tree.take(*states[1]));
     EXPECT_TRUE(tree.isEmpty());
 }
 
-TEST_F(BannerTreeTest, CountsAStateAsReadOnlyOnce) {
+TEST_F(BannerTreeTest, GivesAStateOnce) {
     announce(u"one"_qs);
-    const std::uint64_t number = tree.unread().front()->number;
-    EXPECT_TRUE(tree.markRead(number));
-    EXPECT_FALSE(tree.markRead(number));
+    const auto state = tree.untaken().front();
+    EXPECT_TRUE(tree.take(*state));
+    EXPECT_FALSE(tree.take(*state));
 }
 
 TEST_F(BannerTreeTest, KeepsWhatIsAnnouncedDuringAScan) {
     announce(u"one"_qs);
-    const auto scan = tree.unread();
+    const auto scan = tree.untaken();
     announce(u"two"_qs);
-    EXPECT_FALSE(tree.markRead(scan[0]->number));
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"two"_qs));
+    EXPECT_TRUE(tree.take(*scan[0]));
+    EXPECT_THAT(titles(), ElementsAre(u"two"_qs));
 }
 
 TEST_F(BannerTreeTest, KeepsABannerThatIsClosedAtOnce) {
     announceAs(12, u"gone in a moment"_qs);
-    tree.closed(12);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"gone in a moment"_qs));
+    tree.closed(12U);
+    EXPECT_THAT(titles(), ElementsAre(u"gone in a moment"_qs));
 }
 
 TEST_F(BannerTreeTest, KeepsABannerThatIsClosedBeforeItsIdIsKnown) {
     const AnnouncementKey call = nextCall();
-    tree.announce(call, {{}, u"quick"_qs, {}}, 0);
-    tree.closed(3);
+    tree.announce({call, 0U, {{}, u"quick"_qs, {}}, 0});
+    tree.closed(3U);
     tree.answered(call, 3);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"quick"_qs));
+    EXPECT_THAT(titles(), ElementsAre(u"quick"_qs));
 }
 
 TEST_F(BannerTreeTest, KeepsABannerThatTheDaemonRefused) {
     const AnnouncementKey call = nextCall();
-    tree.announce(call, {{}, u"refused"_qs, {}}, 0);
+    tree.announce({call, 0U, {{}, u"refused"_qs, {}}, 0});
     tree.answered(call, 0);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"refused"_qs));
+    EXPECT_THAT(titles(), ElementsAre(u"refused"_qs));
 }
 
-TEST_F(BannerTreeTest, BringsAReadBannerBackWithItsNewTexts) {
+TEST_F(BannerTreeTest, BringsATakenBannerBackWithItsNewTexts) {
     announceAs(4, u"10 %"_qs);
-    readAll();
-    EXPECT_EQ(announce(u"20 %"_qs, {}, 4), BannerChange::replaced);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"20 %"_qs));
+    takeAll();
+    EXPECT_EQ(announce(u"20 %"_qs, {}, 4U), BannerChange::replaced);
+    EXPECT_THAT(titles(), ElementsAre(u"20 %"_qs));
 }
 
-TEST_F(BannerTreeTest, BringsAReadBannerBackWithTheSameTexts) {
+TEST_F(BannerTreeTest, BringsATakenBannerBackWithTheSameTexts) {
     announceAs(4, u"still here"_qs);
-    readAll();
-    EXPECT_EQ(announce(u"still here"_qs, {}, 4), BannerChange::replaced);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"still here"_qs));
+    takeAll();
+    EXPECT_EQ(announce(u"still here"_qs, {}, 4U), BannerChange::replaced);
+    EXPECT_THAT(titles(), ElementsAre(u"still here"_qs));
 }
 
-TEST_F(BannerTreeTest, ShowsTextsThatWereReplacedBeforeTheyWereReadFirst) {
+TEST_F(BannerTreeTest, ShowsTextsThatWereReplacedBeforeTheyWereTakenFirst) {
     announceAs(4, u"10 %"_qs);
-    announce(u"20 %"_qs, {}, 4);
-    announce(u"30 %"_qs, {}, 4);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"10 %"_qs, u"20 %"_qs, u"30 %"_qs));
+    announce(u"20 %"_qs, {}, 4U);
+    announce(u"30 %"_qs, {}, 4U);
+    EXPECT_THAT(titles(), ElementsAre(u"10 %"_qs, u"20 %"_qs, u"30 %"_qs));
 }
 
-TEST_F(BannerTreeTest, ShowsAnUnreadBannerOnceWhenItIsReplacedByItself) {
+TEST_F(BannerTreeTest, ShowsAnUntakenBannerOnceWhenItIsReplacedByItself) {
     announceAs(4, u"same"_qs);
-    EXPECT_EQ(announce(u"same"_qs, {}, 4), BannerChange::none);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"same"_qs));
+    EXPECT_EQ(announce(u"same"_qs, {}, 4U), BannerChange::none);
+    EXPECT_THAT(titles(), ElementsAre(u"same"_qs));
 }
 
 TEST_F(BannerTreeTest, ShowsTextsAgainThatOthersHaveReplaced) {
     announceAs(4, u"on"_qs);
-    announce(u"off"_qs, {}, 4);
-    announce(u"on"_qs, {}, 4);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"on"_qs, u"off"_qs, u"on"_qs));
+    announce(u"off"_qs, {}, 4U);
+    announce(u"on"_qs, {}, 4U);
+    EXPECT_THAT(titles(), ElementsAre(u"on"_qs, u"off"_qs, u"on"_qs));
 }
 
 TEST_F(BannerTreeTest, TellsBannersOfDifferentIdsApart) {
     announceAs(4, u"same"_qs);
     announceAs(5, u"other"_qs);
-    EXPECT_EQ(announce(u"same"_qs, {}, 5), BannerChange::replaced);
-    EXPECT_THAT(unreadSummaries(), ElementsAre(u"same"_qs, u"other"_qs, u"same"_qs));
+    EXPECT_EQ(announce(u"same"_qs, {}, 5U), BannerChange::replaced);
+    EXPECT_THAT(titles(), ElementsAre(u"same"_qs, u"other"_qs, u"same"_qs));
 }
 
 TEST_F(BannerTreeTest, KnowsABannerByTheIdThatItsSenderAskedFor) {
-    EXPECT_EQ(announce(u"same"_qs, {}, 77), BannerChange::shown);
-    EXPECT_EQ(announce(u"same"_qs, {}, 77), BannerChange::none) << "before any answer";
+    EXPECT_EQ(announce(u"same"_qs, {}, 77U), BannerChange::shown);
+    EXPECT_EQ(announce(u"same"_qs, {}, 77U), BannerChange::none) << "before any answer";
 }
 
 TEST_F(BannerTreeTest, KnowsABannerByTheIdThatTheDaemonGaveInstead) {
     const AnnouncementKey call = nextCall();
-    tree.announce(call, {QStringLiteral("Mail"), u"same"_qs, {}}, 77);
+    tree.announce({call, 77U, {u"Mail"_qs, u"same"_qs, {}}, 0});
     tree.answered(call, 8);
-    EXPECT_EQ(announce(u"same"_qs, {}, 8), BannerChange::none);
+    EXPECT_EQ(announce(u"same"_qs, {}, 8U), BannerChange::none);
 }
 
 TEST_F(BannerTreeTest, TakesAClosedIdForANewBanner) {
     announceAs(4, u"same"_qs);
-    tree.closed(4);
-    EXPECT_EQ(announce(u"same"_qs, {}, 4), BannerChange::shown);
-    EXPECT_THAT(unreadSummaries(), SizeIs(2));
+    tree.closed(4U);
+    EXPECT_EQ(announce(u"same"_qs, {}, 4U), BannerChange::shown);
+    EXPECT_THAT(titles(), SizeIs(2));
 }
 
 TEST_F(BannerTreeTest, TakesIdsOfAnotherDaemonForNewBanners) {
     announceAs(4, u"same"_qs);
-    tree.forgetIds();
-    EXPECT_EQ(announce(u"same"_qs, {}, 4), BannerChange::shown);
-    EXPECT_THAT(unreadSummaries(), SizeIs(2));
+    tree.forgetIds(NotificationService::freedesktop);
+    EXPECT_EQ(announce(u"same"_qs, {}, 4U), BannerChange::shown);
+    EXPECT_THAT(titles(), SizeIs(2));
 }
 
 TEST_F(BannerTreeTest, MatchesAnswersByTheirSenderToo) {
-    tree.announce({":1.7", 20}, {QStringLiteral("Mail"), u"mine"_qs, {}}, 0);
-    tree.announce({":1.8", 20}, {QStringLiteral("Mail"), u"yours"_qs, {}}, 0);
+    tree.announce({{":1.7", 20}, 0U, {u"Mail"_qs, u"mine"_qs, {}}, 0});
+    tree.announce({{":1.8", 20}, 0U, {u"Mail"_qs, u"yours"_qs, {}}, 0});
     tree.answered({":1.8", 20}, 2);
     tree.answered({":1.7", 20}, 1);
-    EXPECT_EQ(announce(u"yours"_qs, {}, 2), BannerChange::none);
-    EXPECT_EQ(announce(u"mine"_qs, {}, 1), BannerChange::none);
+    EXPECT_EQ(announce(u"yours"_qs, {}, 2U), BannerChange::none);
+    EXPECT_EQ(announce(u"mine"_qs, {}, 1U), BannerChange::none);
 }
 
 TEST_F(BannerTreeTest, IgnoresAnswersToOtherCalls) {
     tree.answered({":1.9", 1}, 4);
-    EXPECT_EQ(announce(u"new"_qs, {}, 4), BannerChange::shown);
+    EXPECT_EQ(announce(u"new"_qs, {}, 4U), BannerChange::shown);
 }
 
-TEST_F(BannerTreeTest, KeepsTextsNoLongerThanTheyAreUnread) {
+TEST_F(BannerTreeTest, KeepsTextsNoLongerThanUntilTheyAreTaken) {
     announceAs(4, u"big"_qs);
-    const std::weak_ptr<const BannerState> state = tree.unread().front();
-    readAll();
+    const std::weak_ptr<const BannerState> state = tree.untaken().front();
+    takeAll();
     EXPECT_TRUE(state.expired());
 }
 
-TEST_F(BannerTreeTest, StaysReadableForAScanWhileAnotherOneReadsIt) {
-    announce(u"one"_qs);
-    const auto scan = tree.unread();
-    readAll();
-    EXPECT_EQ(scan[0]->texts.summary, u"one"_qs);
+// ---- banners that their applications name
+
+const BannerName tea{"com.example.Teapot", "tea"};
+
+TEST_F(BannerTreeTest, ReplacesABannerOfTheSameName) {
+    EXPECT_EQ(announce(u"10 %"_qs, {}, tea), BannerChange::shown);
+    EXPECT_EQ(announce(u"20 %"_qs, {}, tea), BannerChange::replaced);
+    EXPECT_THAT(titles(), ElementsAre(u"10 %"_qs, u"20 %"_qs));
 }
 
-TEST_F(BannerTreeTest, TellsTheAgeFromTheMomentOfAnnouncing) {
-    announce(u"summary"_qs, u"body"_qs);
-    now += 12.5;
-    EXPECT_THAT(tree.unread().front()->shownTexts(now),
-                ElementsAre(u"summary"_qs, u"12s ago"_qs, u"body"_qs));
+TEST_F(BannerTreeTest, ShowsANamedBannerOnceWhenItIsReplacedByItself) {
+    announce(u"same"_qs, {}, tea);
+    EXPECT_EQ(announce(u"same"_qs, {}, tea), BannerChange::none);
+    EXPECT_THAT(titles(), SizeIs(1));
 }
 
-TEST_F(BannerTreeTest, LosesNothingWhenManyThreadsAnnounceAndRead) {
+TEST_F(BannerTreeTest, TellsNamedBannersOfTwoApplicationsApart) {
+    announce(u"same"_qs, {}, tea);
+    EXPECT_EQ(announce(u"same"_qs, {}, BannerName{"com.example.Kettle", "tea"}),
+              BannerChange::shown);
+}
+
+TEST_F(BannerTreeTest, TakesTheNameOfARemovedBannerForANewOne) {
+    announce(u"same"_qs, {}, tea);
+    tree.closed(tea);
+    EXPECT_EQ(announce(u"same"_qs, {}, tea), BannerChange::shown);
+    EXPECT_THAT(titles(), SizeIs(2));
+}
+
+TEST_F(BannerTreeTest, KeepsABannerThatIsRemovedAtOnce) {
+    announce(u"gone in a moment"_qs, {}, tea);
+    tree.closed(tea);
+    EXPECT_THAT(titles(), ElementsAre(u"gone in a moment"_qs));
+}
+
+TEST_F(BannerTreeTest, ForgetsTheIdsOfOneServiceOnly) {
+    announce(u"same"_qs, {}, tea);
+    announceAs(4, u"same"_qs);
+    tree.forgetIds(NotificationService::gtk);
+    EXPECT_EQ(announce(u"same"_qs, {}, 4U), BannerChange::none);
+    EXPECT_EQ(announce(u"same"_qs, {}, tea), BannerChange::shown);
+    tree.forgetIds(NotificationService::freedesktop);
+    EXPECT_EQ(announce(u"same"_qs, {}, 4U), BannerChange::shown);
+    EXPECT_EQ(announce(u"same"_qs, {}, tea), BannerChange::none);
+}
+
+// ---- bounds
+
+TEST_F(BannerTreeTest, KeepsTheLatestWithinACount) {
+    for (const QString& title : {u"one"_qs, u"two"_qs, u"three"_qs})
+        announce(title);
+    tree.keepLatest(2, 1000);
+    EXPECT_THAT(titles(), ElementsAre(u"two"_qs, u"three"_qs));
+}
+
+TEST_F(BannerTreeTest, KeepsTheLatestWithinAnAmountOfText) {
+    for (const QString& title : {u"one"_qs, u"two"_qs, u"six"_qs})
+        announce(title); // "Mail" and three letters, two bytes each
+    tree.keepLatest(10, 28);
+    EXPECT_THAT(titles(), ElementsAre(u"two"_qs, u"six"_qs));
+    takeAll();
+    announce(u"ten"_qs);
+    announce(u"two"_qs);
+    tree.keepLatest(10, 28);
+    EXPECT_THAT(titles(), SizeIs(2)) << "what was taken counts no more";
+    tree.keepLatest(10, 13);
+    EXPECT_TRUE(tree.isEmpty());
+}
+
+// ---- threads
+
+TEST_F(BannerTreeTest, LosesNothingAndGivesNothingTwiceWhenManyThreadsAnnounceAndTake) {
     constexpr int threads = 4;
     constexpr int each = 2000;
-    std::atomic<int> read = 0;
+    std::atomic<int> taken = 0;
     std::atomic<bool> done = false;
-    std::thread reader([&] {
+    const auto take = [&] {
         while (!done || !tree.isEmpty()) {
-            for (const auto& state : tree.unread()) {
-                tree.markRead(state->number);
-                ++read;
-            }
+            for (const auto& state : tree.untaken())
+                taken += tree.take(*state);
         }
-    });
+    };
+    std::thread taker(take);
+    std::thread otherTaker(take);
     std::vector<std::thread> announcers;
     for (int t = 0; t < threads; ++t)
         announcers.emplace_back([this, t] {
             for (std::uint32_t serial = 1; serial <= each; ++serial) {
                 const AnnouncementKey call{std::to_string(t), serial};
-                tree.announce(call, {{}, QString::number(serial), {}}, 0);
+                tree.announce({call, 0U, {{}, QString::number(serial), {}}, 0});
                 tree.answered(call, serial);
                 tree.closed(serial);
             }
@@ -248,70 +316,10 @@ TEST_F(BannerTreeTest, LosesNothingWhenManyThreadsAnnounceAndRead) {
     for (std::thread& announcer : announcers)
         announcer.join();
     done = true;
-    reader.join();
-    EXPECT_EQ(read, threads * each);
+    taker.join();
+    otherTaker.join();
+    EXPECT_EQ(taken, threads * each);
 }
-
-struct ShownCase {
-    const char* name;
-    AnnouncedTexts texts;
-    QString description;
-    QStringList shown;
-};
-
-void PrintTo(const ShownCase& shown, std::ostream* out) {
-    *out << shown.name;
-}
-
-class ShownBannerTexts : public ::testing::TestWithParam<ShownCase> {};
-
-TEST_P(ShownBannerTexts, AreDrawnInOrder) {
-    const BannerState state{1, GetParam().texts, 100};
-    EXPECT_EQ(state.description(), GetParam().description);
-    EXPECT_EQ(state.shownTexts(100.5), GetParam().shown);
-}
-
-const ShownCase shownCases[] = {
-    {"All",
-     {u"Mail"_qs, u"Ann"_qs, u"Hi"_qs},
-     u"Mail, Ann, Hi"_qs,
-     {u"Ann"_qs, u"Just now"_qs, u"Hi"_qs}},
-    {"NoBody", {u"Mail"_qs, u"Ann"_qs, {}}, u"Mail, Ann"_qs, {u"Ann"_qs, u"Just now"_qs}},
-    {"NoSummary", {u"Mail"_qs, {}, u"Hi"_qs}, u"Mail, Hi"_qs, {u"Hi"_qs, u"Just now"_qs}},
-    {"NoApplication",
-     {{}, u"Ann"_qs, u"Hi"_qs},
-     u", Ann, Hi"_qs,
-     {u"Ann"_qs, u"Just now"_qs, u"Hi"_qs}},
-    {"CommaInTheName",
-     {u"Bell, Book"_qs, u"Ann"_qs, {}},
-     u"Bell, Book, Ann"_qs,
-     {u"Ann"_qs, u"Just now"_qs}},
-    {"AgeAsText",
-     {u"Mail"_qs, u"9223372036854775807d ago"_qs, u"3m ago"_qs},
-     u"Mail, 9223372036854775807d ago, 3m ago"_qs,
-     {u"9223372036854775807d ago"_qs, u"Just now"_qs, u"3m ago"_qs}},
-    {"LineFeeds",
-     {u"Mail"_qs, u"a\nb"_qs, u"c\n"_qs},
-     u"Mail, a\nb, c\n"_qs,
-     {u"a\nb"_qs, u"Just now"_qs, u"c\n"_qs}},
-};
-INSTANTIATE_TEST_SUITE_P(Cases, ShownBannerTexts, ::testing::ValuesIn(shownCases),
-                         [](const auto& info) { return info.param.name; });
-
-class BannerAge : public ::testing::TestWithParam<std::pair<double, const char16_t*>> {};
-
-TEST_P(BannerAge, IsToldInTheLargestWholeUnit) {
-    EXPECT_EQ(ageText(GetParam().first), QString::fromUtf16(GetParam().second));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Ages, BannerAge,
-    ::testing::Values(std::pair(-1.0, u"Just now"), std::pair(0.0, u"Just now"),
-                      std::pair(0.999, u"Just now"), std::pair(1.0, u"1s ago"),
-                      std::pair(12.9, u"12s ago"), std::pair(59.9, u"59s ago"),
-                      std::pair(60.0, u"1m ago"), std::pair(3599.0, u"59m ago"),
-                      std::pair(3600.0, u"1h ago"), std::pair(86399.0, u"23h ago"),
-                      std::pair(86400.0, u"1d ago"), std::pair(8640000.0, u"100d ago")));
 
 TEST(RecentMap, KeepsTheLatestEntries) {
     RecentMap<int, char> map(2);

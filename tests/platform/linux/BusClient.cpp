@@ -83,6 +83,35 @@ BusMessage notifyCall(const Notification& notification) {
     return call;
 }
 
+BusMessage addNotificationCall(const GtkNotification& notification) {
+    BusMessage call{dbus_message_new_method_call(notification.destination.c_str(),
+                                                 notification.path.c_str(), notification.interface,
+                                                 "AddNotification")};
+    DBusMessageIter at;
+    DBusMessageIter dictionary;
+    dbus_message_iter_init_append(call.get(), &at);
+    appendText(at, notification.application);
+    appendText(at, notification.id);
+    dbus_message_iter_open_container(&at, DBUS_TYPE_ARRAY, "{sv}", &dictionary);
+    appendTextHint(dictionary, "priority", "high");
+    appendTextHint(dictionary, "title", notification.title);
+    if (!notification.body.empty())
+        appendTextHint(dictionary, "body", notification.body);
+    dbus_message_iter_close_container(&at, &dictionary);
+    return call;
+}
+
+BusMessage removeNotificationCall(const GtkNotification& notification) {
+    BusMessage call{dbus_message_new_method_call(notification.destination.c_str(),
+                                                 notification.path.c_str(), notification.interface,
+                                                 "RemoveNotification")};
+    DBusMessageIter at;
+    dbus_message_iter_init_append(call.get(), &at);
+    appendText(at, notification.application);
+    appendText(at, notification.id);
+    return call;
+}
+
 std::uint32_t replacesIdOf(DBusMessage* notifyCall) {
     DBusMessageIter at;
     std::uint32_t id = 0;
@@ -118,7 +147,10 @@ std::optional<std::uint32_t> BusClient::notify(const Notification& notification)
 }
 
 void BusClient::post(const Notification& notification) {
-    const BusMessage call = notifyCall(notification);
+    post(notifyCall(notification));
+}
+
+void BusClient::post(const BusMessage& call) {
     dbus_message_set_no_reply(call.get(), true);
     dbus_connection_send(connection_, call.get(), nullptr);
 }

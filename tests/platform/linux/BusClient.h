@@ -27,11 +27,24 @@ struct Notification {
     bool namesTheInterface = true;
 };
 
+// What a program that uses GLib's notifications sends where a shell offers to show them.
+struct GtkNotification {
+    std::string application = "com.example.Teapot";
+    std::string id = "tea";
+    std::string title = {};
+    std::string body = {};
+    std::string destination = "org.gtk.Notifications";
+    std::string path = "/org/gtk/Notifications";
+    const char* interface = "org.gtk.Notifications";
+};
+
 // One more hint, to be called from Notification::hints.
 void appendTextHint(DBusMessageIter& hints, const std::string& key, const std::string& value);
 void appendImageHint(DBusMessageIter& hints, int bytes);
 
 BusMessage notifyCall(const Notification& notification);
+BusMessage addNotificationCall(const GtkNotification& notification);
+BusMessage removeNotificationCall(const GtkNotification& notification); // by its id
 std::uint32_t replacesIdOf(DBusMessage* notifyCall);
 
 // An application's own connection to a bus. Throws when there is none.
@@ -48,6 +61,7 @@ public:
     // Doesn't wait. flush() returns when the bus has read all of these: it drops what a connection
     // leaves unread when it closes.
     void post(const Notification& notification);
+    void post(const BusMessage& call);
     void flush();
 
     // PrepareForSleep, as logind sends it: to all who have asked for it, or to one connection

@@ -29,7 +29,7 @@ struct BusMonitorFixture : ::testing::Test {
     std::unique_ptr<LinuxWorkspace> workspace;
     std::vector<std::unique_ptr<WorkspaceObservation>> observations;
     std::vector<QString> told; // "launch PID", "termination PID"
-    std::vector<DrawnBanner> captured;
+    std::vector<Announcement> captured;
 
     // The first question waits for the bus as long as a busy machine may need.
     void watch(const std::string& address,
@@ -54,11 +54,11 @@ struct BusMonitorFixture : ::testing::Test {
         return pids;
     }
 
-    // What is unread now joins the captured ones.
+    // What is there now joins the captured ones.
     void read() {
         for (const qint32 pid : runningPids()) {
-            for (DrawnBanner& banner : scan(*accessibility, pid))
-                captured.push_back(std::move(banner));
+            for (Announcement& announcement : takeAll(*accessibility, pid))
+                captured.push_back(std::move(announcement));
         }
     }
 
@@ -76,23 +76,34 @@ struct BusMonitorFixture : ::testing::Test {
         return readsUntil([&] { return captured.size() >= count; });
     }
 
-    // A call that comes after all others has been captured. It is taken out again.
+    // A call that comes after all others is there; nothing was taken meanwhile. All are captured
+    // then but that one.
     bool capturesMarkerFrom(BusClient& client) {
         client.notify({.application = "marker", .summary = "the last one"});
-        const bool isThere = readsUntil([&] {
-            return !captured.empty() &&
-                   captured.back().description == QStringLiteral("marker, the last one");
-        });
+        const bool isThere = testing::turnsUntil([this] { return isMarkerShown(); }, patience);
+        read();
         if (isThere)
             captured.pop_back();
         return isThere;
     }
 
-    std::vector<QString> descriptions() const {
-        std::vector<QString> descriptions;
-        for (const DrawnBanner& banner : captured)
-            descriptions.push_back(banner.description);
-        return descriptions;
+    bool isMarkerShown() {
+        for (const qint32 pid : runningPids()) {
+            const auto groups = shownGroups(*accessibility, pid);
+            if (!groups.empty() && text(*accessibility, groups.back(), ax::description) ==
+                                       QStringLiteral("the last one"))
+                return true;
+        }
+        return false;
+    }
+
+    // "Application: title" of each.
+    std::vector<QString> headlines() const {
+        std::vector<QString> headlines;
+        for (const Announcement& announcement : captured)
+            headlines.push_back(announcement.application + QStringLiteral(": ") +
+                                announcement.title);
+        return headlines;
     }
 };
 

@@ -97,7 +97,7 @@ TEST_F(BusMonitorLifeTest, CapturesWhatWasAnnouncedBeforeADaemonCrashed) {
     daemon.crash();
     ASSERT_TRUE(captures(1));
     ASSERT_TRUE(readsUntil([&] { return runningPids().empty(); }));
-    EXPECT_THAT(descriptions(), ElementsAre(u"Mail, last words"_qs));
+    EXPECT_THAT(headlines(), ElementsAre(u"Mail: last words"_qs));
 }
 
 TEST_F(BusMonitorLifeTest, CapturesABurstOverTheRestartOfADaemon) {
@@ -116,8 +116,7 @@ TEST_F(BusMonitorLifeTest, CapturesABurstOverTheRestartOfADaemon) {
     ASSERT_TRUE(isRunning(second.pid()));
     burst(200, 400);
     ASSERT_TRUE(capturesMarkerFrom(client));
-    EXPECT_THAT(descriptions(),
-                ::testing::ElementsAreArray(testing::numbered(u"Mail, %1"_qs, 400)));
+    EXPECT_THAT(headlines(), ::testing::ElementsAreArray(testing::numbered(u"Mail: %1"_qs, 400)));
 }
 
 TEST_F(BusMonitorLifeTest, DoesNotCountWhatNobodyWasThereFor) {
@@ -142,7 +141,7 @@ TEST_F(BusMonitorLifeTest, CountsWhatADaemonIsStartedFor) {
     client.post({.summary = "wake up"});
     client.notify({.summary = "good morning"});
     ASSERT_TRUE(captures(2));
-    EXPECT_THAT(descriptions(), ElementsAre(u"Mail, wake up"_qs, u"Mail, good morning"_qs));
+    EXPECT_THAT(headlines(), ElementsAre(u"Mail: wake up"_qs, u"Mail: good morning"_qs));
     EXPECT_THAT(told, SizeIs(1));
 }
 
@@ -177,7 +176,7 @@ TEST_F(BusMonitorLifeTest, GoesWithTheBusAndComesBackWithIt) {
     BusClient client(bus.address());
     client.notify({.summary = "back again"});
     ASSERT_TRUE(captures(1));
-    EXPECT_THAT(descriptions(), ElementsAre(u"Mail, back again"_qs));
+    EXPECT_THAT(headlines(), ElementsAre(u"Mail: back again"_qs));
 }
 
 TEST_F(BusMonitorLifeTest, CapturesWhatWasAnnouncedBeforeTheBusCrashed) {
@@ -190,7 +189,7 @@ TEST_F(BusMonitorLifeTest, CapturesWhatWasAnnouncedBeforeTheBusCrashed) {
     ASSERT_TRUE(testing::turnsUntil([&] { return daemon.received() == 1; }, patience));
     bus.crash();
     ASSERT_TRUE(captures(1));
-    EXPECT_THAT(descriptions(), ElementsAre(u"Mail, last words"_qs));
+    EXPECT_THAT(headlines(), ElementsAre(u"Mail: last words"_qs));
 }
 
 TEST_F(BusMonitorLifeTest, FindsABusThatComesLater) {
@@ -269,7 +268,7 @@ TEST_F(BusMonitorLifeTest, GoesOnWhenTheBusRefusesAMessageThatIsNotUtf8) {
     testing::RawBusClient raw(bus.address());
     raw.sendNotify("proper");
     ASSERT_TRUE(captures(1)) << "hand-made messages are understood";
-    EXPECT_THAT(descriptions(), ElementsAre(u"Mail, proper"_qs));
+    EXPECT_THAT(headlines(), ElementsAre(u"Mail: proper"_qs));
     raw.sendNotify("\xff\xfe\xfdkaputt");
     EXPECT_TRUE(raw.isThrownOut());
     captured.clear();
