@@ -16,6 +16,8 @@ from session import PATIENCE, Session, SessionTestCase, wait_until
 
 SERVICE = "org.freedesktop.Notifications"
 PATH = "/org/freedesktop/Notifications"
+GTK_SERVICE = "org.gtk.Notifications"
+GTK_PATH = "/org/gtk/Notifications"
 
 # Daemons that Debian ships, by the program that they start as.
 DAEMONS = {
@@ -110,6 +112,25 @@ class NotificationDaemon:
         self.session.kill(self.process, signal.SIGKILL)
 
 
+class Shell:
+    """The program that shows what GLib's applications announce, as a GNOME desktop has it: it draws
+    for both services, and another process passes on to it what goes to the older one."""
+
+    def __init__(self, session, bus):
+        fake = os.path.join(os.path.dirname(__file__), "fake_shell.py")
+        self.processes = []
+        for part in ("shell", "proxy"):
+            process = session.spawn(sys.executable, fake, part, stdout=subprocess.PIPE)
+            process.stdout.readline()
+            self.processes.append(process)
+
+    def unique_name(self, bus):
+        connection = bus.connect()
+        name = connection.get_name_owner(GTK_SERVICE)
+        connection.close()
+        return name
+
+
 def daemon_is_installed(name):
     return shutil.which(DAEMONS[name][0]) is not None
 
@@ -142,6 +163,23 @@ class Application:
         for summary, body in texts:
             self.connection.send_message(self.message(summary, body))
         self.connection.flush()
+
+    def gtk_message(self, identifier, title, body="", *, application="com.example.Teapot",
+                    destination=GTK_SERVICE, path=GTK_PATH, interface=GTK_SERVICE):
+        """What GLib's applications announce with where a shell offers it."""
+        message = dbus.lowlevel.MethodCallMessage(destination, path, interface, "AddNotification")
+        texts = {"title": title, "body": body} if body else {"title": title}
+        message.append(application, identifier, dbus.Dictionary(texts, "sv"), signature="ssa{sv}")
+        return message
+
+    def add(self, identifier, title, body="", **options):
+        """Waits for the shell's answer; False on an error."""
+        message = self.gtk_message(identifier, title, body, **options)
+        try:
+            self.connection.send_message_with_reply_and_block(message, PATIENCE)
+            return True
+        except dbus.DBusException:
+            return False
 
     def withdraw(self, identifier):
         message = dbus.lowlevel.MethodCallMessage(SERVICE, PATH, SERVICE, "CloseNotification")
@@ -249,4 +287,4 @@ class DesktopTestCase(SessionTestCase):
 
 
 __all__ = ["Application", "Bus", "DesktopTestCase", "NotificationDaemon", "RawConnection", "Session",
-           "daemon_is_installed", "wait_until"]
+           "Shell", "daemon_is_installed", "wait_until"]

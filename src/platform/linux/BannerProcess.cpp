@@ -12,6 +12,11 @@ namespace {
 // A reminder comes a little later than the throttle asks for, so that it gets through for certain.
 constexpr double reminderInterval = axThrottle + 0.05;
 
+// Between the last announcement of a burst and the time when its memory is free.
+constexpr double calm = 3.0; // seconds
+
+constexpr std::size_t leastBytes = 1024; // of memory that an announcement takes on its way
+
 const QString applicationRole = QStringLiteral("AXApplication");
 
 } // namespace
@@ -147,10 +152,23 @@ std::optional<std::vector<AXElementRef>> BannerProcess::windows(qint32 pid) {
 bool BannerProcess::take(BannerState& state) {
     if (!tree_.take(state))
         return false;
-    const std::lock_guard lock(mutex_);
-    if (isEnding_ && tree_.isEmpty())
-        onMain([](BannerProcess& self) { self.endWhenEmpty(); });
+    noteTaken(bytesOf(state.texts));
     return true;
+}
+
+void BannerProcess::noteTaken(std::size_t bytes) {
+    const std::lock_guard lock(mutex_);
+    burst_ += std::max(bytes, leastBytes);
+    if (!tree_.isEmpty())
+        return;
+    if (isEnding_)
+        onMain([](BannerProcess& self) { self.endWhenEmpty(); });
+    if (afterBurst_ && burst_ >= burstBytes) {
+        burst_ = 0;
+        scheduler_.onMainAfter(calm, [&scheduler = scheduler_, task = afterBurst_] {
+            scheduler.onGlobalQueue(QualityOfService::background, task);
+        });
+    }
 }
 
 std::shared_ptr<void> BannerProcess::onEvent(EventHandlers::Handler handler) {

@@ -44,6 +44,9 @@ public:
     using EventHandlers = HandlerList<const AXElementRef&, const QString&>;
     using LifecycleHandlers = HandlerList<qint32>;
 
+    // What makes a burst: so much text, where each announcement counts for a kilobyte at least.
+    static constexpr std::size_t burstBytes = 4 << 20;
+
     // How long the first question may wait for the bus.
     static constexpr std::chrono::milliseconds firstAnswer{1000};
 
@@ -52,6 +55,10 @@ public:
     static constexpr std::size_t mostUnobservedBytes = 32 << 20; // of texts
 
     explicit BannerProcess(Scheduler& scheduler, std::chrono::milliseconds patience = firstAnswer);
+
+    // Called on a worker when a burst of announcements was taken and what it led to on the main
+    // thread so far is done. Before anything is told.
+    void whenABurstIsOver(Task task) { afterBurst_ = std::move(task); }
 
     // What the bus thread tells, in the order in which it happened.
     void setService(const BannerService& service);
@@ -92,6 +99,7 @@ private:
     void endWhenEmpty();
     void sendEvent();
     bool isLeftToTheReminder() const;
+    void noteTaken(std::size_t bytes);
     void remindWhileUntaken();
 
     template <typename Function>
@@ -111,7 +119,9 @@ private:
     BannerChange unsentChange_ = BannerChange::none;
     bool isEventOnItsWay_ = false; // to the main thread
     bool isReminderSet_ = false;
+    std::size_t burst_ = 0; // bytes taken since the last burst was over
 
+    Task afterBurst_;
     std::atomic<bool> isRecording_ = false;
     const std::shared_ptr<std::atomic<int>> observers_ = std::make_shared<std::atomic<int>>(0);
 

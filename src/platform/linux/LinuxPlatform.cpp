@@ -1,5 +1,6 @@
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
+#include "platform/linux/HeapMemory.h"
 #include "platform/linux/InotifyWatcher.h"
 #include "platform/linux/LinuxAccessibility.h"
 #include "platform/linux/LinuxFileSystem.h"
@@ -27,7 +28,9 @@ std::unique_ptr<Platform> makePlatform() {
     platform->fileSystem = makeFileSystem();
     platform->scheduler = std::make_unique<QtScheduler>();
     platform->fileWatcher = std::make_unique<InotifyWatcher>(*platform->scheduler);
+    returnBigBuffersWhenFreed();
     const auto banners = std::make_shared<BannerProcess>(*platform->scheduler);
+    banners->whenABurstIsOver(returnFreeMemory);
     platform->workspace = std::make_unique<LinuxWorkspace>(
         *platform->scheduler, banners,
         LinuxWorkspace::Buses{sessionBusAddress(), systemBusAddress()});

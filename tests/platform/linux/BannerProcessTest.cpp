@@ -147,6 +147,63 @@ TEST_F(BannerProcessTest, AnswersNothingForElementsOfOthers) {
     EXPECT_EQ(accessibility.pid(nullptr), std::nullopt);
 }
 
+// ---- bursts
+
+struct BannerBurstTest : BannerProcessTest {
+    int bursts = 0;
+
+    BannerBurstTest() {
+        process->whenABurstIsOver([this] { ++bursts; });
+        daemonTakesTheName();
+    }
+
+    void announceMany(int count, const QString& text = u"small"_qs) {
+        for (int i = 0; i < count; ++i)
+            announceWithoutTurningTheLoop(text + QString::number(i));
+    }
+};
+
+TEST_F(BannerBurstTest, AreToldOnceWhenTheyAreOver) {
+    announceMany(5000);
+    scheduler.advance(60);
+    EXPECT_EQ(bursts, 0) << "nobody has taken them";
+    takenTitles();
+    EXPECT_EQ(bursts, 0) << "what they lead to goes on";
+    scheduler.advance(5);
+    EXPECT_EQ(bursts, 1);
+    scheduler.advance(60);
+    EXPECT_EQ(bursts, 1);
+}
+
+TEST_F(BannerBurstTest, ComeAfterAllThatTheyLedToOnTheMainThread) {
+    announceMany(5000);
+    int tasks = 0;
+    for (const AXElementRef& group : testing::shownGroups(accessibility, pid)) {
+        accessibility.takeAnnouncement(group);
+        scheduler.onMain([&] {
+            ++tasks;
+            EXPECT_EQ(bursts, 0);
+        });
+    }
+    scheduler.advance(5);
+    EXPECT_EQ(tasks, 5000);
+    EXPECT_EQ(bursts, 1);
+}
+
+TEST_F(BannerBurstTest, AreMadeOfAFewBigOnesToo) {
+    announceMany(3, QString(1000000, u'x')); // 6 MB
+    takenTitles();
+    scheduler.advance(5);
+    EXPECT_EQ(bursts, 1);
+}
+
+TEST_F(BannerBurstTest, AreNotWhatADayBrings) {
+    announceMany(1000);
+    takenTitles();
+    scheduler.advance(60);
+    EXPECT_EQ(bursts, 0);
+}
+
 // ---- what is recorded
 
 struct UnheardBannersTest : BannerProcessTest {
