@@ -31,10 +31,6 @@ QString fromUtf8(std::string_view utf8) {
     return utf8.starts_with("\xEF\xBB\xBF") ? QChar(QChar::ByteOrderMark) + text : text;
 }
 
-bool isInsideCodePoint(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
-
 std::string_view wholeCodePoints(std::string_view utf8, std::size_t size) {
     if (utf8.size() <= size)
         return utf8;

@@ -26,7 +26,8 @@ public:
     TextSource& operator=(const TextSource&) = delete;
     virtual ~TextSource() = default;
 
-    // The text up to so many bytes at least, or all of it. Valid until the next call.
+    // The text up to so many bytes at least, or all of it; not a part of a code point. Valid until
+    // the next call.
     virtual std::string_view upTo(std::size_t bytes) = 0;
 
     // Whether what was yielded last is all of it.
@@ -34,5 +35,10 @@ public:
 };
 
 QString boundedText(TextSource& source, qsizetype characters);
+
+// Whether a code point began before this byte.
+constexpr bool isInsideCodePoint(char utf8) {
+    return (static_cast<unsigned char>(utf8) & 0xC0) == 0x80;
+}
 
 } // namespace tessarine

@@ -75,10 +75,11 @@ private:
             at_ = entityEnd(at_);
         if (at_ > start)
             return;
-        const std::string_view ahead = body_.substr(at_, bytes);
-        const std::size_t plain = std::min(ahead.find_first_of("<&", 1), ahead.size());
-        text_ += ahead.substr(0, plain);
-        at_ += plain;
+        const std::size_t next = body_.substr(at_, bytes).find_first_of("<&", 1);
+        const std::size_t end = std::min(next, bytes) + at_;
+        const std::size_t whole = skip(std::min(end, body_.size()), isInsideCodePoint);
+        text_ += body_.substr(at_, whole - at_);
+        at_ = whole;
     }
 
     char character(std::size_t at) const { return at < body_.size() ? body_[at] : '\0'; }

@@ -161,6 +161,12 @@ TEST(NotificationMarkupOfBigBodies, KeepsAsManyCharactersAsAskedFor) {
     EXPECT_EQ(withoutMarkup("<b>Grüße</b> 1 < 2", 7), QStringLiteral("Grüße 1…"));
 }
 
+// The family takes more bytes than are decoded at first for three characters.
+TEST(NotificationMarkupOfBigBodies, TakesNoPartOfACharacterForOne) {
+    EXPECT_EQ(withoutMarkup("ab👨\u200D👩", 3), QStringLiteral("ab👨\u200D👩"));
+    EXPECT_EQ(withoutMarkup("a👨\u200D👩&amp;", 2), QStringLiteral("a👨\u200D👩…"));
+}
+
 // Fifty megabytes of entities would take seconds to decode under the sanitizers.
 TEST(NotificationMarkupOfBigBodies, DecodesNoMoreThanIsKept) {
     std::string body;
