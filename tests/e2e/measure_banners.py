@@ -60,8 +60,11 @@ def measure_latency(count):
 MONITOR_RULES = (
     "type='signal',sender='org.freedesktop.DBus',interface='org.freedesktop.DBus',"
     "member='NameOwnerChanged',arg0='org.freedesktop.Notifications'",
+    "type='signal',sender='org.freedesktop.DBus',interface='org.freedesktop.DBus',"
+    "member='NameOwnerChanged',arg0='org.gtk.Notifications'",
     "type='method_call',path='/org/freedesktop/Notifications',member='Notify'",
     "type='method_call',interface='org.freedesktop.Notifications',member='Notify'",
+    "type='method_call',path='/org/gtk/Notifications'",
     "type='method_return',sender='org.freedesktop.Notifications'",
     "type='error',sender='org.freedesktop.Notifications'",
     "type='error',sender='org.freedesktop.DBus'",
