@@ -199,6 +199,27 @@ void BusClient::claimOwnerChange(const std::string& name, const std::string& own
     flush();
 }
 
+void BusClient::claimAnswer(const std::string& caller, std::uint32_t serial, std::uint32_t number) {
+    const BusMessage answer{dbus_message_new(DBUS_MESSAGE_TYPE_METHOD_RETURN)};
+    dbus_message_set_destination(answer.get(), caller.c_str());
+    dbus_message_set_reply_serial(answer.get(), serial);
+    dbus_message_append_args(answer.get(), DBUS_TYPE_UINT32, &number, DBUS_TYPE_INVALID);
+    dbus_connection_send(connection_, answer.get(), nullptr);
+    flush();
+}
+
+void BusClient::claimClosed(std::uint32_t number, const std::string& destination) {
+    const dbus_uint32_t reason = 2; // dismissed by the user
+    const BusMessage closed{dbus_message_new_signal("/org/freedesktop/Notifications", notifications,
+                                                    "NotificationClosed")};
+    dbus_message_append_args(closed.get(), DBUS_TYPE_UINT32, &number, DBUS_TYPE_UINT32, &reason,
+                             DBUS_TYPE_INVALID);
+    if (!destination.empty())
+        dbus_message_set_destination(closed.get(), destination.c_str());
+    dbus_connection_send(connection_, closed.get(), nullptr);
+    flush();
+}
+
 void BusClient::own(const std::string& name) {
     if (dbus_bus_request_name(connection_, name.c_str(), DBUS_NAME_FLAG_DO_NOT_QUEUE, nullptr) !=
         DBUS_REQUEST_NAME_REPLY_PRIMARY_OWNER)

@@ -75,6 +75,11 @@ public:
     void claimOwnerChange(const std::string& name, const std::string& owner,
                           const std::string& destination);
 
+    // What looks like a daemon's answer to another connection's call, and its word that a banner is
+    // gone.
+    void claimAnswer(const std::string& caller, std::uint32_t serial, std::uint32_t number);
+    void claimClosed(std::uint32_t number, const std::string& destination = {});
+
     void own(const std::string& name); // a well-known name, which nobody has
     void disown(const std::string& name);
 
