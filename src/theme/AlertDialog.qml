@@ -17,6 +17,10 @@ Sheet {
     readonly property int cancelIndex: firstOf(AlertAction.Cancel)
     readonly property int firstFocus: defaultIndex >= 0 ? defaultIndex : cancelIndex
 
+    // What was asked stays while the question fades, and is answered once.
+    property bool fading: false
+    property string shownText
+
     signal answered(int index)
 
     function firstOf(role: int): int {
@@ -24,27 +28,41 @@ Sheet {
     }
 
     function answer(index: int) {
+        if (fading)
+            return;
         dialog.close();
         dialog.answered(index);
         dialog.actions[index].triggered();
     }
 
-    accessibleName: text
+    accessibleName: shownText
     minimumWidth: 260
+    idealWidth: Math.ceil(Math.max(question.implicitWidth, note.implicitWidth, answers.widthInLine)) + 2 * padding
     maximumWidth: 380
     padding: Metrics.sheetPadding
     closesOnEscape: false
     defaultButton: buttons.itemAt(defaultIndex) as TextButton
+    onEscaped: if (cancelIndex >= 0) answer(cancelIndex)
     onOpened: buttons.itemAt(Math.max(0, firstFocus))?.forceActiveFocus(defaultIndex < 0 ? Qt.TabFocusReason : Qt.OtherFocusReason)
+
+    onAboutToShow: fading = false
+    onAboutToHide: fading = true
+
+    Binding on shownText {
+        value: dialog.text
+        when: !dialog.fading
+        restoreMode: Binding.RestoreNone
+    }
 
     Column {
         width: parent.width
         spacing: Metrics.spacingMedium
-        Keys.onEscapePressed: if (dialog.cancelIndex >= 0) dialog.answer(dialog.cancelIndex)
 
         PlainLabel {
+            id: question
+
             width: parent.width
-            text: dialog.text
+            text: dialog.shownText
             font.pixelSize: Metrics.textHeadline
             font.weight: Font.DemiBold
             wrapMode: Text.Wrap
@@ -53,6 +71,8 @@ Sheet {
         }
 
         PlainLabel {
+            id: note
+
             width: parent.width
             text: dialog.message
             visible: text
@@ -69,6 +89,11 @@ Sheet {
         }
 
         Flow {
+            id: answers
+
+            readonly property real widthInLine: Array.from({ length: buttons.count }, (nothing, index) => buttons.itemAt(index))
+                .reduce((width, button) => width + (button?.implicitWidth ?? 0) + spacing, -spacing)
+
             width: parent.width
             spacing: Metrics.spacingMedium
             layoutDirection: dialog.mirrored ? Qt.LeftToRight : Qt.RightToLeft

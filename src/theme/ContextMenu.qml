@@ -31,7 +31,10 @@ T.Menu {
         popup(corner.x, corner.y);
     }
 
-    onAboutToShow: focusKeeper.remember(parent)
+    onAboutToShow: {
+        currentIndex = -1; // nobody has aimed at an entry yet
+        focusKeeper.remember(parent);
+    }
     onAboutToHide: focusKeeper.restore(contentItem)
 
     delegate: ContextMenuItem {}

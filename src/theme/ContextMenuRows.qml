@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Tessarine.Theme
 
 // The rows of a ContextMenu.
-ListView {
+ScrollList {
     required property T.Menu menu
 
     readonly property real widestRow: Array.from({ length: menu.count }, (nothing, index) => menu.itemAt(index))
@@ -13,10 +13,6 @@ ListView {
     implicitHeight: contentHeight
     model: menu.contentModel
     currentIndex: menu.currentIndex
-    clip: true
-    boundsBehavior: Flickable.StopAtBounds
-    highlightMoveDuration: 0
-    keyNavigationEnabled: false
 
     T.ScrollBar.vertical: ThinScrollBar {}
 }

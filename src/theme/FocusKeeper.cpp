@@ -2,7 +2,20 @@
 
 #include <QQuickWindow>
 
+#include <utility>
+
 namespace tessarine {
+
+namespace {
+
+// The scope in which a panel's items have the keyboard.
+const QQuickItem* scopeOf(const QQuickItem* panel) {
+    while (panel && !panel->isFocusScope())
+        panel = panel->parentItem();
+    return panel;
+}
+
+} // namespace
 
 void FocusKeeper::remember(QQuickItem* itemInWindow) {
     const QQuickWindow* window = itemInWindow ? itemInWindow->window() : nullptr;
@@ -13,14 +26,26 @@ void FocusKeeper::remember(QQuickItem* itemInWindow) {
 }
 
 void FocusKeeper::restore(const QQuickItem* panel) {
-    if (!item_ || !item_->window())
+    const QPointer<QQuickItem> item = std::exchange(item_, nullptr);
+    QQuickItem* const target = item && item->isVisible() ? item.get() : otherwise_.get();
+    if (!target || !target->window())
         return;
-    const QQuickItem* now = item_->window()->activeFocusItem();
-    const bool elsewhere = now && now != item_->window()->contentItem() && now != panel &&
+    const QQuickItem* now = target->window()->activeFocusItem();
+    const bool elsewhere = now && now != target->window()->contentItem() && now != panel &&
                            !(panel && panel->isAncestorOf(now));
     if (!elsewhere)
-        item_->forceActiveFocus(reason_);
-    item_ = nullptr;
+        target->forceActiveFocus(reason_);
+}
+
+void FocusKeeper::beginIn(const QQuickItem* panel) {
+    const QQuickItem* const scope = scopeOf(panel);
+    QQuickItem* const last = scope ? scope->scopedFocusItem() : nullptr;
+    if (!std::exchange(hasBegun_, true))
+        first_ = last;
+    else if (first_)
+        first_->setFocus(true);
+    else if (last)
+        last->setFocus(false);
 }
 
 } // namespace tessarine

@@ -25,7 +25,8 @@ T.AbstractButton {
 
     function choose(index: int) {
         menu.close();
-        picker.activated(index);
+        if (index >= 0)
+            picker.activated(index);
     }
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding

@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import Tessarine.Theme
 
 // The rows in the menu of a MenuPicker. Each time it opens, the chosen row is the current one.
-ListView {
+ScrollList {
     id: list
 
     required property var texts
@@ -15,12 +15,8 @@ ListView {
     signal chosen(int index)
 
     implicitHeight: contentHeight
-    clip: true
     model: texts
     currentIndex: -1
-    boundsBehavior: Flickable.StopAtBounds
-    highlightMoveDuration: 0
-    keyNavigationEnabled: false
     Accessible.role: Accessible.PopupMenu
     onOpenChanged: if (open) currentIndex = chosenIndex
 

@@ -2,7 +2,9 @@ import QtQuick
 import QtQuick.Templates as T
 import Tessarine.Theme
 
-// The menu of a MenuPicker: its texts, one under the other, with a check mark at the chosen one.
+// The menu of a MenuPicker: its texts, one under the other, with a check mark at the chosen one. It
+// stays as it opened, whatever becomes of the texts meanwhile; `chosen` tells where the text that was
+// chosen stands among them now, or -1 when it has gone.
 T.Popup {
     id: menu
 
@@ -32,11 +34,19 @@ T.Popup {
 
     contentItem: MenuPickerList {
         focus: true
+        texts: held.shown
+        chosenIndex: held.shownIndex
+        open: menu.visible
+        Accessible.name: menu.accessibleName
+        onChosen: index => menu.chosen(held.ownersIndex(index))
+    }
+
+    MenuTexts {
+        id: held
+
         texts: menu.texts
         chosenIndex: menu.chosenIndex
         open: menu.visible
-        Accessible.name: menu.accessibleName
-        onChosen: index => menu.chosen(index)
     }
 
     FocusKeeper {
@@ -46,7 +56,7 @@ T.Popup {
     TextWidths {
         id: measure
 
-        texts: menu.texts
+        texts: held.shown
         font.pixelSize: Metrics.textBody
     }
 }

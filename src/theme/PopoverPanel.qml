@@ -19,7 +19,10 @@ T.Popup {
     dim: false
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
-    onAboutToShow: focusKeeper.remember(parent)
+    onAboutToShow: {
+        focusKeeper.remember(parent);
+        focusKeeper.beginIn(contentItem);
+    }
     onAboutToHide: focusKeeper.restore(contentItem)
 
     background: PanelFace {}

@@ -4,7 +4,8 @@ import Tessarine.Theme
 
 // A panel over its dimmed window, which waits until it closes. It is as large as its ideal size, or
 // else as its content, within its bounds and within the window. Return presses the default button,
-// wherever in the sheet the keyboard is and unless something there wants the key itself.
+// wherever in the sheet the keyboard is and unless something there wants the key itself. Escape closes
+// it; one that decides for itself (`closesOnEscape` is false) is told by `escaped`.
 T.Dialog {
     id: sheet
 
@@ -18,6 +19,8 @@ T.Dialog {
     property bool closesOnEscape: true
     property TextButton defaultButton: null
 
+    signal escaped
+
     readonly property real room: 2 * Metrics.sheetMargin
     readonly property real naturalWidth: idealWidth || implicitContentWidth + leftPadding + rightPadding
     readonly property real naturalHeight: idealHeight || implicitContentHeight + topPadding + bottomPadding
@@ -30,7 +33,10 @@ T.Dialog {
     dim: true
     focus: true
     closePolicy: closesOnEscape ? T.Popup.CloseOnEscape : T.Popup.NoAutoClose
-    onAboutToShow: focusKeeper.remember(parent)
+    onAboutToShow: {
+        focusKeeper.remember(parent);
+        focusKeeper.beginIn(contentItem);
+    }
     onAboutToHide: focusKeeper.restore(contentItem)
 
     background: PanelFace {
@@ -45,6 +51,11 @@ T.Dialog {
         implicitHeight: children[0]?.implicitHeight ?? 0
         Keys.onReturnPressed: sheet.defaultButton?.press()
         Keys.onEnterPressed: sheet.defaultButton?.press()
+        Keys.onEscapePressed: event => {
+            event.accepted = !sheet.closesOnEscape;
+            if (event.accepted)
+                sheet.escaped();
+        }
     }
 
     T.Overlay.modal: Rectangle {

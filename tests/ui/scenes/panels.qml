@@ -6,11 +6,17 @@ Rectangle {
     id: scene
 
     property var log: []
+    property string question: "Delete 12 notifications?"
     property bool mirrored: false
+    property var someTexts: ["Newest first", "Oldest first", "By app, from the first letter to the last"]
     property var manyTexts: Array.from({ length: 60 }, (nothing, i) => "Application " + (i + 1))
 
     function note(line: string) {
         log = [...log, line];
+    }
+
+    function openMenu(x: real, y: real) {
+        menu.popup(x, y);
     }
 
     width: 640
@@ -58,7 +64,7 @@ Rectangle {
             objectName: "short"
             width: 130
             accessibleName: "Sort"
-            model: ["Newest first", "Oldest first", "By app, from the first letter to the last"]
+            model: scene.someTexts
             currentIndex: 1
             onActivated: index => scene.note("sort " + index)
         }
@@ -82,9 +88,10 @@ Rectangle {
 
         PlainLabel { x: 12; y: 12; text: "A list that has the keyboard" }
 
-        TapHandler {
+        MouseArea {
+            anchors.fill: parent
             acceptedButtons: Qt.RightButton
-            onTapped: menu.popup()
+            onClicked: menu.popup()
         }
     }
 
@@ -131,7 +138,7 @@ Rectangle {
 
     AlertDialog {
         objectName: "alert"
-        text: "Delete 12 notifications?"
+        text: scene.question
         message: "They leave the hoard for good. This can't be undone, and nothing else will bring them back."
         actions: [
             AlertAction { text: "Cancel"; role: AlertAction.Cancel; onTriggered: scene.note("cancel") },
@@ -145,6 +152,15 @@ Rectangle {
         actions: [
             AlertAction { text: "OK"; role: AlertAction.Default; onTriggered: scene.note("ok") },
             AlertAction { text: "Show"; onTriggered: scene.note("show") }
+        ]
+    }
+
+    AlertDialog {
+        objectName: "brief"
+        text: scene.question
+        actions: [
+            AlertAction { text: "No"; role: AlertAction.Cancel; onTriggered: scene.note("no") },
+            AlertAction { text: "Yes"; onTriggered: scene.note("yes") }
         ]
     }
 

@@ -1,0 +1,21 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tessarine.Theme
+
+// Room for something that may be longer than it. A finger drags it; a mouse scrolls by its wheel and
+// the scroll bar.
+Flickable {
+    id: area
+
+    clip: true
+    boundsBehavior: Flickable.StopAtBounds
+    interactive: !mouse.down
+
+    T.ScrollBar.vertical: ThinScrollBar {}
+
+    MouseButtons {
+        id: mouse
+
+        item: area
+    }
+}
