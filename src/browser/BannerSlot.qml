@@ -1,7 +1,8 @@
 import QtQuick
 import Tessarine.Browser
 
-// The room of the inline banner: it opens from the top edge, and closes more slowly.
+// The room of the inline banner: it opens from the top edge, and closes more slowly, but at once by
+// the banner's own button.
 Item {
     id: slot
 
@@ -10,6 +11,14 @@ Item {
     readonly property int entering: 200
     readonly property int leaving: 300
     readonly property bool open: view.hasInlineBanner
+
+    property bool leavesAtOnce: false
+
+    function dismiss() {
+        leavesAtOnce = true;
+        view.dismissBanner();
+        leavesAtOnce = false;
+    }
 
     // What was shown last stays while the banner leaves.
     property inlineBanner lastShown
@@ -25,10 +34,14 @@ Item {
     }
 
     Behavior on implicitHeight {
+        enabled: !slot.leavesAtOnce
+
         NumberAnimation { duration: slot.open ? slot.entering : slot.leaving; easing.type: Easing.OutQuad }
     }
 
     Behavior on opacity {
+        enabled: !slot.leavesAtOnce
+
         NumberAnimation { duration: slot.open ? slot.entering : slot.leaving; easing.type: Easing.OutQuad }
     }
 
@@ -40,6 +53,6 @@ Item {
         anchors.bottom: parent.bottom
         banner: slot.lastShown
         visible: slot.implicitHeight > 0
-        onDismissed: slot.view.dismissBanner()
+        onDismissed: slot.dismiss()
     }
 }

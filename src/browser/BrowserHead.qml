@@ -11,6 +11,19 @@ Item {
 
     readonly property int sidePadding: Metrics.spacingLarge
 
+    readonly property bool selecting: view.selectionMode
+
+    // A keyboard that is where things leave goes on in the selection bar.
+    function enterSelectionMode() {
+        focusKeeper.remember(head);
+        head.view.enterSelectionMode();
+        focusKeeper.moveOn(actions, selectionBar.firstStop);
+        focusKeeper.moveOn(toolbar, selectionBar.firstStop);
+    }
+
+    // One that is in the selection bar when that leaves goes back, once what left is there again.
+    onSelectingChanged: if (!selecting) Qt.callLater(focusKeeper.restore, selectionBar)
+
     implicitHeight: 2 * Metrics.controlHeight + Metrics.spacingMedium + 2 * Metrics.spacingLarge - 2
 
     SearchField {
@@ -50,39 +63,58 @@ Item {
             symbol: "trash"
             accessibleName: qsTrId("toolbar.delete.help")
             toolTipText: qsTrId("toolbar.delete.help")
-            onClicked: head.view.enterSelectionMode()
+            onClicked: head.enterSelectionMode()
         }
     }
 
+    // The bar that is in force lies above, the one that fades below, and between them what keeps
+    // the pointer from it.
     BrowserToolbar {
+        id: toolbar
+
+        anchors.fill: bars
+        z: head.view.selectionMode ? 0 : 2
+        view: head.view
+        opacity: head.view.selectionMode ? 0 : 1
+        visible: opacity > 0 || !head.view.selectionMode
+
+        Behavior on opacity {
+            NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }
+        }
+    }
+
+    MouseArea {
+        id: bars
+
         anchors.top: search.bottom
         anchors.topMargin: Metrics.spacingMedium
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.leftMargin: head.sidePadding
         anchors.rightMargin: head.sidePadding
-        view: head.view
-        opacity: head.view.selectionMode ? 0 : 1
-        visible: opacity > 0
-
-        Behavior on opacity {
-            NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }
-        }
+        z: 1
+        height: Metrics.controlHeight
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
     }
 
     SelectionBar {
-        anchors.top: search.bottom
-        anchors.topMargin: Metrics.spacingMedium
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.leftMargin: head.sidePadding
-        anchors.rightMargin: head.sidePadding
+        id: selectionBar
+
+        anchors.fill: bars
+        z: head.view.selectionMode ? 2 : 0
         view: head.view
         opacity: head.view.selectionMode ? 1 : 0
-        visible: opacity > 0
+        visible: opacity > 0 || head.view.selectionMode
 
         Behavior on opacity {
             NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }
         }
+    }
+
+    FocusKeeper {
+        id: focusKeeper
+
+        otherwise: search
     }
 }

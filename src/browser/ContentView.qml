@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Templates as T
 import Tessarine.Browser
 import Tessarine.Export
 import Tessarine.Theme
@@ -77,9 +78,24 @@ Rectangle {
         view: root.view
     }
 
+    // The export's sheet goes without closing, and can't give the keyboard back itself.
+    FocusKeeper {
+        id: exportFocus
+
+        otherwise: list
+    }
+
+    Connections {
+        target: root.view
+
+        function onExportSheetMade() {
+            exportFocus.remember(root);
+        }
+    }
+
     Loader {
         active: root.view.showExportSheet
-        onActiveChanged: if (!active) list.forceActiveFocus()
+        onActiveChanged: if (!active) exportFocus.restore(root.T.Overlay.overlay)
 
         // A loader can't make a component that is bound to this file.
         sourceComponent: Item {

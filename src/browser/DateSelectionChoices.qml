@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Tessarine.Browser
 import Tessarine.Theme
 
@@ -67,15 +66,12 @@ Column {
         visible: !choices.view.hasDays
     }
 
-    Flickable {
+    ScrollArea {
+        objectName: "days"
         width: parent.width
         height: Math.min(days.height, choices.tallestDays)
         contentHeight: days.height
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
         visible: choices.view.hasDays
-
-        T.ScrollBar.vertical: ThinScrollBar {}
 
         Column {
             id: days

@@ -47,6 +47,14 @@ bool looksTheSame(const ListEntry& left, const ListEntry& right) {
            showsSameRow(left.notification, right.notification);
 }
 
+bool hasTheSameIds(const ListEntry& left, const ListEntry& right) {
+    if (left.kind != right.kind)
+        return false;
+    if (left.kind == ListEntry::Kind::header)
+        return *left.ids == *right.ids;
+    return left.notification.id == right.notification.id;
+}
+
 ListEntries ungroupedEntries(const NotificationList& rows) {
     ListEntries entries;
     entries.reserve(rows.size());

@@ -33,6 +33,10 @@ using ListEntries = std::vector<ListEntry>;
 // Whether two lines look the same, whatever their rows' ids in memory.
 bool looksTheSame(const ListEntry& left, const ListEntry& right);
 
+// Whether the rows that two lines stand for (their own, or those of their groups) have the same ids
+// in memory. What is marked as selected or focused is known by these alone.
+bool hasTheSameIds(const ListEntry& left, const ListEntry& right);
+
 // The lines of a list without groups.
 ListEntries ungroupedEntries(const NotificationList& rows);
 

@@ -10,6 +10,7 @@ FocusScope {
     id: root
 
     required property ContentViewState view
+    property NotificationRow pressedRow: null // by the left button, last
 
     clip: true
 
@@ -18,20 +19,20 @@ FocusScope {
         list.contentY = list.originY - list.topMargin;
     }
 
-    ListView {
+    ScrollList {
         id: list
 
         objectName: "list"
         anchors.fill: parent
         focus: true
         activeFocusOnTab: true
-        keyNavigationEnabled: false
-        currentIndex: -1 // a current item has a highlight, unseen, that moves for 200 ms at each capture
+        // A current row would have the keyboard and read as focused, and its highlight, though unseen,
+        // would move for a dozen frames at each capture.
+        currentIndex: -1
         model: root.view.lines
         spacing: Metrics.spacingSmall
         topMargin: Metrics.spacingSmall
         bottomMargin: Metrics.spacingSmall
-        boundsBehavior: Flickable.StopAtBounds
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("hoard.list")
 
@@ -70,8 +71,11 @@ FocusScope {
                 roleValue: "row"
 
                 NotificationRow {
+                    id: row
+
                     width: list.width
                     selectionMode: root.view.selectionMode
+                    onPressed: root.notePress(row)
                     onSingleTap: id => root.tapRow(id)
                     onDoubleTap: id => root.view.onDoubleTap(id)
                     onToggleSelection: id => root.view.toggleSelection(id)
@@ -99,6 +103,12 @@ FocusScope {
             anchors.bottom: parent.bottom
             anchors.right: parent.right
         }
+    }
+
+    function notePress(row: NotificationRow) {
+        if (pressedRow !== row)
+            pressedRow?.forgetPress();
+        pressedRow = row;
     }
 
     function tapRow(id) {

@@ -87,7 +87,7 @@ void NotificationListModel::replaceLines(ListEntries entries) {
     const bool timesDiffer = std::exchange(zone_, zone) != zone;
     bool sameIds = true;
     for (std::size_t i = 0; i < entries_.size(); ++i) {
-        sameIds = sameIds && before[i].notification.id == entries_[i].notification.id;
+        sameIds = sameIds && hasTheSameIds(before[i], entries_[i]);
         if (timesDiffer || !looksTheSame(before[i], entries_[i]))
             Q_EMIT dataChanged(index(int(i)), index(int(i)));
     }

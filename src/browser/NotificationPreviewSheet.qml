@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tessarine.Apps
 import Tessarine.Browser
 import Tessarine.Theme
@@ -103,17 +102,11 @@ Sheet {
             width: parent.width
         }
 
-        Flickable {
-            id: scroller
-
+        ScrollArea {
             anchors.top: upperDivider.bottom
             anchors.bottom: lowerDivider.top
             width: parent.width
             contentHeight: texts.height
-            clip: true
-            boundsBehavior: Flickable.StopAtBounds
-
-            T.ScrollBar.vertical: ThinScrollBar {}
 
             Column {
                 id: texts

@@ -4,10 +4,14 @@
 
 namespace tessarine {
 
+// What the user sees between the two presses of a double click stays.
 void NotificationRow::setNotificationId(const QUuid& id) {
     if (std::exchange(id_, id) == id)
         return;
-    revealed_ = false;
+    if (gestureRuns_ && revealed_)
+        masksAfterGesture_ = true;
+    else
+        revealed_ = false;
     Q_EMIT maskedChanged();
 }
 
@@ -26,7 +30,21 @@ void NotificationRow::setSelectionMode(bool selectionMode) {
 }
 
 void NotificationRow::press() {
-    maskedAtPressBefore_ = std::exchange(maskedAtPress_, isMasked());
+    pressBefore_ = std::exchange(lastPress_, Press{isMasked()});
+    gestureRuns_ = true;
+}
+
+void NotificationRow::endGesture() {
+    gestureRuns_ = false;
+    if (!std::exchange(masksAfterGesture_, false))
+        return;
+    revealed_ = false;
+    Q_EMIT maskedChanged();
+}
+
+void NotificationRow::forgetPress() {
+    lastPress_.reset();
+    endGesture();
 }
 
 void NotificationRow::click() {
@@ -39,17 +57,25 @@ void NotificationRow::click() {
 }
 
 // The second click counts as a click too. When the first one revealed the row, both belong to the
-// reveal: nobody wants a thing opened that they have not seen.
+// reveal: nobody wants a thing opened that they have not seen. When the first one was on another
+// row, which a new notification has pushed away, this one was not meant.
 void NotificationRow::doubleClick() {
-    if (maskedAtPressBefore_)
+    if (!pressBefore_)
         return;
-    click();
-    if (!selectionMode_)
+    if (pressBefore_->wasMasked)
+        reveal();
+    else if (selectionMode_)
+        click();
+    else
         Q_EMIT doubleTap(id_);
+    endGesture();
 }
 
+// A reload that came before this click has no say in it.
 void NotificationRow::reveal() {
-    revealed_ = true;
+    masksAfterGesture_ = false;
+    if (std::exchange(revealed_, true))
+        return;
     Q_EMIT maskedChanged();
     Q_EMIT revealed();
 }

@@ -4,6 +4,8 @@
 #include <QUuid>
 #include <qqml.h>
 
+#include <optional>
+
 namespace tessarine {
 
 // Names the type of a row's id for QML.
@@ -14,7 +16,8 @@ struct UuidValue {
 };
 
 // How a row of the list reacts: whether it is masked, and what its clicks mean. Each row that is
-// built has one. A reveal lasts for a look: a reload, which renews all ids, ends it. Main thread.
+// built has one. A reveal lasts for a look: a reload, which renews all ids, ends it, but not in the
+// middle of a gesture. Main thread.
 class NotificationRow : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(NotificationRowState)
@@ -46,6 +49,13 @@ public:
     Q_INVOKABLE void click();
     Q_INVOKABLE void doubleClick();
 
+    // The time for a second press is over: a mask that was held back comes now. A double click ends
+    // the gesture too.
+    Q_INVOKABLE void endGesture();
+
+    // Another row was pressed since.
+    Q_INVOKABLE void forgetPress();
+
 Q_SIGNALS:
     void maskedChanged();
     void revealed(); // by a click; masked has changed before
@@ -54,14 +64,20 @@ Q_SIGNALS:
     void toggleSelection(const QUuid& id);
 
 private:
+    struct Press {
+        bool wasMasked;
+    };
+
     void reveal();
 
     QUuid id_;
     bool isPrivate_ = false;
     bool selectionMode_ = false;
     bool revealed_ = false;
-    bool maskedAtPress_ = false;
-    bool maskedAtPressBefore_ = false;
+    bool gestureRuns_ = false;
+    bool masksAfterGesture_ = false;
+    std::optional<Press> lastPress_; // of this row, and of no other row after it
+    std::optional<Press> pressBefore_;
 };
 
 } // namespace tessarine

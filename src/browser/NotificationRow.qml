@@ -30,6 +30,7 @@ Item {
     readonly property bool showsBody: body.text && !masked
     readonly property bool drawnFocused: isFocused && !selectionMode
 
+    signal pressed
     signal singleTap(uuid id)
     signal doubleTap(uuid id)
     signal toggleSelection(uuid id)
@@ -38,6 +39,11 @@ Item {
     property bool isComplete // and so may fade; what is only scrolled into sight is there at once
     property bool hasArrived: !isArriving
     property real clarity: 1 // of the texts, while they come out from under the mask
+
+    // Another row was pressed, so that a double click here would have begun elsewhere.
+    function forgetPress() {
+        reactions.forgetPress();
+    }
 
     opacity: hasArrived && !isLeaving ? 1 : 0
     enabled: !isLeaving
@@ -95,18 +101,31 @@ Item {
         cursorShape: row.selectionMode ? Qt.ArrowCursor : Qt.PointingHandCursor
     }
 
+    // The time in which a second press would make it a double click.
+    Timer {
+        id: gesture
+
+        interval: Application.styleHints.mouseDoubleClickInterval
+        onTriggered: reactions.endGesture()
+    }
+
     MouseArea {
         anchors.fill: card
         acceptedButtons: Qt.LeftButton
-        onPressed: reactions.press()
+        onPressed: {
+            row.pressed();
+            reactions.press();
+            gesture.restart();
+        }
         onClicked: reactions.click()
         onDoubleClicked: reactions.doubleClick()
     }
 
-    TapHandler {
+    // No TapHandler: once it has opened a menu, Qt hands it the left button too on Wayland.
+    MouseArea {
+        anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        gesturePolicy: TapHandler.WithinBounds
-        onTapped: eventPoint => row.menuRequested(row.notificationId, eventPoint.scenePosition)
+        onClicked: mouse => row.menuRequested(row.notificationId, mapToItem(null, mouse.x, mouse.y))
     }
 
     HoverTip {

@@ -9,11 +9,12 @@ Item {
     property bool selected
     property bool hovered
 
+    readonly property int radius: Metrics.cornerRadius
     readonly property real restingOpacity: 0.5
 
     Rectangle {
         anchors.fill: parent
-        radius: Metrics.cornerRadius
+        radius: background.radius
         color: Theme.colours.controlBackground
         opacity: background.hovered ? 1 : background.restingOpacity
         visible: !background.focused && !background.selected
@@ -21,18 +22,17 @@ Item {
 
     Rectangle {
         anchors.fill: parent
-        radius: Metrics.cornerRadius
+        radius: background.radius
         color: Theme.colours.accent
         opacity: background.focused ? 0.13 : 0.08
         visible: background.focused || background.selected
     }
 
-    Rectangle {
+    Outline {
         anchors.fill: parent
-        radius: Metrics.cornerRadius
-        color: "transparent"
-        border.color: Theme.colours.accent
-        border.width: background.focused ? 1.5 : 1
+        radius: background.radius
+        color: Theme.colours.accent
+        strokeWidth: background.focused ? 1.5 : 1
         opacity: background.focused ? 0.55 : 0.25
         visible: background.focused || background.selected
     }

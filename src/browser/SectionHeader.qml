@@ -34,12 +34,13 @@ Rectangle {
         acceptedButtons: section.selectionMode ? Qt.LeftButton | Qt.RightButton : Qt.LeftButton
     }
 
-    TapHandler {
+    // No TapHandler: once it has opened a menu, Qt hands it the left button too on Wayland.
+    MouseArea {
+        anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        gesturePolicy: TapHandler.WithinBounds
         enabled: !section.selectionMode
-        onTapped: eventPoint => section.menuRequested(section.header.key, section.header.count,
-                                                      eventPoint.scenePosition)
+        onClicked: mouse => section.menuRequested(section.header.key, section.header.count,
+                                                  mapToItem(null, mouse.x, mouse.y))
     }
 
     IconButton {

@@ -11,6 +11,7 @@ Item {
     required property ContentViewState view
 
     readonly property int dividerHeight: 16
+    readonly property Item firstStop: cancel // of the keyboard
 
     implicitHeight: first.height
 
@@ -20,6 +21,8 @@ Item {
         spacing: Metrics.spacingMedium
 
         TextButton {
+            id: cancel
+
             objectName: "cancelSelection"
             text: qsTrId("selection.cancel")
             onClicked: bar.view.exitSelectionMode()
@@ -44,8 +47,15 @@ Item {
 
                 objectName: "appMenu"
 
+                MenuTexts {
+                    id: apps
+
+                    texts: bar.view.apps
+                    open: appMenu.visible
+                }
+
                 Repeater {
-                    model: bar.view.apps
+                    model: apps.shown
 
                     ContextMenuItem {
                         required property string modelData

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Tessarine.Export
 import Tessarine.Theme
 
@@ -21,12 +20,12 @@ Sheet {
     maximumWidth: fixedWidth
     closesOnEscape: false
     defaultButton: exportButton
+    onEscaped: options.cancel()
 
     Item {
         implicitWidth: sheet.fixedWidth
         implicitHeight: header.height + body.contentHeight + footer.height
         anchors.fill: parent
-        Keys.onEscapePressed: sheet.options.cancel()
 
         Item {
             id: header
@@ -92,7 +91,7 @@ Sheet {
             }
         }
 
-        Flickable {
+        ScrollArea {
             id: body
 
             objectName: "body"
@@ -101,10 +100,6 @@ Sheet {
             anchors.top: header.bottom
             anchors.bottom: footer.top
             contentHeight: sections.height
-            clip: true
-            interactive: contentHeight > height
-            boundsBehavior: Flickable.StopAtBounds
-            T.ScrollBar.vertical: ThinScrollBar {}
 
             // As far as that goes, so that what the keyboard comes to is in sight.
             function scrollTo(y: real) {

@@ -10,6 +10,7 @@ T.Menu {
 
     readonly property int narrowest: 160
     readonly property int widest: 420
+    readonly property bool pointerCounts: mouse.moved
 
     implicitWidth: Math.max(narrowest, Math.min(widest, implicitContentWidth + leftPadding + rightPadding))
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -47,5 +48,12 @@ T.Menu {
 
     FocusKeeper {
         id: focusKeeper
+    }
+
+    MouseWatch {
+        id: mouse
+
+        item: contextMenu.parent
+        awaitsMove: contextMenu.visible
     }
 }

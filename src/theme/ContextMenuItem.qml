@@ -12,7 +12,7 @@ T.MenuItem {
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Metrics.menuRowHeight
     height: visible ? implicitHeight : 0
-    hoverEnabled: true
+    hoverEnabled: (menu as ContextMenu)?.pointerCounts ?? true
     Accessible.role: Accessible.MenuItem
     Accessible.name: text
     Accessible.onPressAction: if (enabled) clicked()

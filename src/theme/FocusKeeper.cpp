@@ -37,6 +37,11 @@ void FocusKeeper::restore(const QQuickItem* panel) {
         target->forceActiveFocus(reason_);
 }
 
+void FocusKeeper::moveOn(const QQuickItem* leaving, QQuickItem* to) {
+    if (item_ && leaving->isAncestorOf(item_))
+        to->forceActiveFocus(reason_);
+}
+
 void FocusKeeper::beginIn(const QQuickItem* panel) {
     const QQuickItem* const scope = scopeOf(panel);
     QQuickItem* const last = scope ? scope->scopedFocusItem() : nullptr;

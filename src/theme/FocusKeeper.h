@@ -23,6 +23,10 @@ public:
     // Gives the focus back, unless it is outside `panel` by now.
     Q_INVOKABLE void restore(const QQuickItem* panel);
 
+    // If the focus that was remembered is inside what is about to leave, it goes on to another item
+    // until it is given back.
+    Q_INVOKABLE void moveOn(const QQuickItem* leaving, QQuickItem* to);
+
     // A panel that is opened again begins where it began the first time, and not where the keyboard
     // left it: a key that chooses must not find what was aimed at long ago. To be called each time
     // that the panel is about to show.

@@ -11,6 +11,7 @@ ScrollList {
     required property var texts
     required property int chosenIndex
     required property bool open
+    required property bool pointerCounts
 
     signal chosen(int index)
 
@@ -24,6 +25,7 @@ ScrollList {
         required property string modelData
 
         width: list.width
+        hoverEnabled: list.pointerCounts
         text: modelData
         chosen: index === list.chosenIndex
         current: ListView.isCurrentItem

@@ -37,6 +37,7 @@ T.Popup {
         texts: held.shown
         chosenIndex: held.shownIndex
         open: menu.visible
+        pointerCounts: mouse.moved
         Accessible.name: menu.accessibleName
         onChosen: index => menu.chosen(held.ownersIndex(index))
     }
@@ -51,6 +52,13 @@ T.Popup {
 
     FocusKeeper {
         id: focusKeeper
+    }
+
+    MouseWatch {
+        id: mouse
+
+        item: menu.parent
+        awaitsMove: menu.visible
     }
 
     TextWidths {

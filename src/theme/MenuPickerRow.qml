@@ -13,7 +13,6 @@ T.MenuItem {
     objectName: "menuRow"
     implicitHeight: Metrics.menuRowHeight
     focusPolicy: Qt.NoFocus
-    hoverEnabled: true
     Accessible.role: Accessible.MenuItem
     Accessible.checkable: true
     Accessible.checked: chosen

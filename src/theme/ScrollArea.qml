@@ -13,7 +13,7 @@ Flickable {
 
     T.ScrollBar.vertical: ThinScrollBar {}
 
-    MouseButtons {
+    MouseWatch {
         id: mouse
 
         item: area

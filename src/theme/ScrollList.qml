@@ -12,7 +12,7 @@ ListView {
     keyNavigationEnabled: false
     interactive: !mouse.down
 
-    MouseButtons {
+    MouseWatch {
         id: mouse
 
         item: list

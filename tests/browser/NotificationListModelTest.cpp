@@ -239,6 +239,16 @@ protected:
         return kinds;
     }
 
+    // Whether a view was told that this line looks different by now.
+    bool isTold(int line, Role role) const {
+        return std::ranges::any_of(changed_, [&](const QList<QVariant>& change) {
+            const auto roles = change[2].value<QList<int>>();
+            return change[0].toModelIndex().row() <= line &&
+                   change[1].toModelIndex().row() >= line &&
+                   (roles.isEmpty() || roles.contains(int(role)));
+        });
+    }
+
     NotificationList list_;
 };
 
@@ -270,6 +280,29 @@ TEST_F(GroupedModelTest, AHeaderCountsTheSelectedRowsOfItsGroupAlsoWhileItIsColl
     EXPECT_EQ(model_.header(0).selectedCount, 1);
     group({u"Zoom"_qs});
     EXPECT_EQ(model_.header(0).selectedCount, 1);
+}
+
+TEST_F(GroupedModelTest, AHeaderIsToldOfOtherRowsOfTheSameNumberBehindTheSameFirstOne) {
+    list_.push_back(row(4));
+    list_.back().appName = u"Zoom"_qs;
+    const NotificationList all = list_;
+    list_ = {all[0], all[1], all[2]};
+    group({u"Zoom"_qs});
+    marks_.selected = {all[0].id, all[1].id};
+    EXPECT_EQ(model_.header(0).selectedCount, 2);
+    changed_.clear();
+
+    list_ = {all[0], all[3], all[2]}; // another search
+    group({u"Zoom"_qs});
+
+    EXPECT_EQ(model_.header(0).selectedCount, 1);
+    EXPECT_TRUE(isTold(0, Role::Header));
+}
+
+TEST_F(GroupedModelTest, TheVerySameGroupsTellNothingAtAll) {
+    changed_.clear();
+    group({});
+    EXPECT_EQ(changed_.count(), 0);
 }
 
 TEST_F(GroupedModelTest, KnowsTheHeadersAroundALine) {

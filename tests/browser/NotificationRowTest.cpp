@@ -16,6 +16,9 @@ protected:
         row_.click();
     }
 
+    // As a capture does it: the same row under another id.
+    void reload() { row_.setNotificationId(QUuid::createUuid()); }
+
     // As the pointer does it: the second press comes before the double click.
     void doubleClick() {
         click();
@@ -99,7 +102,91 @@ TEST_F(NotificationRowTest, PrivacySwitchedOnMasksWhatWasRevealed) {
 TEST_F(NotificationRowTest, AReloadWithItsFreshIdEndsAReveal) {
     row_.setPrivate(true);
     click();
-    row_.setNotificationId(QUuid::createUuid());
+    row_.endGesture();
+    EXPECT_FALSE(row_.isMasked());
+    reload();
+    EXPECT_TRUE(row_.isMasked());
+}
+
+// A reload between the two presses of a double click
+
+TEST_F(NotificationRowTest, AReloadInTheMiddleOfAGestureMasksWhenThatIsOver) {
+    row_.setPrivate(true);
+    click();
+    reload();
+    EXPECT_FALSE(row_.isMasked());
+    row_.endGesture();
+    EXPECT_TRUE(row_.isMasked());
+}
+
+TEST_F(NotificationRowTest, ASecondPressInTheSameGestureRevealsAfterTheReload) {
+    row_.setPrivate(true);
+    click();
+    reload();
+    row_.press();
+    row_.doubleClick();
+    row_.endGesture();
+    EXPECT_FALSE(row_.isMasked());
+    EXPECT_EQ(opened_.count(), 0);
+    EXPECT_EQ(focused_.count(), 0);
+    reload();
+    EXPECT_TRUE(row_.isMasked());
+}
+
+TEST_F(NotificationRowTest, ASecondPressThatComesWhenTheMaskIsBackRevealsTooAndOpensNothing) {
+    row_.setPrivate(true);
+    click();
+    reload();
+    row_.endGesture(); // on a machine that stalls
+    row_.press();
+    row_.doubleClick();
+    EXPECT_FALSE(row_.isMasked());
+    EXPECT_EQ(opened_.count(), 0);
+}
+
+TEST_F(NotificationRowTest, ADoubleClickOnARowThatWasSeenOpensItAndMasksIt) {
+    row_.setPrivate(true);
+    click();
+    row_.endGesture();
+    click();
+    reload();
+    row_.press();
+    row_.doubleClick();
+    EXPECT_EQ(opened_.count(), 1);
+    EXPECT_TRUE(row_.isMasked());
+}
+
+TEST_F(NotificationRowTest, ARowThatWasMaskedBeforeTheGestureStaysSo) {
+    row_.setPrivate(true);
+    row_.press();
+    reload();
+    EXPECT_TRUE(row_.isMasked());
+}
+
+TEST_F(NotificationRowTest, ADoubleClickThatBeganOnAnotherRowDoesNothing) {
+    row_.press();
+    row_.doubleClick();
+    EXPECT_EQ(focused_.count() + opened_.count(), 0);
+
+    click();
+    row_.forgetPress(); // another row was pressed, and long after that this one
+    row_.press();
+    row_.doubleClick();
+    EXPECT_EQ(focused_.count(), 1);
+    EXPECT_EQ(opened_.count(), 0);
+
+    row_.setSelectionMode(true);
+    row_.forgetPress();
+    row_.press();
+    row_.doubleClick();
+    EXPECT_EQ(toggled_.count(), 0);
+}
+
+TEST_F(NotificationRowTest, APressOnAnotherRowEndsTheGesture) {
+    row_.setPrivate(true);
+    click();
+    reload();
+    row_.forgetPress();
     EXPECT_TRUE(row_.isMasked());
 }
 

@@ -15,10 +15,8 @@ public:
 
     // Animations that were started since begin now.
     void turnOn(int milliseconds) {
-        QCoreApplication::processEvents();
-        elapsed_ += milliseconds;
-        advanceAnimation();
-        QCoreApplication::processEvents();
+        tick(0);
+        tick(milliseconds);
     }
 
     // Since the first of the animations that run now was started.
@@ -31,6 +29,13 @@ protected:
     }
 
 private:
+    void tick(int milliseconds) {
+        QCoreApplication::processEvents(); // which start and stop animations
+        elapsed_ += milliseconds;
+        advanceAnimation();
+        QCoreApplication::processEvents();
+    }
+
     qint64 elapsed_ = 0;
 };
 

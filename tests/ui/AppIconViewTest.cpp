@@ -103,12 +103,33 @@ TEST_F(AppIconViewTest, AsksForNothingWhileItIsHiddenItself) {
 }
 
 TEST_F(AppIconViewTest, HasATileOfRadius7WithTextOf12Points) {
-    const AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
+    AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
+    view->setProperty("cornerRadius", 0);
     const QQuickItem* tile = view->findChild<QQuickItem*>(u"placeholder"_qs);
-    EXPECT_EQ(view->property("tileRadius"), 7);
-    EXPECT_EQ(
-        tile->findChild<QQuickItem*>(u"initials"_qs)->property("font").value<QFont>().pixelSize(),
-        12);
+    EXPECT_EQ(tile->size(), QSizeF(36, 36));
+    EXPECT_EQ(tile->property("radius").toDouble(), 7);
+    EXPECT_EQ(tile->property("color").value<QColor>(), view->placeholderColour());
+    const QQuickItem* initials = tile->findChild<QQuickItem*>(u"initials"_qs);
+    EXPECT_EQ(initials->property("font").value<QFont>().pixelSize(), 12);
+    EXPECT_EQ(initials->property("font").value<QFont>().weight(), QFont::DemiBold);
+    EXPECT_EQ(initials->property("color").value<QColor>(), QColor(Qt::white));
+
+    // A corner of radius 7 leaves free what lies more than 7 from its centre: on the diagonal the
+    // first two pixels and a little of the third.
+    const QImage picture = window_.grabWindow();
+    EXPECT_EQ(picture.pixelColor(1, 1), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(3, 3), view->placeholderColour());
+    EXPECT_EQ(picture.pixelColor(0, 9), view->placeholderColour());
+}
+
+TEST_F(AppIconViewTest, CutsTheTileToARounderPlace) {
+    AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
+    const QQuickItem* tile = view->findChild<QQuickItem*>(u"placeholder"_qs);
+    EXPECT_EQ(tile->property("radius").toDouble(), 8); // of a row
+    view->setProperty("cornerRadius", 10);
+    EXPECT_EQ(tile->property("radius").toDouble(), 10); // of the preview
+    view->setProperty("cornerRadius", 4);
+    EXPECT_EQ(tile->property("radius").toDouble(), 7); // of a header
 }
 
 TEST_F(AppIconViewTest, LeavesTheSecondOfTwoNewRowsWithItsPlaceholderUntilItIsRebuilt) {

@@ -1,4 +1,5 @@
 #include "support/EventLoop.h"
+#include "ui/PointerInput.h"
 #include "ui/UiFixture.h"
 
 #include <algorithm>
@@ -187,13 +188,6 @@ TEST_F(GroupsTest, ThePinnedHeaderHidesTheRowsBelowItFromThePointer) {
     EXPECT_FALSE(isShown(u"rowMenu"_qs));
 }
 
-TEST_F(GroupsTest, TheDateGroupsLookForNoIconsOfTheirOwn) {
-    view().setGroupMode(GroupMode::date);
-    draw();
-    for (const AppIconView* icon : window->window()->contentItem()->findChildren<AppIconView*>())
-        EXPECT_TRUE(icon->isVisible() || !icon->hasIcon());
-}
-
 TEST_F(GroupsTest, AHeadersMenuDeletesTheGroup) {
     click(*header(u"Alpha"_qs), Qt::RightButton);
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"groupMenu"_qs); }));
@@ -216,6 +210,41 @@ TEST_F(GroupsTest, SelectionModeSelectsAGroupByItsButton) {
     EXPECT_FALSE(isShown(u"groupMenu"_qs));
 }
 
+TEST_F(GroupsTest, AnotherSearchTellsAGroupThatKeepsItsSizeAndItsFirstRow) {
+    NotificationList rows = numbered(3);
+    rows[0].body = u"red and blue"_qs;
+    rows[1].body = u"red"_qs;
+    rows[2].body = u"blue"_qs;
+    publish(rows);
+    view().enterSelectionMode();
+    view().setSearchText(u"red"_qs);
+    draw();
+    QQuickItem* group = header(u"Mail"_qs);
+    clickAt(*group, {group->width() - 40, group->height() / 2});
+    EXPECT_TRUE(textsIn(*group).contains(u"Deselect All"_qs));
+
+    view().setSearchText(u"blue"_qs);
+    draw();
+    EXPECT_EQ(header(u"Mail"_qs), group);
+    EXPECT_TRUE(textsIn(*group).contains(u"Select All"_qs));
+    clickAt(*group, {group->width() - 40, group->height() / 2});
+    EXPECT_EQ(view().selectedCount(), 3);
+}
+
+TEST_F(GroupsTest, AMouseThatDragsAHeaderScrollsNothing) {
+    scrollTo(900);
+    const double top = list().property("contentY").toDouble();
+    const QPoint pinned = item(u"pinnedHeader"_qs).mapToScene(QPointF(300, 14)).toPoint();
+    dragByMouse(*window->window(), pinned, pinned + QPoint(0, 200));
+    EXPECT_EQ(list().property("contentY").toDouble(), top);
+    scrollTo(list().property("originY").toDouble());
+    const QPoint first = header(u"Alpha"_qs)->mapToScene(QPointF(300, 14)).toPoint();
+    const double begin = list().property("contentY").toDouble();
+    dragByMouse(*window->window(), first + QPoint(0, 200), first);
+    dragByMouse(*window->window(), first, first - QPoint(0, 60));
+    EXPECT_EQ(list().property("contentY").toDouble(), begin);
+}
+
 TEST_F(GroupsTest, ACaptureKeepsThePlaceInTheList) {
     scrollTo(900);
     CapturedNotification fresh = numbered(1, 500)[0];
@@ -233,6 +262,37 @@ TEST_F(GroupsTest, ACaptureKeepsThePlaceInTheList) {
     draw();
     ASSERT_NE(row(inSight), nullptr);
     EXPECT_EQ(row(inSight)->mapToScene(QPointF(0, 0)).y(), before);
+}
+
+// Icons
+
+class GroupIconsTest : public UiTest {
+protected:
+    // One group, closed before its rows came, so that no row asks for an icon.
+    void showClosedGroup(GroupMode mode) {
+        makeWindow();
+        view().setGroupMode(mode);
+        view().toggleGroup(mode == GroupMode::app ? u"Mail"_qs : u"2025-11-16"_qs);
+        system.scheduler.advance(0.2);
+        publish(numbered(3));
+        ASSERT_EQ(view().lines()->rowCount(), 1);
+        window->window()->resize(720, 520);
+        show();
+        draw();
+        system.scheduler.settle();
+        draw();
+    }
+};
+
+TEST_F(GroupIconsTest, AnApplicationsHeaderLooksForItsIcon) {
+    showClosedGroup(GroupMode::app);
+    EXPECT_EQ(resolver->cache().keys(), QStringList(u"name:Mail"_qs));
+}
+
+TEST_F(GroupIconsTest, ADaysHeaderLooksForNone) {
+    showClosedGroup(GroupMode::date);
+    EXPECT_EQ(resolver->cache().keys(), QStringList());
+    EXPECT_TRUE(textsIn(root()).contains(u"Sunday, November 16, 2025"_qs));
 }
 
 } // namespace

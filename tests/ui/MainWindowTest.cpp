@@ -125,6 +125,23 @@ TEST_F(MainWindowTest, ComesBackWithItsSizeAndItsPlaceInTheListAfterClosing) {
     EXPECT_EQ(list().property("contentY"), place);
 }
 
+TEST_F(MainWindowTest, CountsTheHoardAnewEachTimeItIsShown) {
+    showHoard(500);
+    const auto counter = [this] { return item(u"counter"_qs).property("text").toString(); };
+    EXPECT_EQ(counter(), u"500 notifications"_qs);
+    for (int round = 1; round <= 2; ++round) {
+        window->window()->close();
+        CapturedNotification fresh = numbered(1, 1000 + round)[0];
+        fresh.noteId = fresh.dbId;
+        ASSERT_TRUE(hoard.insert(fresh));
+        reload(); // as many rows as before, so the list gives no reason to count
+        EXPECT_EQ(view().hoardTotalCount(), 499 + round);
+        show();
+        draw();
+        EXPECT_EQ(counter(), u"500 of %1"_qs.arg(500 + round));
+    }
+}
+
 TEST_F(MainWindowTest, LetsTheProgramEndWhileItIsShown) {
     makeWindow();
     show();

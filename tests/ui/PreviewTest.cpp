@@ -1,4 +1,5 @@
 #include "support/EventLoop.h"
+#include "ui/PointerInput.h"
 #include "ui/UiFixture.h"
 
 namespace tessarine::testing {
@@ -25,6 +26,32 @@ protected:
         draw();
     }
 
+    // Where the sheet lies in the window.
+    QRectF place() const {
+        const auto* panel =
+            root().findChild<QObject*>(u"preview"_qs)->property("background").value<QQuickItem*>();
+        return panel->mapRectToScene(QRectF(0, 0, panel->width(), panel->height()));
+    }
+
+    // The part of the sheet of this type.
+    const QQuickItem* below(const char* type) const {
+        return firstBelow(*root()
+                               .findChild<QObject*>(u"preview"_qs)
+                               ->property("contentItem")
+                               .value<QQuickItem*>(),
+                          type);
+    }
+
+    static const QQuickItem* firstBelow(const QQuickItem& top, const char* type) {
+        for (const QQuickItem* child : top.childItems()) {
+            if (QByteArray(child->metaObject()->className()).startsWith(type))
+                return child;
+            if (const QQuickItem* deeper = firstBelow(*child, type))
+                return deeper;
+        }
+        return nullptr;
+    }
+
     bool closes() {
         return turnsUntil([&] { return !view().isPreviewing() && isGone(u"preview"_qs); });
     }
@@ -39,6 +66,49 @@ TEST_F(PreviewTest, SpaceOpensItOnTheFocusedRowAndClosesIt) {
     press(Qt::Key_Space);
     EXPECT_TRUE(closes());
     EXPECT_TRUE(view().focusedNotification());
+}
+
+TEST_F(PreviewTest, HasItsIdealSizeInTheMiddleOfTheWindow) {
+    openOn(u"Title 3"_qs);
+    EXPECT_EQ(place(), QRectF((720 - 480) / 2.0, (520 - 280) / 2.0, 480, 280));
+    const QObject& sheet = *root().findChild<QObject*>(u"preview"_qs);
+    EXPECT_EQ(sheet.property("minimumWidth").toDouble(), 420);
+    EXPECT_EQ(sheet.property("maximumWidth").toDouble(), 600);
+    EXPECT_EQ(sheet.property("minimumHeight").toDouble(), 200);
+}
+
+TEST_F(PreviewTest, ItsPartsHaveTheirPlaces) {
+    openOn(u"Title 3"_qs);
+    const QRectF panel = place();
+    const QQuickItem& icon = *below("AppIconView");
+    EXPECT_EQ(icon.mapRectToScene(icon.boundingRect()),
+              QRectF(panel.left() + 20, panel.top() + 20, 44, 44));
+    EXPECT_EQ(icon.property("cornerRadius").toDouble(), 10);
+    EXPECT_EQ(item(u"closePreview"_qs).property("size").toInt(), 20);
+    EXPECT_EQ(item(u"closePreview"_qs).property("symbol").toString(), u"xmark.circle.fill"_qs);
+    const QQuickItem& copy = item(u"copyPreview"_qs);
+    const QRectF button = copy.mapRectToScene(QRectF(0, 0, copy.width(), copy.height()));
+    EXPECT_EQ(button.left(), panel.left() + 20);
+    EXPECT_EQ(button.bottom(), panel.bottom() - 12);
+}
+
+TEST_F(PreviewTest, TheMouseMarksTextAndDragsNothing) {
+    openOn(u"Title 3"_qs);
+    QQuickItem& body = item(u"previewBody"_qs);
+    body.setProperty("text", u"line\n"_qs.repeated(60));
+    draw();
+    auto* scroller = body.parentItem()->parentItem()->parentItem();
+    const QPoint text = body.mapToScene(QPointF(20, 30)).toPoint();
+    dragByMouse(*window->window(), text, text + QPoint(0, 60));
+    EXPECT_FALSE(body.property("selectedText").toString().isEmpty());
+    const QPoint margin = scroller->mapToScene(QPointF(8, 90)).toPoint();
+    dragByMouse(*window->window(), margin, margin - QPoint(0, 60));
+    EXPECT_EQ(scroller->property("contentY").toDouble(), 0);
+    turnWheel(*window->window(), margin, -30);
+    EXPECT_TRUE(turnsUntil([&] {
+        draw();
+        return scroller->property("contentY").toDouble() > 0;
+    }));
 }
 
 TEST_F(PreviewTest, WithoutAFocusedRowSpaceGoesToTheField) {

@@ -1,7 +1,10 @@
 #include "support/EventLoop.h"
+#include "ui/AnimationClock.h"
 #include "ui/UiFixture.h"
 
 #include <QTest>
+
+#include <functional>
 
 namespace tessarine::testing {
 namespace {
@@ -97,6 +100,44 @@ TEST_F(RowReactionsTest, TheBannerGoesByItsButton) {
     EXPECT_TRUE(turnsUntil([&] { return !isShown(u"inlineBanner"_qs); }));
 }
 
+TEST_F(RowReactionsTest, TheBannersButtonTakesItAwayAtOnceAndItsTimeByAndBy) {
+    AnimationClock clock;
+    const double listTop = list().mapToScene(QPointF(0, 0)).y();
+    const auto roomTop = [this] {
+        draw();
+        return list().mapToScene(QPointF(0, 0)).y();
+    };
+    view().showBanner(deepLinkBanner(u"Mail"_qs));
+    clock.turnOn(100);
+    const double halfOpen = roomTop();
+    EXPECT_GT(halfOpen, listTop);
+    clock.turnOn(200);
+    EXPECT_GT(roomTop(), halfOpen);
+    QTest::mouseClick(window->window(), Qt::LeftButton, {},
+                      item(u"dismissBanner"_qs).mapToScene(QPointF(8, 8)).toPoint());
+    EXPECT_EQ(roomTop(), listTop);
+    EXPECT_FALSE(isShown(u"inlineBanner"_qs));
+
+    view().showBanner(deepLinkBanner(u"Mail"_qs));
+    clock.turnOn(100); // in the middle of its coming
+    draw();
+    QTest::mouseClick(window->window(), Qt::LeftButton, {},
+                      item(u"dismissBanner"_qs).mapToScene(QPointF(8, 20)).toPoint());
+    clock.turnOn(20);
+    EXPECT_EQ(roomTop(), listTop);
+
+    view().showBanner(deepLinkBanner(u"Mail"_qs));
+    clock.turnOn(200);
+    const double open = roomTop();
+    system.scheduler.advance(4);
+    clock.turnOn(100);
+    EXPECT_LT(roomTop(), open);
+    EXPECT_GT(roomTop(), listTop);
+    EXPECT_TRUE(isShown(u"inlineBanner"_qs));
+    clock.turnOn(300);
+    EXPECT_EQ(roomTop(), listTop);
+}
+
 TEST_F(RowReactionsTest, TheBannerGoesByItselfAfterFourSeconds) {
     doubleClick(rowOf(u"Title 2"_qs));
     system.scheduler.advance(2);
@@ -167,9 +208,11 @@ TEST_F(RowReactionsTest, SelectionModeLiftsTheMaskAndACaptureBringsItBack) {
     EXPECT_TRUE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
     view().exitSelectionMode();
     click(rowOf(u"Title 2"_qs));
-    reload();
-    draw();
-    EXPECT_FALSE(textsIn(rowOf(u"Title 2"_qs)).contains(u"Body 2"_qs));
+    reload(); // in the middle of what may become a double click
+    EXPECT_TRUE(turnsUntil([&] {
+        draw();
+        return !textsIn(rowOf(u"Title 2"_qs)).contains(u"Body 2"_qs);
+    }));
 }
 
 TEST_F(RowReactionsTest, OneAppsPrivacyMasksItsRowsAlone) {
@@ -179,6 +222,85 @@ TEST_F(RowReactionsTest, OneAppsPrivacyMasksItsRowsAlone) {
     preferences.setPrivacyApps({view().filteredNotifications()[0].appBundleId});
     draw();
     EXPECT_FALSE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
+}
+
+// A double click with a capture in the middle
+
+class InterruptedDoubleClickTest : public RowReactionsTest {
+protected:
+    // What comes between the two presses, as quick as both.
+    void doubleClickAround(const QString& title, const std::function<void()>& between) {
+        const QPoint place = rowOf(title).mapToScene(QPointF(300, 20)).toPoint();
+        QTest::mouseClick(window->window(), Qt::LeftButton, {}, place);
+        between();
+        draw();
+        QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+        QTest::mouseClick(window->window(), Qt::LeftButton, {}, place);
+        draw();
+    }
+
+    bool shows(const QString& title) const {
+        return textsIn(rowOf(title)).contains(u"Body "_qs + title.last(1));
+    }
+
+    void captureAbove() {
+        CapturedNotification fresh = numbered(1, 6)[0];
+        fresh.noteId = fresh.dbId;
+        ASSERT_TRUE(hoard.insert(fresh));
+        reload();
+    }
+
+    AnimationClock clock_; // no pause in the test ends the gesture
+};
+
+TEST_F(InterruptedDoubleClickTest, RevealsAMaskedRowOnceAndOpensNothing) {
+    preferences.setGlobalPrivacyMode(true);
+    draw();
+    doubleClickAround(u"Title 3"_qs, [this] {
+        reload();
+        draw();
+        EXPECT_TRUE(shows(u"Title 3"_qs)); // not masked again under the pointer
+    });
+    EXPECT_TRUE(shows(u"Title 3"_qs));
+    EXPECT_FALSE(view().hasInlineBanner());
+    EXPECT_FALSE(view().focusedNotification());
+    clock_.turnOn(1000);
+    EXPECT_TRUE(shows(u"Title 3"_qs)); // the second click revealed it after the capture
+    reload();
+    draw();
+    EXPECT_FALSE(shows(u"Title 3"_qs));
+}
+
+TEST_F(InterruptedDoubleClickTest, ASingleClickIsMaskedAgainWhenNoSecondOneComes) {
+    preferences.setGlobalPrivacyMode(true);
+    draw();
+    click(rowOf(u"Title 3"_qs));
+    reload();
+    draw();
+    EXPECT_TRUE(shows(u"Title 3"_qs));
+    clock_.turnOn(1000);
+    draw();
+    EXPECT_FALSE(shows(u"Title 3"_qs));
+}
+
+TEST_F(InterruptedDoubleClickTest, OpensARowThatWasSeen) {
+    doubleClickAround(u"Title 3"_qs, [this] { reload(); });
+    EXPECT_TRUE(isFocused(u"Title 3"_qs));
+    EXPECT_TRUE(view().hasInlineBanner());
+}
+
+TEST_F(InterruptedDoubleClickTest, DoesNothingToARowThatCameUnderThePointerMeanwhile) {
+    doubleClickAround(u"Title 5"_qs, [this] { captureAbove(); });
+    ASSERT_EQ(row(u"Title 6"_qs)->mapToItem(&list(), QPointF(0, 0)).y(), 4);
+    EXPECT_FALSE(view().hasInlineBanner());
+    EXPECT_FALSE(isFocused(u"Title 6"_qs));
+}
+
+TEST_F(InterruptedDoubleClickTest, RevealsNoRowThatCameUnderThePointerMeanwhile) {
+    preferences.setGlobalPrivacyMode(true);
+    draw();
+    doubleClickAround(u"Title 5"_qs, [this] { captureAbove(); });
+    EXPECT_FALSE(shows(u"Title 6"_qs));
 }
 
 // Context menu

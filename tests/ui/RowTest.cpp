@@ -1,3 +1,5 @@
+#include "support/EventLoop.h"
+#include "ui/PointerInput.h"
 #include "ui/UiFixture.h"
 
 #include <QAccessible>
@@ -106,6 +108,67 @@ TEST_F(RowTest, ACapturedRowIsThereAtOnce) {
     }
     EXPECT_EQ(circles, 1);
     EXPECT_EQ(list().property("highlightItem").value<QQuickItem*>(), nullptr);
+}
+
+TEST_F(RowTest, NoRowReadsAsFocusedToAScreenReaderWhileNoneIs) {
+    showList(numbered(5));
+    window->window()->requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window->window(), patienceMs));
+    list().forceActiveFocus();
+    const auto focusedRows = [this] {
+        QStringList titles;
+        for (int number = 5; number > 0; --number) {
+            const QString title = u"Title %1"_qs.arg(number);
+            const QAccessible::State state = accessible(row(title))->state();
+            if (state.focused || state.selected)
+                titles << title;
+        }
+        return titles;
+    };
+    EXPECT_EQ(focusedRows(), QStringList());
+    EXPECT_TRUE(accessible(&list())->state().focused); // the list itself has the keyboard
+    click(*row(u"Title 3"_qs));
+    EXPECT_EQ(focusedRows(), QStringList(u"Title 3"_qs));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(focusedRows(), QStringList());
+    publish(numbered(6));
+    draw();
+    EXPECT_EQ(focusedRows(), QStringList());
+}
+
+TEST_F(RowTest, RowsScrollUnderAFingerAndByTheWheelAndNotUnderTheMouse) {
+    showList(numbered(500));
+    const auto top = [this] { return list().property("contentY").toDouble(); };
+    const double first = top();
+    const QPoint middle = row(u"Title 496"_qs)->mapToScene(QPointF(300, 20)).toPoint();
+    const QPoint gap = row(u"Title 496"_qs)->mapToScene(QPointF(300, -2)).toPoint();
+    const QPoint margin = row(u"Title 496"_qs)->mapToScene(QPointF(3, 20)).toPoint();
+    for (const QPoint from : {middle, gap, margin}) {
+        dragByMouse(*window->window(), from, from - QPoint(0, 150));
+        EXPECT_EQ(top(), first);
+    }
+    dragByFinger(*window->window(), middle, middle - QPoint(0, 150));
+    const double dragged = top();
+    EXPECT_GT(dragged, first);
+    EXPECT_FALSE(view().focusedNotification());
+    ASSERT_TRUE(turnsUntil([&] {
+        draw();
+        return !list().property("moving").toBool();
+    }));
+    const double rested = top();
+    turnWheel(*window->window(), middle, -30);
+    EXPECT_TRUE(turnsUntil([&] {
+        draw();
+        return top() > rested;
+    }));
+}
+
+TEST_F(RowTest, AClickThatTheMouseDragsALittleIsStillAClick) {
+    showList(numbered(50));
+    const QPoint from = row(u"Title 48"_qs)->mapToScene(QPointF(300, 20)).toPoint();
+    dragByMouse(*window->window(), from, from + QPoint(30, 12));
+    ASSERT_TRUE(view().focusedNotification());
+    EXPECT_EQ(view().focusedNotification()->title, u"Title 48"_qs);
 }
 
 TEST_F(RowTest, RowsOutOfSightAreNotBuilt) {

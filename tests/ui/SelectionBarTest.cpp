@@ -1,4 +1,5 @@
 #include "support/EventLoop.h"
+#include "ui/AnimationClock.h"
 #include "ui/UiFixture.h"
 
 namespace tessarine::testing {
@@ -26,10 +27,26 @@ protected:
 
     QString count() const { return item(u"selectionCount"_qs).property("text").toString(); }
 
+    // The button of an open dialog: one of the bar may have the same text.
+    QQuickItem* buttonIn(const QString& dialog, const QString& text) const {
+        const auto* panel = root().findChild<QObject*>(dialog);
+        return buttonBelow(*panel->property("contentItem").value<QQuickItem*>(), text);
+    }
+
+    static QQuickItem* buttonBelow(const QQuickItem& top, const QString& text) {
+        for (QQuickItem* child : top.childItems()) {
+            if (child->inherits("QQuickAbstractButton") && child->property("text") == text)
+                return child;
+            if (QQuickItem* deeper = buttonBelow(*child, text))
+                return deeper;
+        }
+        return nullptr;
+    }
+
     void answer(const QString& dialog, const QString& text) {
         ASSERT_TRUE(turnsUntil([&] { return isShown(dialog); }));
         draw();
-        QQuickItem* button = entry(text);
+        QQuickItem* button = buttonIn(dialog, text);
         ASSERT_NE(button, nullptr);
         click(*button);
         ASSERT_TRUE(turnsUntil([&] { return isGone(dialog); }));
@@ -85,6 +102,41 @@ TEST_F(SelectionBarTest, PresetsAddUpAndCloseThePopover) {
     EXPECT_EQ(count(), u"10 selected"_qs);
 }
 
+TEST_F(SelectionBarTest, ThePopoverIs240WideAndHangsFromItsButton) {
+    click(item(u"selectByDate"_qs));
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"datePopover"_qs); }));
+    draw();
+    const auto* popover = root().findChild<QObject*>(u"datePopover"_qs);
+    const auto* panel = popover->property("background").value<QQuickItem*>();
+    EXPECT_EQ(panel->width(), 240);
+    const QRectF place = panel->mapRectToScene(panel->boundingRect());
+    const QQuickItem& button = item(u"selectByDate"_qs);
+    EXPECT_GE(place.top(), button.mapToScene(QPointF(0, button.height())).y());
+    EXPECT_TRUE(QRectF(0, 0, 720, 520).contains(place));
+    // Every range in its order, and no day: an empty area stands under its heading.
+    const auto* content = popover->property("contentItem").value<QQuickItem*>();
+    EXPECT_EQ(
+        textsIn(*content),
+        QStringList({u"Select by Date"_qs, u"Ranges"_qs, u"Today"_qs, u"Yesterday"_qs,
+                     u"Last 7 Days"_qs, u"Last 30 Days"_qs, u"This Month"_qs, u"Last Month"_qs,
+                     u"This Year"_qs, u"Days"_qs,
+                     u"Choices add up: each one adds its notifications to the selection."_qs}));
+}
+
+TEST_F(SelectionBarTest, TheDaysOfThePopoverScrollBeyond260) {
+    view().setShowDatePickerPopover(true);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"datePopover"_qs); }));
+    QQuickItem& days = item(u"days"_qs);
+    EXPECT_EQ(days.height(), 0);
+    // The program gives no days to show; a column of them stands in for that.
+    auto* column = days.property("contentItem").value<QQuickItem*>()->childItems().front();
+    column->setProperty("height", 259.0);
+    EXPECT_EQ(days.height(), 259);
+    column->setProperty("height", 700.0);
+    EXPECT_EQ(days.height(), 260);
+    EXPECT_EQ(days.property("contentHeight").toDouble(), 700);
+}
+
 TEST_F(SelectionBarTest, EscapeClosesThePopoverAndNothingElse) {
     click(item(u"selectByDate"_qs));
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"datePopover"_qs); }));
@@ -127,11 +179,43 @@ TEST_F(SelectionBarTest, DeleteAllAsksAndThenEmptiesTheHoard) {
     press(Qt::Key_Escape);
     ASSERT_TRUE(turnsUntil([&] { return isGone(u"deleteAllConfirm"_qs); }));
     EXPECT_EQ(hoard.totalCount(), 10);
-    view().setShowDeleteAllConfirm(true);
-    ASSERT_TRUE(turnsUntil([&] { return isShown(u"deleteAllConfirm"_qs); }));
-    view().deleteEverything();
+    EXPECT_TRUE(view().selectionMode());
+
+    click(item(u"deleteAll"_qs));
+    answer(u"deleteAllConfirm"_qs, u"Cancel"_qs);
+    EXPECT_EQ(hoard.totalCount(), 10);
+
+    click(item(u"deleteAll"_qs));
+    answer(u"deleteAllConfirm"_qs, u"Delete All"_qs);
     EXPECT_EQ(hoard.totalCount(), 0);
     EXPECT_EQ(view().face(), ContentView::Face::Waiting);
+    EXPECT_FALSE(view().selectionMode());
+}
+
+TEST_F(SelectionBarTest, TheQuestionsKeepTheirNumbersWhileTheyFade) {
+    AnimationClock clock;
+    click(*row(u"Title 9"_qs));
+    click(*row(u"Title 8"_qs));
+    click(item(u"deleteSelected"_qs));
+    clock.turnOn(1000);
+    click(*buttonIn(u"deleteSelectedConfirm"_qs, u"Delete"_qs));
+    clock.turnOn(50);
+    EXPECT_EQ(hoard.totalCount(), 8);
+    EXPECT_FALSE(isGone(u"deleteSelectedConfirm"_qs));
+    EXPECT_TRUE(textsInWindow(*window).contains(u"Delete 2 notifications?"_qs));
+    clock.turnOn(1000);
+
+    view().enterSelectionMode();
+    clock.turnOn(1000);
+    click(item(u"deleteAll"_qs));
+    clock.turnOn(1000);
+    click(*buttonIn(u"deleteAllConfirm"_qs, u"Delete All"_qs));
+    clock.turnOn(50);
+    EXPECT_EQ(hoard.totalCount(), 0);
+    EXPECT_FALSE(isGone(u"deleteAllConfirm"_qs));
+    EXPECT_TRUE(textsInWindow(*window).contains(u"Delete all notifications? (8 loaded)"_qs));
+    clock.turnOn(1000);
+    EXPECT_TRUE(isGone(u"deleteAllConfirm"_qs));
 }
 
 TEST_F(SelectionBarTest, DeleteAllSpeaksOfTheLoadedRows) {
