@@ -4,6 +4,8 @@
 #include "platform/Desktop.h"
 #include "platform/Platform.h"
 
+#include <QPointer>
+
 // In the sources that Qt makes for the module. Naming it keeps a static library's types from being
 // left out of the program.
 void qml_register_types_Tessarine_Export();
@@ -86,19 +88,38 @@ void ExportOptionsSheet::keepHidden() {
     Q_EMIT changed();
 }
 
+void ExportOptionsSheet::requestExport() {
+    ++dismissal_;
+    services_.scheduler.onMain([self = QPointer(this)] {
+        if (self)
+            self->runExport();
+    });
+}
+
 void ExportOptionsSheet::runExport() {
-    if (!canExport())
+    if (!canExport() || asksForPath_)
         return;
+    ++dismissal_;
     exportError_.reset();
     exportDone_ = false;
     Q_EMIT changed();
-    const std::weak_ptr<ExportOptionsSheet*> life = life_;
-    const std::optional<QString> path = services_.exports.askSaveURL(selectedFormat_);
-    if (!path || life.expired()) // events went on while the user decided
+    const std::optional<QString> path = askForPath();
+    if (!path)
         return;
     isExporting_ = true;
     Q_EMIT changed();
     dispatch(*path);
+}
+
+// Nothing when the user cancelled, and when the sheet has gone meanwhile.
+std::optional<QString> ExportOptionsSheet::askForPath() {
+    const QPointer self(this);
+    asksForPath_ = true;
+    const std::optional<QString> path = services_.exports.askSaveURL(selectedFormat_);
+    if (!self)
+        return std::nullopt;
+    asksForPath_ = false;
+    return path;
 }
 
 void ExportOptionsSheet::dispatch(const QString& path) {
@@ -137,9 +158,13 @@ void ExportOptionsSheet::finish(const ExportResult& result) {
     exportDone_ = true;
     Q_EMIT changed();
     services_.fileViewer.reveal(result.path());
-    services_.scheduler.onMainAfter(dismissDelay, [life = std::weak_ptr(life_)] {
-        if (const auto sheet = life.lock())
-            (*sheet)->dismiss();
+    dismissLater();
+}
+
+void ExportOptionsSheet::dismissLater() {
+    services_.scheduler.onMainAfter(dismissDelay, [self = QPointer(this), number = ++dismissal_] {
+        if (self && self->dismissal_ == number)
+            self->dismiss();
     });
 }
 

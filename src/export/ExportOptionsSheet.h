@@ -91,8 +91,13 @@ public:
     Q_INVOKABLE void keepHidden();
 
     // Asks for a path, writes the file on a worker, and at the end shows it to the user and closes
-    // the sheet. A failure leaves the sheet open with the failure's text.
-    Q_INVOKABLE void runExport();
+    // the sheet some time later, unless another export was started meanwhile. A failure leaves the
+    // sheet open with the failure's text. Does nothing while the user is being asked for a path.
+    void runExport();
+
+    // The same for a view: it begins when the handler that calls this has returned. While the user
+    // is being asked events go on, and the sheet with its handlers may go.
+    Q_INVOKABLE void requestExport();
 
     Q_INVOKABLE void cancel();
 
@@ -120,7 +125,9 @@ private:
 
     void onPreferencesChanged();
     void dispatch(const QString& path);
+    std::optional<QString> askForPath();
     void finish(const ExportResult& result);
+    void dismissLater();
     void dismiss();
 
     Services services_;
@@ -132,8 +139,10 @@ private:
     bool isExporting_ = false;
     std::optional<QString> exportError_;
     bool exportDone_ = false;
+    bool asksForPath_ = false;
+    int dismissal_ = 0; // the number of the last one; only that one may close the sheet
 
-    // What is still to come holds this weakly, and ends silently when the sheet is gone.
+    // What a worker brings back holds this weakly, and ends silently when the sheet is gone.
     std::shared_ptr<ExportOptionsSheet*> life_;
 };
 

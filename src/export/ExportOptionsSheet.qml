@@ -324,7 +324,7 @@ Sheet {
                     text: sheet.options.isExporting ? qsTrId("export.exporting")
                         : qsTrId("export.exportAs").arg(sheet.options.cards[sheet.options.selectedCard].name)
                     leftPadding: horizontalPadding + (spinner.visible ? spinner.width + Metrics.spacingSmall : 0)
-                    onClicked: sheet.options.runExport()
+                    onClicked: sheet.options.requestExport()
 
                     ProgressSpinner {
                         id: spinner

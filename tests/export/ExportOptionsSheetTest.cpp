@@ -134,6 +134,120 @@ TEST_F(ExportOptionsSheetTest, OneExportRunsAtATime) {
     EXPECT_EQ(panel.requests.size(), 1U);
 }
 
+// An export after an export
+
+TEST_F(ExportOptionsSheetTest, ASecondExportTakesThePendingClosingBack) {
+    panel.answer = path(u"out"_qs);
+    sheet->runExport();
+    system.scheduler.settle();
+    system.scheduler.advance(1);
+    panel.answer = path(u"second"_qs);
+    panel.meanwhile = [this] {
+        system.scheduler.advance(10); // the user thinks for a while
+        EXPECT_EQ(dismissed, 0);
+        EXPECT_FALSE(sheet->exportDone());
+    };
+    sheet->runExport();
+    system.scheduler.settle();
+    EXPECT_TRUE(contentOf(path(u"second"_qs)).startsWith("\xEF\xBB\xBF"));
+    EXPECT_TRUE(sheet->exportDone());
+    EXPECT_EQ(viewer.revealed, (std::vector{path(u"out"_qs), path(u"second"_qs)}));
+    system.scheduler.advance(1.49);
+    EXPECT_EQ(dismissed, 0);
+    system.scheduler.advance(0.02);
+    EXPECT_EQ(dismissed, 1);
+    system.scheduler.advance(10);
+    EXPECT_EQ(dismissed, 1);
+}
+
+TEST_F(ExportOptionsSheetTest, ASecondExportThatIsCancelledLeavesItOpen) {
+    panel.answer = path(u"out"_qs);
+    sheet->runExport();
+    system.scheduler.settle();
+    panel.answer.reset();
+    sheet->runExport();
+    system.scheduler.advance(10);
+    EXPECT_EQ(dismissed, 0);
+    EXPECT_FALSE(sheet->exportDone());
+    EXPECT_TRUE(sheet->canExport());
+}
+
+TEST_F(ExportOptionsSheetTest, ASecondExportThatFailsLeavesItOpenWithItsText) {
+    panel.answer = path(u"out"_qs);
+    sheet->runExport();
+    system.scheduler.settle();
+    panel.answer = path(u"gone/out"_qs);
+    sheet->runExport();
+    system.scheduler.advance(10);
+    EXPECT_EQ(dismissed, 0);
+    EXPECT_EQ(sheet->exportError(), u"Could not write CSV: No such file or directory"_qs);
+}
+
+TEST_F(ExportOptionsSheetTest, ExportsAgainAndAgainInEveryFormat) {
+    int number = 0;
+    for (int round = 0; round < 3; ++round) {
+        for (const ExportFormat format : allExportFormats) {
+            sheet->setSelectedFormat(format);
+            panel.answer = path(u"out%1"_qs.arg(++number));
+            sheet->runExport();
+            system.scheduler.settle();
+            EXPECT_TRUE(QFile::exists(*panel.answer)) << number;
+            EXPECT_TRUE(sheet->exportDone()) << number;
+            EXPECT_EQ(viewer.revealed.size(), std::size_t(number));
+            system.scheduler.advance(1.4);
+        }
+    }
+    EXPECT_EQ(dismissed, 0);
+    system.scheduler.advance(0.2);
+    EXPECT_EQ(dismissed, 1);
+}
+
+// What the view asks for
+
+TEST_F(ExportOptionsSheetTest, ARequestRunsTheExportWhenWhoeverAskedIsDone) {
+    panel.answer = path(u"out"_qs);
+    sheet->requestExport();
+    EXPECT_TRUE(panel.requests.empty());
+    ASSERT_TRUE(system.scheduler.runOneMainTask());
+    EXPECT_EQ(panel.requests.size(), 1U);
+    EXPECT_TRUE(sheet->isExporting());
+}
+
+TEST_F(ExportOptionsSheetTest, ARequestTakesThePendingClosingBackAtOnce) {
+    panel.answer = path(u"out"_qs);
+    sheet->runExport();
+    system.scheduler.settle();
+    system.scheduler.advance(1.49);
+    sheet->requestExport();
+    system.scheduler.advance(0.01); // the moment at which it would have closed
+    EXPECT_EQ(dismissed, 0);
+    EXPECT_EQ(panel.requests.size(), 2U);
+}
+
+TEST_F(ExportOptionsSheetTest, OnePanelIsOpenAtATime) {
+    panel.meanwhile = [this] {
+        sheet->requestExport();
+        sheet->runExport();
+        system.scheduler.settle();
+    };
+    sheet->requestExport();
+    sheet->requestExport();
+    ASSERT_TRUE(system.scheduler.runOneMainTask());
+    EXPECT_EQ(panel.requests.size(), 1U);
+    panel.meanwhile = {};
+    system.scheduler.settle();
+    sheet->requestExport(); // the user cancelled and tries again
+    system.scheduler.settle();
+    EXPECT_EQ(panel.requests.size(), 2U);
+}
+
+TEST_F(ExportOptionsSheetTest, ARequestOfASheetThatIsGoneIsForgotten) {
+    sheet->requestExport();
+    sheet.reset();
+    system.scheduler.settle();
+    EXPECT_TRUE(panel.requests.empty());
+}
+
 TEST_F(ExportOptionsSheetTest, CancelClosesIt) {
     sheet->cancel();
     EXPECT_EQ(dismissed, 1);

@@ -105,6 +105,12 @@ protected:
             target.mapToScene(QPointF(target.width() / 2, target.height() / 2)).toPoint());
     }
 
+    // Presses the button, and asks for the path.
+    void startExport() {
+        click("export");
+        ASSERT_TRUE(system.scheduler.runOneMainTask());
+    }
+
     // Presses an answer of the question.
     void answer(const QString& words) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return object("confirm").property("opened").toBool(); },
@@ -195,7 +201,47 @@ TEST_F(ExportSheetViewTest, TheKeyboardAloneIsEnough) {
     QTest::keyClick(window.get(), Qt::Key_Space);
     EXPECT_EQ(options->selectedFormat(), ExportFormat::txt);
     QTest::keyClick(window.get(), Qt::Key_Return); // the default action, wherever the keyboard is
+    ASSERT_TRUE(system.scheduler.runOneMainTask());
     EXPECT_TRUE(options->isExporting());
+}
+
+TEST_F(ExportSheetViewTest, EscapeCancelsWhileAnExportRuns) {
+    show();
+    panel.answer = path(u"out"_qs);
+    item("export").forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    ASSERT_TRUE(system.scheduler.runOneMainTask());
+    ASSERT_TRUE(options->isExporting());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_EQ(dismissed, 1);
+    system.scheduler.settle();
+    EXPECT_TRUE(item("done").isVisible());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_EQ(dismissed, 2);
+}
+
+TEST_F(ExportSheetViewTest, TheButtonHasTheKeyboardAgainAfterTheExport) {
+    show();
+    panel.answer = path(u"out"_qs);
+    item("export").forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    system.scheduler.settle();
+    EXPECT_TRUE(item("export").hasActiveFocus());
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    system.scheduler.settle();
+    EXPECT_EQ(panel.requests.size(), 2U);
+}
+
+TEST_F(ExportSheetViewTest, AMouseThatDragsItsBodyScrollsNothing) {
+    preferences.setGlobalPrivacyMode(true);
+    show(3, {720, 400});
+    const QQuickItem& body = item("body");
+    const QPoint from = body.mapToScene(QPointF(10, body.height() - 20)).toPoint();
+    QTest::mousePress(window.get(), Qt::LeftButton, {}, from);
+    for (int step = 1; step <= 10; ++step)
+        QTest::mouseMove(window.get(), from - QPoint(0, 8 * step));
+    QTest::mouseRelease(window.get(), Qt::LeftButton, {}, from - QPoint(0, 80));
+    EXPECT_EQ(body.property("contentY").toDouble(), 0);
 }
 
 TEST_F(ExportSheetViewTest, EscapeCancels) {
@@ -215,7 +261,7 @@ TEST_F(ExportSheetViewTest, BothButtonsThatCloseDoSo) {
 TEST_F(ExportSheetViewTest, ShowsAnExportFromStartToEnd) {
     show();
     panel.answer = path(u"out"_qs);
-    click("export");
+    startExport();
     EXPECT_EQ(text("export"), u"Exporting…"_qs);
     EXPECT_TRUE(item("spinner").isVisible());
     EXPECT_FALSE(item("export").isEnabled());
@@ -327,7 +373,7 @@ TEST_P(ExportPicturesTest, AreDrawn) {
         answer(u"Include Content"_qs);
     panel.answer = face == Face::Failed ? path(u"gone/out"_qs) : path(u"out"_qs);
     if (face == Face::Exporting || face == Face::Failed || face == Face::Done)
-        click("export");
+        startExport();
     if (face == Face::Failed || face == Face::Done)
         system.scheduler.settle();
     QTest::mouseMove(window.get(), QPoint(2, 2));

@@ -1,6 +1,11 @@
 #include "support/EventLoop.h"
 #include "ui/UiFixture.h"
 
+#include <QEventLoop>
+#include <QFile>
+
+#include <functional>
+
 namespace tessarine::testing {
 namespace {
 
@@ -84,6 +89,97 @@ TEST_F(ToolbarTest, TheExportSheetOpensAndCancelGivesTheKeyboardBack) {
     draw();
     press(Qt::Key_Escape);
     EXPECT_TRUE(turnsUntil([&] { return !view().showExportSheet() && list().hasActiveFocus(); }));
+}
+
+// Export
+
+class ToolbarExportTest : public ToolbarTest {
+protected:
+    ToolbarExportTest() {
+        // The dialog of the desktop runs an event loop of its own, in which anything may happen.
+        savePanel.meanwhile = [this] {
+            QEventLoop loop;
+            QMetaObject::invokeMethod(
+                &loop,
+                [&] {
+                    meanwhile();
+                    system.scheduler.advance(10);
+                    QMetaObject::invokeMethod(
+                        &loop, [&loop] { loop.quit(); }, Qt::QueuedConnection);
+                },
+                Qt::QueuedConnection);
+            loop.exec();
+        };
+    }
+
+    void openSheet() {
+        click(item(u"export"_qs));
+        ASSERT_TRUE(turnsUntil([&] { return isShown(u"exportSheet"_qs); }));
+        draw();
+    }
+
+    // Of the sheet: the toolbar's has another text.
+    void pressExport(const QString& name) {
+        savePanel.answer = folder.filePath(name);
+        QQuickItem* button = entry(u"Export as "_qs + formatName_);
+        ASSERT_NE(button, nullptr) << formatName_.toStdString();
+        click(*button);
+        system.scheduler.settle();
+        draw();
+    }
+
+    void choose(int card, const QString& name) {
+        click(item(u"card%1"_qs.arg(card)));
+        formatName_ = name;
+    }
+
+    std::function<void()> meanwhile = [] {};
+
+private:
+    QString formatName_ = u"CSV"_qs;
+};
+
+TEST_F(ToolbarExportTest, RunsAgainAndAgainInEveryFormatWhileItSaysThatItIsDone) {
+    openSheet();
+    const QStringList names{u"Text"_qs, u"CSV"_qs, u"PDF Report"_qs};
+    std::size_t files = 0;
+    for (int round = 0; round < 2; ++round) {
+        for (int card = 0; card < 3; ++card) {
+            choose(card, names[card]);
+            for (int again = 0; again < 2; ++again) {
+                pressExport(u"file%1"_qs.arg(++files));
+                EXPECT_TRUE(QFile::exists(*savePanel.answer)) << files;
+                EXPECT_TRUE(item(u"done"_qs).isVisible()) << files;
+                EXPECT_EQ(fileViewer.revealed.size(), files);
+            }
+        }
+    }
+    system.scheduler.advance(1.4);
+    EXPECT_TRUE(view().showExportSheet());
+    system.scheduler.advance(0.2);
+    EXPECT_FALSE(view().showExportSheet());
+}
+
+TEST_F(ToolbarExportTest, ASheetThatGoesWhileItsPanelIsOpenTakesNothingDownWithIt) {
+    openSheet();
+    meanwhile = [this] { view().setShowExportSheet(false); };
+    pressExport(u"file"_qs);
+    EXPECT_EQ(savePanel.requests.size(), 1U);
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"file"_qs)));
+    EXPECT_FALSE(isShown(u"exportSheet"_qs));
+    meanwhile = [] {};
+    openSheet();
+    pressExport(u"file"_qs);
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"file"_qs)));
+}
+
+TEST_F(ToolbarExportTest, TheKeyboardComesBackToTheButtonItWasOn) {
+    item(u"export"_qs).forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"exportSheet"_qs); }));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(turnsUntil([&] { return item(u"export"_qs).hasActiveFocus(); }));
+    EXPECT_TRUE(item(u"export"_qs).property("visualFocus").toBool());
 }
 
 TEST_F(ToolbarTest, ACaptureInTheMiddleOfTypingLeavesTheSearch) {
