@@ -40,6 +40,7 @@ Item {
             symbol: "square.grid.2x2"
             text: qsTrId("toolbar.group.byApp")
             toolTipText: qsTrId("selection.byApp.help")
+            panelOpen: appMenu.visible
             onClicked: appMenu.popup(byApp, 0, byApp.height + Metrics.spacingSmall)
 
             ContextMenu {
@@ -72,9 +73,12 @@ Item {
             symbol: "calendar"
             text: qsTrId("toolbar.group.byDate")
             toolTipText: qsTrId("selection.byDate.help")
+            panelOpen: datePopover.visible
             onClicked: bar.view.showDatePickerPopover = true
 
             DateSelectionPopover {
+                id: datePopover
+
                 view: bar.view
             }
         }

@@ -12,6 +12,7 @@ T.Button {
     property bool destructive
     property bool plain
     property string toolTipText
+    property bool panelOpen: false // a menu or popover of its own, which a tip would lie over
     property color ink: prominent ? Theme.colours.onFill
         : destructive ? Theme.colours.red : Theme.colours.label
 
@@ -53,6 +54,6 @@ T.Button {
 
     HoverTip {
         text: button.toolTipText
-        visible: button.hovered && !button.down
+        visible: button.hovered && !button.down && !button.panelOpen
     }
 }

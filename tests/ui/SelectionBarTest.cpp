@@ -2,6 +2,10 @@
 #include "ui/AnimationClock.h"
 #include "ui/UiFixture.h"
 
+#include <QTest>
+
+#include <utility>
+
 namespace tessarine::testing {
 namespace {
 
@@ -26,6 +30,14 @@ protected:
     }
 
     QString count() const { return item(u"selectionCount"_qs).property("text").toString(); }
+
+    static const QObject& tipOf(const QQuickItem& button) {
+        for (const QObject* child : button.findChildren<QObject*>()) {
+            if (child->inherits("QQuickToolTip"))
+                return *child;
+        }
+        qFatal("the button has no tip");
+    }
 
     // The button of an open dialog: one of the bar may have the same text.
     QQuickItem* buttonIn(const QString& dialog, const QString& text) const {
@@ -85,6 +97,24 @@ TEST_F(SelectionBarTest, AnAppIsSelectedFromItsMenu) {
     draw();
     click(*entry(u"Chat"_qs));
     EXPECT_EQ(count(), u"3 selected"_qs);
+}
+
+TEST_F(SelectionBarTest, NoTipLiesOverAMenuThatItsButtonOpened) {
+    for (const auto& [button, panel] : {std::pair{u"selectByApp"_qs, u"appMenu"_qs},
+                                        std::pair{u"selectByDate"_qs, u"datePopover"_qs}}) {
+        QQuickItem& opener = item(button);
+        QTest::mouseMove(window->window(), opener.mapToScene(QPointF(10, 10)).toPoint());
+        draw();
+        const QObject& tip = tipOf(opener);
+        ASSERT_TRUE(turnsUntil([&] { return tip.property("opened").toBool(); }));
+        clickAt(opener, {10, 10});
+        ASSERT_TRUE(turnsUntil([&] { return isShown(panel); }));
+        EXPECT_FALSE(tip.property("visible").toBool());
+        turnFor(1000); // a tip comes after 0.7 seconds
+        EXPECT_FALSE(tip.property("visible").toBool());
+        press(Qt::Key_Escape);
+        ASSERT_TRUE(turnsUntil([&] { return isGone(panel); }));
+    }
 }
 
 TEST_F(SelectionBarTest, PresetsAddUpAndCloseThePopover) {
