@@ -75,6 +75,7 @@ FocusScope {
 
                     width: list.width
                     selectionMode: root.view.selectionMode
+                    menuOpen: rowMenu.visible
                     onPressed: root.notePress(row)
                     onSingleTap: id => root.tapRow(id)
                     onDoubleTap: id => root.view.onDoubleTap(id)

@@ -21,6 +21,7 @@ Item {
     required property bool isLeaving
     required property string spokenText
     property bool selectionMode
+    property bool menuOpen // a context menu, which a tip would lie over
 
     readonly property int horizontalPadding: 10
     readonly property int verticalPadding: 6
@@ -29,6 +30,7 @@ Item {
     readonly property bool showsTitle: title.text && !masked
     readonly property bool showsBody: body.text && !masked
     readonly property bool drawnFocused: isFocused && !selectionMode
+    readonly property bool showsTip: pointer.hovered && !menuOpen && Window.window !== null
 
     signal pressed
     signal singleTap(uuid id)
@@ -131,7 +133,7 @@ Item {
     HoverTip {
         text: row.selectionMode ? (row.isSelected ? qsTrId("row.deselect") : qsTrId("row.select"))
             : row.masked ? qsTrId("row.clickToReveal") : qsTrId("row.singleClickToSelect").arg(row.appName)
-        visible: pointer.hovered && row.Window.window !== null
+        visible: row.showsTip
     }
 
     RowBackground {
