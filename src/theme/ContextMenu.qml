@@ -12,6 +12,10 @@ T.Menu {
     readonly property int widest: 420
     readonly property bool pointerCounts: mouse.moved
 
+    property point pointer // where it was pressed, in the window
+    readonly property bool opensLeft: pointer.x + implicitWidth + margins > (parent?.Window.width ?? 0)
+    readonly property bool opensUp: pointer.y + implicitHeight + margins > (parent?.Window.height ?? 0)
+
     implicitWidth: Math.max(narrowest, Math.min(widest, implicitContentWidth + leftPadding + rightPadding))
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: Metrics.spacingSmall
@@ -22,14 +26,12 @@ T.Menu {
     cascade: false
 
     // A corner of the menu lies at the pointer, whichever leaves it room in the window, so that nobody
-    // presses an entry without having aimed at it.
+    // presses an entry without having aimed at it. A menu knows its size only after it has opened.
     function popupAtPointer(place: point) {
-        const window = parent.Window;
-        const left = place.x + implicitWidth + margins > window.width;
-        const up = place.y + implicitHeight + margins > window.height;
-        const corner = parent.mapFromItem(null, place.x - (left ? implicitWidth : 0),
-                                          place.y - (up ? implicitHeight : 0));
-        popup(corner.x, corner.y);
+        pointer = place;
+        x = Qt.binding(() => parent.mapFromItem(null, pointer.x - (opensLeft ? width : 0), 0).x);
+        y = Qt.binding(() => parent.mapFromItem(null, 0, pointer.y - (opensUp ? height : 0)).y);
+        open();
     }
 
     onAboutToShow: {

@@ -388,6 +388,26 @@ TEST_F(RowReactionsTest, AMenuWithoutRoomLiesBesideThePointerAndNotUnderIt) {
     EXPECT_NEAR(pointer.y(), lowest->height(), 20);
 }
 
+TEST_F(RowReactionsTest, ACornerOfTheMenuLiesAtThePointerTheFirstTimeToo) {
+    const QQuickItem& row = rowOf(u"Title 2"_qs);
+    resizeTo(720, int(row.mapToScene(QPointF(0, row.height())).y()) + 40);
+    for (const QPointF place : {QPointF(200, 20), QPointF(690, 20)}) {
+        const QPoint pointer = row.mapToScene(place).toPoint();
+        QTest::mouseClick(window->window(), Qt::RightButton, {}, pointer);
+        ASSERT_TRUE(turnsUntil([&] { return isShown(u"rowMenu"_qs); }));
+        draw();
+        const auto* panel = root()
+                                .findChild<QObject*>(u"rowMenu"_qs)
+                                ->property("background")
+                                .value<QQuickItem*>();
+        const QRectF menu = panel->mapRectToScene(QRectF(0, 0, panel->width(), panel->height()));
+        EXPECT_EQ(menu.bottom(), pointer.y());
+        EXPECT_EQ(place.x() < 300 ? menu.left() : menu.right(), pointer.x());
+        press(Qt::Key_Escape);
+        ASSERT_TRUE(turnsUntil([&] { return isGone(u"rowMenu"_qs); }));
+    }
+}
+
 TEST_F(RowReactionsTest, ThereIsNoMenuInSelectionMode) {
     view().enterSelectionMode();
     draw();
