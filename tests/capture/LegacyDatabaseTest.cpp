@@ -5,14 +5,12 @@
 #include "support/PropertyListWriter.h"
 #include "tools/LegacyDatabase.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <limits>
 
 namespace tessarine {
@@ -32,57 +30,6 @@ void makeFile(const QString& path, const QByteArray& bytes = {}) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     ASSERT_EQ(file.write(bytes), bytes.size());
-}
-
-// Finding the file
-
-class LegacySearchTest : public ::testing::Test {
-protected:
-    QTemporaryDir temporary_;
-    QString folder_ = temporary_.path();
-};
-
-TEST_F(LegacySearchTest, AMissingFolderGivesTheFolder) {
-    const QString missing = folder_ + u"/missing"_qs;
-    EXPECT_EQ(findLegacyDatabase(missing), missing);
-}
-
-TEST_F(LegacySearchTest, AnEmptyFolderGivesTheFolder) {
-    EXPECT_EQ(findLegacyDatabase(folder_), folder_);
-}
-
-TEST_F(LegacySearchTest, FindsTheDatabaseAmongOtherFiles) {
-    for (const QString& name : {u"a.txt"_qs, u"b.db-wal"_qs, u"c.db"_qs, u"d.sqlite"_qs})
-        makeFile(folder_ + u'/' + name);
-    EXPECT_EQ(findLegacyDatabase(folder_), folder_ + u"/c.db"_qs);
-}
-
-TEST_F(LegacySearchTest, OnlyTheEndOfANameCounts) {
-    for (const QString& name : {u"a.db.old"_qs, u"b.db-shm"_qs, u"db"_qs, u"c.DB"_qs, u"dadb"_qs})
-        makeFile(folder_ + u'/' + name);
-    EXPECT_EQ(findLegacyDatabase(folder_), folder_);
-}
-
-TEST_F(LegacySearchTest, AHiddenFileCounts) {
-    makeFile(folder_ + u"/.db"_qs);
-    EXPECT_EQ(findLegacyDatabase(folder_), folder_ + u"/.db"_qs);
-}
-
-TEST_F(LegacySearchTest, AFolderWithSuchANameCounts) {
-    ASSERT_TRUE(QDir(folder_).mkdir(u"a.db"_qs));
-    EXPECT_EQ(findLegacyDatabase(folder_), folder_ + u"/a.db"_qs);
-}
-
-TEST_F(LegacySearchTest, ADanglingLinkCounts) {
-    ASSERT_TRUE(QFile::link(folder_ + u"/nowhere"_qs, folder_ + u"/a.db"_qs));
-    EXPECT_EQ(findLegacyDatabase(folder_), folder_ + u"/a.db"_qs);
-}
-
-TEST_F(LegacySearchTest, OfSeveralTheFirstInTheListingIsTaken) {
-    for (int i = 0; i < 20; ++i)
-        makeFile(folder_ + u"/%1.db"_qs.arg(i * 7919 % 100));
-    const std::filesystem::directory_iterator listing(folder_.toStdString());
-    EXPECT_EQ(findLegacyDatabase(folder_), QString::fromStdString(listing->path().string()));
 }
 
 // Reading

@@ -10,7 +10,7 @@ namespace tessarine {
 
 namespace {
 
-// In the specification's order.
+// In the order of the Icon Theme Specification.
 const QStringList kinds{QStringLiteral(".png"), QStringLiteral(".svg"), QStringLiteral(".xpm")};
 
 // The file of this name without its kind, in the first of the folders that has one.
