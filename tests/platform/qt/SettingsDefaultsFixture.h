@@ -29,7 +29,7 @@ protected:
     // The file as the next run of the program finds it: under another name, since Qt keeps what a
     // process has read or written in its memory.
     QString pathOfNextRun() const {
-        const QString path = folder.filePath(u"next-run.conf"_qs);
+        QString path = folder.filePath(u"next-run.conf"_qs);
         EXPECT_TRUE(QFile::copy(this->path(), path));
         return path;
     }
