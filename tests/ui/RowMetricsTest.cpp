@@ -112,6 +112,28 @@ protected:
                 << expected.name().toStdString();
     }
 
+    // What fills the card: pixels alone can't tell 0.13 from 0.14.
+    void expectGround(const QColor& expected, double opacity) const {
+        int grounds = 0;
+        for (const QQuickItem* item : part("RowBackground").childItems()) {
+            if (!item->isVisible() || !item->inherits("QQuickRectangle"))
+                continue;
+            ++grounds;
+            EXPECT_EQ(colour(*item), expected);
+            EXPECT_DOUBLE_EQ(item->opacity(), opacity);
+            EXPECT_EQ(item->property("radius").toDouble(), 8);
+        }
+        EXPECT_EQ(grounds, 1);
+    }
+
+    void expectOutline(double width, double opacity) const {
+        const QQuickItem& outline = part("tessarine::Outline");
+        EXPECT_EQ(colour(outline), colours().accent);
+        EXPECT_DOUBLE_EQ(outline.opacity(), opacity);
+        EXPECT_DOUBLE_EQ(outline.property("strokeWidth").toDouble(), width);
+        EXPECT_EQ(outline.property("radius").toDouble(), 8);
+    }
+
     QColor fill() const {
         const QRectF card = place(part("RowBackground"));
         return shown({card.right() - 60, card.bottom() - 5});
@@ -245,6 +267,7 @@ TEST_P(RowMetricsTest, InSelectionModeACircleStandsBeforeTheIcon) {
 // Backgrounds
 
 TEST_P(RowMetricsTest, AtRestItIsHalfFilledWithoutAStroke) {
+    expectGround(colours().controlBackground, 0.5);
     const QColor resting = over(colours().windowBackground, colours().controlBackground, 0.5);
     EXPECT_TRUE(isAlmost(fill(), resting)) << fill().name().toStdString();
     expectEdges(0, resting);
@@ -253,6 +276,7 @@ TEST_P(RowMetricsTest, AtRestItIsHalfFilledWithoutAStroke) {
 TEST_P(RowMetricsTest, UnderThePointerItIsFilledWithoutAStroke) {
     QTest::mouseMove(window->window(), rowItem().mapToScene(QPointF(300, 8)).toPoint());
     draw();
+    expectGround(colours().controlBackground, 1);
     EXPECT_EQ(fill(), colours().controlBackground);
     expectEdges(0, colours().controlBackground);
 }
@@ -260,6 +284,8 @@ TEST_P(RowMetricsTest, UnderThePointerItIsFilledWithoutAStroke) {
 TEST_P(RowMetricsTest, FocusedItHasAStrokeOfOneAndAHalfOnEverySide) {
     click(rowItem());
     QTest::mouseMove(window->window(), QPoint(1, 519));
+    expectGround(colours().accent, 0.13);
+    expectOutline(1.5, 0.55);
     const QColor filled = over(colours().windowBackground, colours().accent, 0.13);
     EXPECT_TRUE(isAlmost(fill(), filled)) << fill().name().toStdString();
     expectEdges(0, over(filled, colours().accent, 0.55));
@@ -270,6 +296,8 @@ TEST_P(RowMetricsTest, FocusedItHasAStrokeOfOneAndAHalfOnEverySide) {
 TEST_P(RowMetricsTest, SelectedItHasAStrokeOfOneOnEverySide) {
     view().enterSelectionMode();
     click(rowItem());
+    expectGround(colours().accent, 0.08);
+    expectOutline(1, 0.25);
     const QColor filled = over(colours().windowBackground, colours().accent, 0.08);
     EXPECT_TRUE(isAlmost(fill(), filled)) << fill().name().toStdString();
     expectEdges(0, over(filled, colours().accent, 0.25));
@@ -278,6 +306,7 @@ TEST_P(RowMetricsTest, SelectedItHasAStrokeOfOneOnEverySide) {
 
 TEST_P(RowMetricsTest, FocusCountsMoreThanThePointer) {
     click(rowItem()); // the pointer stays
+    expectGround(colours().accent, 0.13);
     EXPECT_TRUE(isAlmost(fill(), over(colours().windowBackground, colours().accent, 0.13)));
 }
 

@@ -320,7 +320,8 @@ TEST_F(RowReactionsTest, NoTipLiesOverTheMenu) {
     QTest::mouseMove(window->window(), place);
     draw();
     EXPECT_EQ(hovered.property("showsTip"), QVariant(true));
-    // Before the next frame, which may be long in coming, a row doesn't know that a menu lies over it.
+    // Before the next frame, which may be long in coming, a row doesn't know that a menu lies over
+    // it.
     QTest::mouseClick(window->window(), Qt::RightButton, {}, place);
     EXPECT_EQ(hovered.property("showsTip"), QVariant(false));
 }
@@ -396,10 +397,8 @@ TEST_F(RowReactionsTest, ACornerOfTheMenuLiesAtThePointerTheFirstTimeToo) {
         QTest::mouseClick(window->window(), Qt::RightButton, {}, pointer);
         ASSERT_TRUE(turnsUntil([&] { return isShown(u"rowMenu"_qs); }));
         draw();
-        const auto* panel = root()
-                                .findChild<QObject*>(u"rowMenu"_qs)
-                                ->property("background")
-                                .value<QQuickItem*>();
+        const auto* panel =
+            root().findChild<QObject*>(u"rowMenu"_qs)->property("background").value<QQuickItem*>();
         const QRectF menu = panel->mapRectToScene(QRectF(0, 0, panel->width(), panel->height()));
         EXPECT_EQ(menu.bottom(), pointer.y());
         EXPECT_EQ(place.x() < 300 ? menu.left() : menu.right(), pointer.x());
