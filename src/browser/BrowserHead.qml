@@ -22,7 +22,7 @@ Item {
     }
 
     // One that is in the selection bar when that leaves goes back, once what left is there again.
-    onSelectingChanged: if (!selecting) Qt.callLater(focusKeeper.restore, selectionBar)
+    onSelectingChanged: if (!selecting) focusKeeper.restoreLater(selectionBar)
 
     implicitHeight: 2 * Metrics.controlHeight + Metrics.spacingMedium + 2 * Metrics.spacingLarge - 2
 

@@ -115,8 +115,8 @@ public:
     qint64 hoardTotalCount() const { return hoardTotalCount_; }
     qint64 loadLimit() const { return loadLimit_; }
 
-    // To be called each time that the view is shown, and hidden. Shown, it counts the hoard; hidden,
-    // it derives nothing.
+    // To be called each time that the view is shown, and hidden. Shown, it counts the hoard;
+    // hidden, it derives nothing.
     void appear();
     void disappear();
 

@@ -37,6 +37,12 @@ void FocusKeeper::restore(const QQuickItem* panel) {
         target->forceActiveFocus(reason_);
 }
 
+void FocusKeeper::restoreLater(const QQuickItem* panel) {
+    QMetaObject::invokeMethod(
+        this, [this, panel = QPointer<const QQuickItem>(panel)] { restore(panel); },
+        Qt::QueuedConnection);
+}
+
 void FocusKeeper::moveOn(const QQuickItem* leaving, QQuickItem* to) {
     if (item_ && leaving->isAncestorOf(item_))
         to->forceActiveFocus(reason_);

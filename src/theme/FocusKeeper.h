@@ -23,6 +23,9 @@ public:
     // Gives the focus back, unless it is outside `panel` by now.
     Q_INVOKABLE void restore(const QQuickItem* panel);
 
+    // Does so in the next turn of the event loop, when what had the focus may be visible again.
+    Q_INVOKABLE void restoreLater(const QQuickItem* panel);
+
     // If the focus that was remembered is inside what is about to leave, it goes on to another item
     // until it is given back.
     Q_INVOKABLE void moveOn(const QQuickItem* leaving, QQuickItem* to);

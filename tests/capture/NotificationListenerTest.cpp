@@ -1,5 +1,4 @@
 #include "capture/ListenerFixture.h"
-
 #include "support/PropertyListWriter.h"
 
 #include <QFile>

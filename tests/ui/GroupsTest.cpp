@@ -275,10 +275,10 @@ protected:
         view().toggleGroup(mode == GroupMode::app ? u"Mail"_qs : u"2025-11-16"_qs);
         system.scheduler.advance(0.2);
         publish(numbered(3));
-        ASSERT_EQ(view().lines()->rowCount(), 1);
         window->window()->resize(720, 520);
         show();
         draw();
+        ASSERT_EQ(view().lines()->rowCount(), 1);
         system.scheduler.settle();
         draw();
     }
