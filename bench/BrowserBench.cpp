@@ -8,11 +8,11 @@
 #include "apps/AppLauncher.h"
 #include "browser/MainWindow.h"
 #include "capture/NotificationListener.h"
-#include "platform/linux/LinuxSymbols.h"
+#include "platform/linux/desktop/LinuxSymbols.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
 #include "theme/Theme.h"
-#include "theme/ViewEngine.h"
+#include "windows/ViewEngine.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

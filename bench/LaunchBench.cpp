@@ -9,7 +9,7 @@
 #include "apps/AppLauncher.h"
 #include "browser/MainWindow.h"
 #include "core/AppDelegate.h"
-#include "theme/ViewEngine.h"
+#include "windows/ViewEngine.h"
 
 #include <QApplication>
 #include <QFile>

@@ -74,3 +74,16 @@ function(tessarine_generated_qml_code name)
     set_source_files_properties(${together} PROPERTIES COMPILE_OPTIONS "-w;-g0" SKIP_AUTOGEN ON)
     target_sources(${name} PRIVATE ${together})
 endfunction()
+
+# Makes a library of tessarine_library() a QML module too.
+function(tessarine_qml_module name)
+    cmake_parse_arguments(ARG "" "URI" "DEPENDENCIES;QML_FILES" ${ARGN})
+    qt_add_qml_module(${name}
+        URI ${ARG_URI}
+        VERSION 1.0
+        RESOURCE_PREFIX /qt/qml
+        NO_PLUGIN
+        DEPENDENCIES ${ARG_DEPENDENCIES}
+        QML_FILES ${ARG_QML_FILES})
+    tessarine_generated_qml_code(${name})
+endfunction()

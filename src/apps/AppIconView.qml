@@ -1,5 +1,6 @@
 import QtQuick
 import Tessarine.Apps
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The icon of an application, or a tile with its initials while there is none.

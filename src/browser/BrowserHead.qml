@@ -1,5 +1,6 @@
 import QtQuick
 import Tessarine.Browser
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The head of the main window: the search field with the buttons that act on the whole list, and

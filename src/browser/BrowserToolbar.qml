@@ -1,5 +1,6 @@
 import QtQuick
 import Tessarine.Browser
+import Tessarine.Controls
 import Tessarine.Theme
 
 // What narrows, orders and groups the list, and how much of it is shown.

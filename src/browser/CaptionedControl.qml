@@ -1,4 +1,5 @@
 import QtQuick
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A control with a short caption before it.

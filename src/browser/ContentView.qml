@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tessarine.Browser
 import Tessarine.Export
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The root of the main window: what narrows the list, the list, or what stands in its place.

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tessarine.Browser
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The choices of the date popover: ranges first, then the days that have rows.

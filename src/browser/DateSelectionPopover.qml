@@ -1,5 +1,6 @@
 import QtQuick
 import Tessarine.Browser
+import Tessarine.Controls
 import Tessarine.Theme
 
 // Ranges and days whose rows can be added to the selection.

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.Theme
+import Tessarine.Controls
 
 // The context menu of a group's header.
 ContextMenu {

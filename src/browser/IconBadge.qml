@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.Theme
+import Tessarine.Controls
 
 // A small white symbol on a round ground, in a corner of an icon.
 Rectangle {

@@ -1,5 +1,6 @@
 import QtQuick
 import Tessarine.Browser
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A short message between toolbar and list.

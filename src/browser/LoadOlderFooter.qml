@@ -1,4 +1,5 @@
 import QtQuick
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The end of the list while the hoard holds more than is loaded.

@@ -1,8 +1,8 @@
 #include "browser/MainWindow.h"
 
 #include "browser/KeyMonitor.h"
-#include "browser/WindowFrame.h"
 #include "platform/UserDefaults.h"
+#include "windows/WindowFrame.h"
 
 #include <QGuiApplication>
 #include <QQmlError>

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Qt.labs.qmlmodels
 import Tessarine.Browser
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The notifications, grouped or not. The header of the group in sight stays at the top while its

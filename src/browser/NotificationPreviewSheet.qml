@@ -1,6 +1,7 @@
 import QtQuick
 import Tessarine.Apps
 import Tessarine.Browser
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A notification in full, whatever the list hides of it. Its text can be selected.

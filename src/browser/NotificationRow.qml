@@ -1,6 +1,7 @@
 import QtQuick
 import Tessarine.Apps
 import Tessarine.Browser
+import Tessarine.Controls
 import Tessarine.Theme
 
 // One notification in the list.

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A choice in the date popover: a symbol, a text, and a number where there is one.

@@ -1,4 +1,5 @@
 import QtQuick
+import Tessarine.Controls
 import Tessarine.Theme
 
 // What a choice in the date popover shows: a symbol, a text, and a number where there is one.

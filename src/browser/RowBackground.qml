@@ -1,4 +1,5 @@
 import QtQuick
+import Tessarine.Controls
 import Tessarine.Theme
 
 // What lies behind a row: its fill and edge, by the strongest of its states.

@@ -1,6 +1,6 @@
 import QtQuick
 import Tessarine.Browser
-import Tessarine.Theme
+import Tessarine.Controls
 
 // The context menu of a row.
 ContextMenu {

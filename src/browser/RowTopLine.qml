@@ -1,4 +1,5 @@
 import QtQuick
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The first line of a row: the application, and at the far end the time or how to see more.

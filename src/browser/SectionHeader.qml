@@ -1,6 +1,7 @@
 import QtQuick
 import Tessarine.Apps
 import Tessarine.Browser
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The header of a group: it opens and closes the group, and in selection mode selects it whole.

@@ -1,4 +1,5 @@
 import QtQuick
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The circle before a row in selection mode. Its column opens and closes with the mode.

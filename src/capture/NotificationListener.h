@@ -3,9 +3,9 @@
 #include "capture/CaptureSink.h"
 #include "capture/LegacyDatabase.h"
 #include "capture/UsernotedDatabase.h"
-#include "core/PreferencesStore.h"
 #include "diagnostics/DiagnosticsStore.h"
 #include "platform/Platform.h"
+#include "preferences/PreferencesStore.h"
 #include "store/HoardStore.h"
 
 #include <QObject>

@@ -3,9 +3,9 @@
 #include "apps/AppLauncher.h"
 #include "browser/MainWindow.h"
 #include "capture/NotificationListener.h"
-#include "core/PreferencesStore.h"
 #include "platform/Desktop.h"
 #include "platform/Platform.h"
+#include "preferences/PreferencesStore.h"
 #include "shell/MenuBarController.h"
 #include "theme/Theme.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/PreferencesStore.h"
 #include "diagnostics/DiagnosticsStore.h"
+#include "preferences/PreferencesStore.h"
 #include "store/HoardStore.h"
 
 #include <functional>

@@ -3,7 +3,7 @@
 #include "core/AppDelegate.h"
 #include "core/ApplicationSetup.h"
 #include "platform/SingleInstance.h"
-#include "theme/ViewEngine.h"
+#include "windows/ViewEngine.h"
 
 #include <QApplication>
 #include <QQmlEngine>

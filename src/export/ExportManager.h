@@ -1,12 +1,12 @@
 #pragma once
 
-#include "core/PreferencesStore.h"
 #include "export/ExportFormat.h"
 #include "export/ExportRecords.h"
 #include "export/ExportResult.h"
 #include "export/PdfReport.h"
 #include "platform/SavePanel.h"
 #include "platform/Scheduler.h"
+#include "preferences/PreferencesStore.h"
 #include "shared/CapturedNotification.h"
 
 #include <QByteArray>

@@ -1,8 +1,8 @@
 #include "export/ExportOptionsSheet.h"
 
-#include "core/PreferencesStore.h"
 #include "platform/Desktop.h"
 #include "platform/Platform.h"
+#include "preferences/PreferencesStore.h"
 
 #include <QPointer>
 

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tessarine.Export
+import Tessarine.Controls
 import Tessarine.Theme
 
 // Where the user chooses how to export. What doesn't fit into a low window scrolls; heading and

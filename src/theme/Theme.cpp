@@ -1,20 +1,33 @@
 #include "theme/Theme.h"
 
 #include "theme/Fonts.h"
-#include "theme/ViewEngine.h"
 
 #include <QJSEngine>
 #include <QQmlEngine>
 
 namespace tessarine {
 
+namespace {
+
+constexpr char engineProperty[] = "tessarineTheme";
+
+} // namespace
+
 Theme::Theme(SystemAppearance& appearance)
     : appearance_(appearance) {
     connect(&appearance_, &SystemAppearance::changed, this, &Theme::changed);
 }
 
+void Theme::installIn(QQmlEngine& engine) {
+    engine.setProperty(engineProperty, QVariant::fromValue(this));
+}
+
+Theme* Theme::of(const QQmlEngine& engine) {
+    return engine.property(engineProperty).value<Theme*>();
+}
+
 Theme* Theme::create(QQmlEngine* engine, QJSEngine*) {
-    Theme* theme = themeOf(*engine);
+    Theme* theme = of(*engine);
     QJSEngine::setObjectOwnership(theme, QJSEngine::CppOwnership);
     return theme;
 }

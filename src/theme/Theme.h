@@ -26,7 +26,13 @@ public:
     // The appearance outlives the theme.
     explicit Theme(SystemAppearance& appearance);
 
-    // The theme that the engine was made with; QML asks for it.
+    // Gives the engine this theme, which outlives it.
+    void installIn(QQmlEngine& engine);
+
+    // The theme of an engine.
+    static Theme* of(const QQmlEngine& engine);
+
+    // For QML, which asks for its singleton.
     static Theme* create(QQmlEngine* engine, QJSEngine* scripts);
 
     bool dark() const { return appearance_.prefersDark(); }

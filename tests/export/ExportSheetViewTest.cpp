@@ -1,8 +1,8 @@
 #include "export/ExportFixture.h"
 #include "export/ExportOptionsSheet.h"
-#include "platform/linux/LinuxSymbols.h"
+#include "platform/linux/desktop/LinuxSymbols.h"
 #include "theme/Theme.h"
-#include "theme/ViewEngine.h"
+#include "windows/ViewEngine.h"
 
 #include <QAccessible>
 #include <QDir>

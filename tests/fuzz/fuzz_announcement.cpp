@@ -1,7 +1,7 @@
 // Announcements that the bus's library has built from any arguments: what other programs can send
 // and the bus lets through.
 
-#include "platform/linux/NotificationMessages.h"
+#include "platform/linux/banners/NotificationMessages.h"
 
 #include <QString>
 

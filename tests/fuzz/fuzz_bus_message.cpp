@@ -1,8 +1,8 @@
 // Any bytes as a message of the bus: refused by the bus's library, or read by whatever reads
 // messages, with texts within their bounds.
 
-#include "platform/linux/BoundedText.h"
-#include "platform/linux/NotificationMessages.h"
+#include "platform/linux/banners/BoundedText.h"
+#include "platform/linux/banners/NotificationMessages.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Any body, to be kept up to the number of characters that its first byte says: the start of the
 // whole text without its markup.
 
-#include "platform/linux/NotificationMarkup.h"
+#include "platform/linux/banners/NotificationMarkup.h"
 #include "shared/Text.h"
 
 #include <cstddef>

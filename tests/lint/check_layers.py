@@ -5,7 +5,6 @@ file alone knows the time zone.
 usage: check_layers.py ROOT
 """
 
-import fnmatch
 import pathlib
 import re
 import sys
@@ -13,29 +12,29 @@ import sys
 import sources
 
 # From the bottom to the top: a file includes its own layer and those below.
-LAYERS = ["shared", "platform", "system", "store", "services", "capture", "theme", "views", "core"]
+LAYERS = ["shared", "platform", "system", "store", "services", "capture", "theme", "controls",
+          "windows", "views", "core"]
 
-# The first pattern that matches a file gives its layer. Diagnostics and preferences are services
-# that capture reports to and asks, although their folders hold views and the program's spine too.
-LAYER_OF_FILES = [
-    ("src/shared/*", "shared"),
-    ("src/platform/linux/*", "system"),
-    ("src/platform/macos/*", "system"),
-    ("src/platform/*", "platform"),
-    ("src/store/*", "store"),
-    ("src/diagnostics/DiagnosticEntry.*", "services"),
-    ("src/diagnostics/DiagnosticsStore.*", "services"),
-    ("src/core/PreferencesStore.*", "services"),
-    ("src/capture/*", "capture"),
-    ("src/theme/*", "theme"),
-    ("src/apps/*", "views"),
-    ("src/browser/*", "views"),
-    ("src/diagnostics/*", "views"),
-    ("src/export/*", "views"),
-    ("src/settings/*", "views"),
-    ("src/shell/*", "views"),
-    ("src/core/*", "core"),
-]
+# A folder is in one layer, with all that is below it.
+LAYER_OF_FOLDERS = {
+    "src/shared": "shared",
+    "src/platform": "platform",
+    "src/platform/linux": "system",
+    "src/platform/macos": "system",
+    "src/store": "store",
+    "src/preferences": "services",
+    "src/diagnostics": "services",
+    "src/capture": "capture",
+    "src/theme": "theme",
+    "src/controls": "controls",
+    "src/windows": "windows",
+    "src/apps": "views",
+    "src/browser": "views",
+    "src/export": "views",
+    "src/settings": "views",
+    "src/shell": "views",
+    "src/core": "core",
+}
 
 SYSTEM_FOLDERS = ["src/platform/linux", "src/platform/macos"]
 SYSTEM_MACRO = re.compile(
@@ -58,15 +57,10 @@ ZONE_SOURCE = re.compile(
 
 
 def layer_of(file):
-    for pattern, layer in LAYER_OF_FILES:
-        if fnmatch.fnmatchcase(file.as_posix(), pattern):
-            return layer
+    for folder in file.parents:
+        if folder.as_posix() in LAYER_OF_FOLDERS:
+            return LAYER_OF_FOLDERS[folder.as_posix()]
     return None
-
-
-def part_of(file):
-    """What must not depend on itself: a folder, or a layer's share of it."""
-    return f"{file.parent.as_posix()} ({layer_of(file)})"
 
 
 def system_folder_of(file):
@@ -121,14 +115,15 @@ def cycles(edges):
 
 
 def check_cycles(root, files):
-    between_files, between_parts = {}, {}
+    between_files, between_folders = {}, {}
     for file in files:
         for _, target in sources.project_includes(root, file):
             between_files.setdefault(file.as_posix(), set()).add(target.as_posix())
-            if part_of(file) != part_of(target):
-                between_parts.setdefault(part_of(file), set()).add(part_of(target))
+            if file.parent != target.parent:
+                between_folders.setdefault(file.parent.as_posix(), set()).add(
+                    target.parent.as_posix())
     return [f"{cycle[0]}: a cycle: {' -> '.join(cycle)}"
-            for cycle in cycles(between_files) + cycles(between_parts)]
+            for cycle in cycles(between_files) + cycles(between_folders)]
 
 
 def check_systems(root, files):

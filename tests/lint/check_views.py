@@ -15,9 +15,9 @@ AVOIDED = [
     (re.compile(r"\bTapHandler\b\s*\{"), None,
      "once a TapHandler has opened a menu, Qt hands it the left button too on Wayland; use a "
      "MouseArea"),
-    (re.compile(r"\bFlickable\b\s*\{"), "src/theme/ScrollArea.qml",
+    (re.compile(r"\bFlickable\b\s*\{"), "src/controls/ScrollArea.qml",
      "the mouse drags a Flickable as a finger would; use a ScrollArea"),
-    (re.compile(r"\bListView\b\s*\{"), "src/theme/ScrollList.qml",
+    (re.compile(r"\bListView\b\s*\{"), "src/controls/ScrollList.qml",
      "the mouse drags a ListView as a finger would; use a ScrollList"),
 ]
 

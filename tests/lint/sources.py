@@ -1,6 +1,7 @@
 """What the checks share: the sources of the project and what they include of each other."""
 
 import functools
+import os
 import pathlib
 import re
 
@@ -34,7 +35,7 @@ def include_lines(root, file):
 def resolve(root, file, name):
     """The project's file that a quoted include names, from the root; None for generated ones."""
     for folder in [*INCLUDE_FOLDERS, file.parent]:
-        candidate = pathlib.Path(folder) / name
+        candidate = pathlib.Path(os.path.normpath(pathlib.Path(folder) / name))
         if (root / candidate).is_file():
             return candidate
     return None

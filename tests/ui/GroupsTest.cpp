@@ -1,5 +1,5 @@
 #include "support/EventLoop.h"
-#include "ui/PointerInput.h"
+#include "support/PointerInput.h"
 #include "ui/UiFixture.h"
 
 #include <algorithm>

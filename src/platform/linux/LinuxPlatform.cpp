@@ -2,10 +2,10 @@
 #include "platform/SingleInstance.h"
 #include "platform/linux/HeapMemory.h"
 #include "platform/linux/InotifyWatcher.h"
-#include "platform/linux/LinuxAccessibility.h"
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxSingleInstance.h"
 #include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/banners/LinuxAccessibility.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/SettingsDefaults.h"
 

@@ -1,6 +1,7 @@
 #include "platform/linux/LinuxWorkspace.h"
 
-#include "platform/linux/ApplicationStart.h"
+#include "platform/linux/applications/ApplicationStart.h"
+#include "platform/linux/applications/ExecLine.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -76,7 +77,7 @@ LinuxWorkspace::runningApplications(const QString& bundleIdentifier) const {
     const std::optional<DesktopEntry> entry = entries_.find(bundleIdentifier);
     if (!entry)
         return {};
-    const QString command = entry->executable();
+    const QString command = executableOf(*entry);
     const QString program =
         QFileInfo(QDir::isAbsolutePath(command) ? command : QStandardPaths::findExecutable(command))
             .canonicalFilePath();

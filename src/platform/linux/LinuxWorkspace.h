@@ -2,9 +2,9 @@
 
 #include "platform/Scheduler.h"
 #include "platform/Workspace.h"
-#include "platform/linux/BannerProcess.h"
-#include "platform/linux/DesktopEntries.h"
-#include "platform/linux/LogindSleep.h"
+#include "platform/linux/applications/DesktopEntries.h"
+#include "platform/linux/banners/BannerProcess.h"
+#include "platform/linux/bus/LogindSleep.h"
 
 #include <QMultiHash>
 

@@ -1,0 +1,66 @@
+#include "platform/linux/desktop/LinuxSavePanel.h"
+
+#include "platform/SystemAppearance.h"
+#include "platform/linux/desktop/WidgetPalette.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileIconProvider>
+#include <QGuiApplication>
+#include <QStandardPaths>
+#include <QWindow>
+
+namespace tessarine {
+
+namespace {
+
+QString firstFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
+// Icons and types by names alone. The dialog would else look into each file of a folder for its
+// kind, and wait for ever for one that has nothing to read.
+class FileIcons : public QFileIconProvider {
+public:
+    using QFileIconProvider::icon;
+    QIcon icon(const QFileInfo& info) const override { return icon(info.isDir() ? Folder : File); }
+    QString type(const QFileInfo& info) const override {
+        return info.isDir() ? QString() : info.suffix();
+    }
+};
+
+// In front of the window that the user is in, and not to be left before it is answered.
+void standBefore(QWindow* window, QFileDialog& dialog) {
+    dialog.winId(); // makes its window
+    dialog.windowHandle()->setTransientParent(window);
+}
+
+} // namespace
+
+LinuxSavePanel::LinuxSavePanel(const SystemAppearance& appearance)
+    : appearance_(appearance) {}
+
+std::optional<QString> LinuxSavePanel::runModal(const Request& request) {
+    if (folder_.isEmpty() || !QDir(folder_).exists())
+        folder_ = firstFolder();
+    FileIcons icons;
+    QFileDialog dialog(nullptr, request.title);
+    dialog.setIconProvider(&icons);
+    dialog.setDirectory(folder_);
+    dialog.setPalette(widgetPalette(appearance_.prefersDark()));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setLabelText(QFileDialog::Accept, request.prompt);
+    dialog.selectFile(request.name);
+    if (QWindow* const window = QGuiApplication::focusWindow())
+        standBefore(window, dialog);
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    const QString path = dialog.selectedFiles().value(0);
+    if (!isAccepted || path.isEmpty())
+        return std::nullopt;
+    folder_ = QFileInfo(path).absolutePath();
+    return path;
+}
+
+} // namespace tessarine

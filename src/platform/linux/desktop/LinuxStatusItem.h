@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/StatusItem.h"
+#include "platform/linux/desktop/LinuxTrayWatch.h"
+
+#include <QMenu>
+#include <QObject>
+#include <QPointer>
+#include <QSystemTrayIcon>
+#include <QTimer>
+
+#include <chrono>
+#include <memory>
+
+namespace tessarine {
+
+class LinuxStatusPanel;
+class Symbols;
+class SystemAppearance;
+
+// The status item in the desktop's tray, and where there is none, on a panel of our own. The tray
+// may come after the program, as at login, and it may go: the item moves.
+class LinuxStatusItem : public QObject, public StatusItem {
+    Q_OBJECT
+
+public:
+    // How long a desktop without a tray may take to bring one, before the panel stands in for it.
+    static constexpr std::chrono::milliseconds grace{2000};
+
+    // Both outlive the item.
+    LinuxStatusItem(const Symbols& symbols, const SystemAppearance& appearance);
+    ~LinuxStatusItem() override;
+
+    void setImage(const QString& symbolName, const QString& accessibilityDescription) override;
+    void setTitle(const QString& title) override;
+    void setMenuBuilder(MenuBuilder builder) override;
+    void show() override;
+
+private:
+    void moveToFittingPlace();
+    void showInTray();
+    void showOnPanel();
+    void refresh();
+    void refillTrayMenu();
+    void popUpMenu(const QPoint& place);
+
+    const Symbols& symbols_;
+    const SystemAppearance& appearance_;
+    QString symbolName_;
+    QString description_;
+    QString title_;
+    MenuBuilder builder_;
+    LinuxTrayWatch watch_;
+    QTimer graceTimer_;
+    std::unique_ptr<QMenu> trayMenu_;
+    std::unique_ptr<QSystemTrayIcon> tray_;
+    std::unique_ptr<LinuxStatusPanel> panel_;
+    QPointer<QMenu> openMenu_;
+};
+
+} // namespace tessarine

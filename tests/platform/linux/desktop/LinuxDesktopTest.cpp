@@ -1,0 +1,375 @@
+#include "platform/linux/desktop/LinuxStatusItem.h"
+#include "platform/linux/desktop/LinuxStatusPanel.h"
+#include "platform/linux/desktop/LinuxSymbols.h"
+#include "platform/linux/desktop/LinuxSystemAppearance.h"
+#include "platform/linux/desktop/StatusPicture.h"
+#include "support/EventLoop.h"
+#include "support/SimulatedDesktop.h"
+#include "ui/PrivateBus.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace tessarine {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::SimulatedAppearance;
+using testing::turnsUntil;
+
+// Symbols
+
+class SymbolTest : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(SymbolTest, IsDrawnInItsColourAtTheSizeAskedFor) {
+    const QColor tint(10, 200, 30);
+    const QImage image = LinuxSymbols().image(QString::fromStdString(GetParam()), 48, tint);
+    ASSERT_EQ(image.size(), QSize(48, 48));
+    int solid = 0;
+    for (int y = 0; y < 48; ++y)
+        for (int x = 0; x < 48; ++x)
+            solid += image.pixelColor(x, y) == tint ? 1 : 0;
+    EXPECT_GT(solid, 48 * 48 / 20);
+    EXPECT_EQ(image.pixelColor(0, 47).alpha(), 0);
+}
+
+std::vector<std::string> allSymbols() {
+    std::vector<std::string> names;
+    for (const QString& name : LinuxSymbols::names())
+        names.push_back(name.toStdString());
+    return names;
+}
+
+std::string plainName(const ::testing::TestParamInfo<std::string>& info) {
+    std::string name = info.param;
+    std::erase(name, '.');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, SymbolTest, ::testing::ValuesIn(allSymbols()), plainName);
+
+TEST(Symbols, AnUnknownNameHasNoPicture) {
+    EXPECT_TRUE(LinuxSymbols().image(u"no.such.symbol"_qs, 16, Qt::black).isNull());
+    EXPECT_TRUE(LinuxSymbols().image(u"bell.fill"_qs, 0, Qt::black).isNull());
+    EXPECT_TRUE(LinuxSymbols().image(u"../bell.fill"_qs, 16, Qt::black).isNull());
+}
+
+// Appearance
+
+TEST(LinuxAppearance, WithoutABusThePaletteDecides) {
+    const QPalette before = QGuiApplication::palette();
+    LinuxSystemAppearance appearance{QDBusConnection(u"none"_qs)};
+    const QSignalSpy changes(&appearance, &SystemAppearance::changed);
+    QPalette dark = before;
+    dark.setColor(QPalette::Window, Qt::black);
+    dark.setColor(QPalette::WindowText, Qt::white);
+
+    QGuiApplication::setPalette(dark);
+    EXPECT_TRUE(appearance.prefersDark());
+    EXPECT_EQ(changes.count(), 1);
+    QGuiApplication::setPalette(before);
+    EXPECT_FALSE(appearance.prefersDark());
+    EXPECT_EQ(changes.count(), 2);
+}
+
+TEST(LinuxAppearance, WhatTheProgramAsksForComesBeforeTheDesktop) {
+    LinuxSystemAppearance appearance{QDBusConnection(u"none"_qs)};
+    const QSignalSpy changes(&appearance, &SystemAppearance::changed);
+    appearance.setAppearance(Appearance::dark);
+    EXPECT_TRUE(appearance.prefersDark());
+    appearance.setAppearance(Appearance::dark);
+    EXPECT_EQ(changes.count(), 1);
+    appearance.setAppearance(Appearance::system);
+    EXPECT_FALSE(appearance.prefersDark());
+    EXPECT_EQ(changes.count(), 2);
+}
+
+// A settings portal as desktops run it, on a bus of its own.
+class FakePortal : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    explicit FakePortal(QDBusConnection bus)
+        : bus_(std::move(bus)) {
+        bus_.registerObject(path_, this, QDBusConnection::ExportAllSlots);
+        bus_.registerService(u"org.freedesktop.portal.Desktop"_qs);
+    }
+
+    void change(const QString& group, uint value) {
+        QDBusMessage signal = QDBusMessage::createSignal(
+            path_, u"org.freedesktop.portal.Settings"_qs, u"SettingChanged"_qs);
+        signal << group << u"color-scheme"_qs << QVariant::fromValue(QDBusVariant(value));
+        bus_.send(signal);
+    }
+
+    uint scheme = 0;
+
+public Q_SLOTS:
+    QDBusVariant Read(const QString& group, const QString& key) const {
+        const bool known = group == u"org.freedesktop.appearance" && key == u"color-scheme";
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(known ? QVariant(scheme) : 99U)));
+    }
+
+private:
+    const QString path_ = u"/org/freedesktop/portal/desktop"_qs;
+    QDBusConnection bus_;
+};
+
+class PortalTest : public ::testing::Test {
+protected:
+    bool becomesDark(const SystemAppearance& appearance, bool dark) {
+        return turnsUntil([&] { return appearance.prefersDark() == dark; });
+    }
+
+    testing::PrivateBus bus_;
+    const QString group_ = u"org.freedesktop.appearance"_qs;
+};
+
+TEST_F(PortalTest, TheSettingOfTheDesktopIsReadAndFollowed) {
+    FakePortal portal(bus_.connection(u"portal"_qs));
+    portal.scheme = 1;
+    LinuxSystemAppearance appearance(bus_.connection(u"program"_qs));
+    EXPECT_FALSE(appearance.prefersDark()); // nobody has waited for the answer
+    EXPECT_TRUE(becomesDark(appearance, true));
+    portal.change(group_, 2);
+    EXPECT_TRUE(becomesDark(appearance, false));
+    portal.change(group_, 1);
+    EXPECT_TRUE(becomesDark(appearance, true));
+    portal.change(group_, 0); // no preference: the palette, which is light
+    EXPECT_TRUE(becomesDark(appearance, false));
+}
+
+TEST_F(PortalTest, APortalThatComesLaterIsAsked) {
+    LinuxSystemAppearance appearance(bus_.connection(u"program"_qs));
+    FakePortal portal(bus_.connection(u"portal"_qs));
+    portal.scheme = 1;
+    EXPECT_TRUE(becomesDark(appearance, true));
+}
+
+TEST_F(PortalTest, OtherSettingsAreNoneOfOurs) {
+    LinuxSystemAppearance appearance(bus_.connection(u"program"_qs));
+    FakePortal portal(bus_.connection(u"portal"_qs));
+    portal.change(u"org.gnome.desktop.interface"_qs, 1);
+    portal.scheme = 0;
+    portal.change(u"com.example"_qs, 1);
+    EXPECT_FALSE(turnsUntil([&] { return appearance.prefersDark(); }, 300));
+}
+
+// Tray
+
+// The service with which tray hosts and items find each other.
+class FakeWatcher : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
+    Q_PROPERTY(bool IsStatusNotifierHostRegistered MEMBER hasHost)
+
+public:
+    explicit FakeWatcher(QDBusConnection bus)
+        : bus_(std::move(bus)) {
+        bus_.registerObject(u"/StatusNotifierWatcher"_qs, this,
+                            QDBusConnection::ExportAllProperties |
+                                QDBusConnection::ExportAllSignals);
+        bus_.registerService(u"org.kde.StatusNotifierWatcher"_qs);
+    }
+    ~FakeWatcher() override { bus_.unregisterService(u"org.kde.StatusNotifierWatcher"_qs); }
+
+    bool hasHost = true;
+
+Q_SIGNALS:
+    void StatusNotifierHostRegistered();
+    void StatusNotifierHostUnregistered();
+
+private:
+    QDBusConnection bus_;
+};
+
+class TrayWatchTest : public ::testing::Test {
+protected:
+    bool becomesPresent(const LinuxTrayWatch& watch, bool present) {
+        return turnsUntil([&] { return watch.isPresent() == present; });
+    }
+
+    testing::PrivateBus bus_;
+};
+
+TEST_F(TrayWatchTest, ATrayThatWasThereBeforeIsFound) {
+    const FakeWatcher watcher(bus_.connection(u"tray"_qs));
+    const LinuxTrayWatch watch(bus_.connection(u"program"_qs));
+    EXPECT_FALSE(watch.isPresent()); // nobody has waited for the answer
+    EXPECT_TRUE(becomesPresent(watch, true));
+}
+
+TEST_F(TrayWatchTest, ATrayMayComeAndGo) {
+    const LinuxTrayWatch watch(bus_.connection(u"program"_qs));
+    auto watcher = std::make_unique<FakeWatcher>(bus_.connection(u"tray"_qs));
+    EXPECT_TRUE(becomesPresent(watch, true));
+    watcher.reset();
+    EXPECT_TRUE(becomesPresent(watch, false));
+}
+
+TEST_F(TrayWatchTest, AServiceWithoutAHostIsNoTrayUntilOneComes) {
+    FakeWatcher watcher(bus_.connection(u"tray"_qs));
+    watcher.hasHost = false;
+    const LinuxTrayWatch watch(bus_.connection(u"program"_qs));
+    EXPECT_FALSE(turnsUntil([&] { return watch.isPresent(); }, 300));
+    watcher.hasHost = true;
+    Q_EMIT watcher.StatusNotifierHostRegistered();
+    EXPECT_TRUE(becomesPresent(watch, true));
+    watcher.hasHost = false;
+    Q_EMIT watcher.StatusNotifierHostUnregistered();
+    EXPECT_TRUE(becomesPresent(watch, false));
+}
+
+TEST(TrayWatch, WithoutABusThereIsNone) {
+    const LinuxTrayWatch watch{QDBusConnection(u"none"_qs)};
+    EXPECT_FALSE(watch.isPresent());
+}
+
+// Panel
+
+class PanelTest : public ::testing::Test {
+protected:
+    PanelTest() {
+        panel_.setContent(u"bell.fill"_qs, u"Tessarine"_qs, u" 5"_qs);
+        panel_.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&panel_, testing::patienceMs));
+    }
+
+    LinuxSymbols symbols_;
+    SimulatedAppearance appearance_;
+    LinuxStatusPanel panel_{symbols_, appearance_};
+    QSignalSpy requests_{&panel_, &LinuxStatusPanel::menuRequested};
+};
+
+TEST_F(PanelTest, StandsInTheCornerAndKeepsItsRightEdgeWhenItGrows) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(panel_.geometry().right(), room.right() - 12);
+    EXPECT_EQ(panel_.geometry().top(), room.top() + 12);
+    const int width = panel_.width();
+    panel_.setContent(u"bell.fill"_qs, u"Tessarine"_qs, u" 99+"_qs);
+    EXPECT_GT(panel_.width(), width);
+    EXPECT_EQ(panel_.geometry().right(), room.right() - 12);
+}
+
+TEST_F(PanelTest, TellsAScreenReaderItsNameAndCount) {
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&panel_);
+    EXPECT_EQ(spoken->role(), QAccessible::Button);
+    EXPECT_EQ(spoken->text(QAccessible::Name), u"Tessarine 5"_qs);
+}
+
+TEST_F(PanelTest, EitherMouseButtonAsksForTheMenu) {
+    QTest::mouseClick(&panel_, Qt::LeftButton);
+    EXPECT_EQ(requests_.count(), 1);
+    QTest::mouseClick(&panel_, Qt::RightButton);
+    EXPECT_EQ(requests_.count(), 2);
+    QTest::mouseClick(&panel_, Qt::MiddleButton);
+    EXPECT_EQ(requests_.count(), 2);
+}
+
+TEST_F(PanelTest, SpaceReturnAndTheMenuKeyAskForTheMenu) {
+    int expected = 0;
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Menu}) {
+        QTest::keyClick(&panel_, key);
+        EXPECT_EQ(requests_.count(), ++expected);
+    }
+    QTest::keyClick(&panel_, Qt::Key_A);
+    EXPECT_EQ(requests_.count(), expected);
+}
+
+TEST_F(PanelTest, AScreenReaderCanPressIt) {
+    QAccessible::queryAccessibleInterface(&panel_)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(turnsUntil([this] { return requests_.count() == 1; }));
+}
+
+TEST_F(PanelTest, DraggingMovesItAndOpensNoMenu) {
+    const QPoint before = panel_.pos();
+    const auto drag = [this](QEvent::Type type, const QPoint& place, Qt::MouseButton button) {
+        QMouseEvent event(type, panel_.mapFromGlobal(place), place, button,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(&panel_, &event);
+    };
+    drag(QEvent::MouseButtonPress, before + QPoint(5, 5), Qt::LeftButton);
+    drag(QEvent::MouseMove, before + QPoint(-195, 105), Qt::NoButton);
+    drag(QEvent::MouseButtonRelease, before + QPoint(-195, 105), Qt::LeftButton);
+    EXPECT_EQ(panel_.pos(), before + QPoint(-200, 100));
+    EXPECT_EQ(requests_.count(), 0);
+
+    const int right = panel_.geometry().right();
+    panel_.setContent(u"bell.fill"_qs, u"Tessarine"_qs, {});
+    EXPECT_EQ(panel_.geometry().right(), right);
+    EXPECT_EQ(panel_.y(), before.y() + 100);
+}
+
+// Status item
+
+class StatusItemTest : public ::testing::Test {
+protected:
+    StatusItemTest() {
+        item_.setImage(u"bell.fill"_qs, u"Tessarine"_qs);
+        item_.setTitle(u" 5"_qs);
+        item_.setMenuBuilder([this](QMenu& menu) {
+            menu.addAction(u"Built %1 times"_qs.arg(++built_), [this] { ++triggered_; });
+        });
+    }
+
+    static LinuxStatusPanel* panel() {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* found = qobject_cast<LinuxStatusPanel*>(widget); found && found->isVisible())
+                return found;
+        return nullptr;
+    }
+
+    LinuxSymbols symbols_;
+    SimulatedAppearance appearance_;
+    LinuxStatusItem item_{symbols_, appearance_};
+    int built_ = 0;
+    int triggered_ = 0;
+};
+
+TEST_F(StatusItemTest, WithoutATrayThePanelComesAfterTheGraceTime) {
+    item_.show();
+    EXPECT_EQ(panel(), nullptr);
+    ASSERT_TRUE(turnsUntil([] { return panel() != nullptr; }));
+    EXPECT_EQ(panel()->accessibleName(), u"Tessarine 5"_qs);
+    item_.setTitle({});
+    EXPECT_EQ(panel()->accessibleName(), u"Tessarine"_qs);
+
+    for (int click = 1; click <= 2; ++click) {
+        QTest::mouseClick(panel(), Qt::LeftButton);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        ASSERT_EQ(menu->actions().size(), 1); // fresh, not added to
+        EXPECT_EQ(menu->actions()[0]->text(), u"Built %1 times"_qs.arg(click));
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+        EXPECT_EQ(triggered_, click);
+    }
+}
+
+TEST(StatusPicture, ATagAppearsOnlyWithATitle) {
+    const LinuxSymbols symbols;
+    const auto corner = [&](const QString& title) {
+        const QImage image =
+            statusIcon(symbols, u"bell.fill"_qs, title, true).pixmap(QSize(24, 24), 1.0).toImage();
+        EXPECT_EQ(image.size(), QSize(24, 24));
+        return image.pixelColor(22, 19);
+    };
+    EXPECT_EQ(corner({}).alpha(), 0);
+    EXPECT_EQ(corner(u" 5"_qs), QColor(0xd8, 0x2c, 0x2c));
+}
+
+} // namespace
+} // namespace tessarine
+
+#include "LinuxDesktopTest.moc"
