@@ -79,16 +79,16 @@ struct Browser {
     testing::SimulatedPlatform system{folder.path()};
     HoardStore hoard{system.fileSystem, system.defaults, system.scheduler};
     PreferencesStore preferences{system.defaults};
-    DiagnosticsStore diagnostics{system.scheduler, [this]() -> HoardStore& { return hoard; }};
-    std::shared_ptr<NotificationListener> listener = NotificationListener::create(
-        {[this]() -> HoardStore& { return hoard; }, preferences, diagnostics, system.platform});
+    DiagnosticsStore diagnostics{system.scheduler, hoard};
+    std::shared_ptr<NotificationListener> listener =
+        NotificationListener::create({hoard, preferences, diagnostics, system.platform});
     AppLauncher launcher{system.workspace, system.fileSystem, system.scheduler};
     testing::SimulatedAppearance appearance;
     LinuxSymbols symbols;
     Theme theme{appearance};
     std::unique_ptr<QQmlEngine> engine = makeViewEngine(theme, symbols);
-    MainWindow window{{listener, [this]() -> HoardStore& { return hoard; }, preferences,
-                       system.scheduler, launcher, [](const QString&) {},
+    MainWindow window{{listener, hoard, preferences, system.scheduler, launcher,
+                       [](const QString&) {},
                        [](NotificationList, std::function<void()>) {
                            return std::unique_ptr<ExportOptionsSheet>();
                        }},
@@ -182,6 +182,7 @@ void bareFetch(sqlite3* bare, int limit) {
 
 void loadingOlder(qint64 count) {
     Browser browser;
+    browser.hoard.open();
     fill(browser.hoard.path(), count);
     browser.listener->setNotifications(browser.hoard.fetchRecent(500));
     browser.window.window()->resize(720, 520);

@@ -40,6 +40,7 @@ struct Hoard {
         defaults.setTextList(
             QStringLiteral("excludedBundleIds"),
             {QStringLiteral("com.example.one"), QStringLiteral("com.example.two")});
+        store.open();
         sqlite3_open(store.path().toUtf8().constData(), &bare);
         const std::string fill =
             "WITH RECURSIVE n(i) AS (SELECT 1 WHERE " + std::to_string(rows) +

@@ -40,6 +40,7 @@ std::string codesStatement() {
 // A million rows within the last hundred days, without anything like a code.
 struct Hoard {
     Hoard() {
+        store.open();
         sqlite3_open(store.path().toUtf8().constData(), &bare);
         run("WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i + 1 FROM n WHERE i < 1000000) "
             "INSERT INTO notifications(bundle_id, app_name, title, body, timestamp) SELECT "

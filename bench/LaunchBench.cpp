@@ -60,11 +60,11 @@ int runChild(int argc, char** argv, double start) {
     installAppIcons(*views, AppIconResolver::shared().shared_from_this());
     reached("2-engine", start);
     const auto listener =
-        NotificationListener::create({&HoardStore::shared, PreferencesStore::shared(),
+        NotificationListener::create({HoardStore::shared(), PreferencesStore::shared(),
                                       DiagnosticsStore::shared(), Platform::shared()});
     AppLauncher launcher(*Platform::shared().workspace, *Platform::shared().fileSystem,
                          *Platform::shared().scheduler);
-    MainWindow window({listener, &HoardStore::shared, PreferencesStore::shared(),
+    MainWindow window({listener, HoardStore::shared(), PreferencesStore::shared(),
                        *Platform::shared().scheduler, launcher, [](const QString&) {},
                        [](NotificationList, std::function<void()>) {
                            return std::unique_ptr<ExportOptionsSheet>();
@@ -96,7 +96,8 @@ void makeHoard(const QString& home, const QByteArray& rows) {
     qputenv("XDG_DATA_HOME", folder.toUtf8());
     qputenv("XDG_CONFIG_HOME", (home + QStringLiteral("/.config")).toUtf8());
     Platform::install(makePlatform());
-    const HoardStore& store = HoardStore::shared(); // makes the schema
+    HoardStore& store = HoardStore::shared();
+    store.open();
     sqlite3* bare = nullptr;
     sqlite3_open(store.path().toUtf8().constData(), &bare);
     const QByteArray fill =

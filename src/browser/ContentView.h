@@ -88,7 +88,7 @@ public:
 
     struct Services {
         std::shared_ptr<NotificationListener> listener;
-        std::function<HoardStore&()> hoard;
+        HoardStore& hoard;
         PreferencesStore& preferences;
         Scheduler& scheduler;
         AppLauncher& launcher;
@@ -209,7 +209,7 @@ Q_SIGNALS:
 
 private:
     const NotificationList& notifications() const;
-    HoardStore& hoard() const { return services_.hoard(); }
+    HoardStore& hoard() const { return services_.hoard; }
     void takeList();
     void readAhead();
     void updateLines();

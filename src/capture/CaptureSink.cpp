@@ -49,7 +49,7 @@ void CaptureSink::storeLater(CaptureOrigin origin, const CapturedNotification& n
 }
 
 Insertion CaptureSink::tryToStore(const Capture& capture) {
-    const Insertion result = insert(services_.hoard(), capture.origin, capture.notification);
+    const Insertion result = insert(services_.hoard, capture.origin, capture.notification);
     isLocked_ = result == Insertion::locked;
     if (result == Insertion::stored)
         tellOfStored(capture);

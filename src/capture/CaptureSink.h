@@ -20,7 +20,7 @@ enum class CaptureOrigin { banner, usernoted, legacy, recovery };
 class CaptureSink : public std::enable_shared_from_this<CaptureSink> {
 public:
     struct Services {
-        std::function<HoardStore&()> hoard; // asked for at the first capture
+        HoardStore& hoard;
         DiagnosticsStore& diagnostics;
         Scheduler& scheduler;
         std::function<void()> onRowsAdded; // after captures that had to wait were stored

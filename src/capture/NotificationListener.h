@@ -31,7 +31,7 @@ class NotificationListener : public QObject,
 
 public:
     struct Services {
-        std::function<HoardStore&()> hoard; // asked for at the first use: that is what opens it
+        HoardStore& hoard;
         PreferencesStore& preferences;
         DiagnosticsStore& diagnostics;
         Platform& platform;
@@ -77,7 +77,7 @@ Q_SIGNALS:
 private:
     explicit NotificationListener(Services services);
 
-    HoardStore& hoard() const { return services_.hoard(); }
+    HoardStore& hoard() const { return services_.hoard; }
     DiagnosticsStore& diagnostics() const { return services_.diagnostics; }
     Scheduler& scheduler() const { return *services_.platform.scheduler; }
 

@@ -65,11 +65,10 @@ void StartupRecovery::loadHoard() {
 }
 
 void StartupRecovery::recoverUsernoted() {
-    HoardStore& hoard = hoard_();
-    const qint64 recId = hoard.lastSeenUsernotedRecId();
-    const double stored = hoard.lastSeenUsernotedTimestamp();
+    const qint64 recId = hoard_.lastSeenUsernotedRecId();
+    const double stored = hoard_.lastSeenUsernotedTimestamp();
     const UsernotedCursor cursor{stored > 0 ? stored : scheduler_.now() - firstReading,
-                                 hoard.lastSeenUsernotedRecIds()};
+                                 hoard_.lastSeenUsernotedRecIds()};
     onMain([&](NotificationListener& listener) {
         listener.lastSeenRecId_ = recId;
         listener.usernotedCursor_ = cursor;
@@ -95,8 +94,8 @@ void StartupRecovery::saveUsernotedCursor(const NotificationList& found,
     if (newest.timestamp <= cursor.timestamp)
         return;
     const qint64 recId = greatestNoteId(found);
-    hoard_().saveLastSeenUsernotedState(newest.recIds, newest.timestamp);
-    hoard_().saveLastSeenUsernotedRecId(recId);
+    hoard_.saveLastSeenUsernotedState(newest.recIds, newest.timestamp);
+    hoard_.saveLastSeenUsernotedRecId(recId);
     onMain([&](NotificationListener& listener) {
         listener.usernotedCursor_ = newest;
         listener.lastSeenRecId_ = recId;
@@ -105,7 +104,7 @@ void StartupRecovery::saveUsernotedCursor(const NotificationList& found,
 }
 
 void StartupRecovery::recoverLegacy() {
-    const qint64 noteId = hoard_().lastSeenSystemNoteId();
+    const qint64 noteId = hoard_.lastSeenSystemNoteId();
     onMain([&](NotificationListener& listener) { listener.lastSeenNoteId_ = noteId; });
     const LegacyAppNames names = readLegacyAppNames(legacyDbPath_, NullBundleId::skipped);
     const NotificationList found =
@@ -114,7 +113,7 @@ void StartupRecovery::recoverLegacy() {
         return;
     const qint64 newest = greatestNoteId(found);
     onMain([&](NotificationListener& listener) { listener.lastSeenNoteId_ = newest; });
-    hoard_().saveLastSeenSystemNoteId(newest);
+    hoard_.saveLastSeenSystemNoteId(newest);
     const NotificationList keptRecords = kept(found);
     if (keptRecords.empty())
         return;
@@ -135,7 +134,7 @@ NotificationList StartupRecovery::kept(const NotificationList& found) const {
 // hold up the main thread, which uses the hoard as well.
 void StartupRecovery::store(const NotificationList& records) {
     const auto notTaken = std::find_if(records.begin(), records.end(), [this](const auto& record) {
-        const Insertion result = hoard_().tryInsert(record);
+        const Insertion result = hoard_.tryInsert(record);
         return result == Insertion::locked || result == Insertion::failed;
     });
     if (notTaken == records.end())
@@ -150,7 +149,7 @@ void StartupRecovery::store(const NotificationList& records) {
 // The list is read here first, since that may take long. On the main thread the hoard then knows
 // it, together with what was captured meanwhile.
 void StartupRecovery::publishRecent(const std::function<void(NotificationListener&)>& afterwards) {
-    hoard_().fetchRecent(NotificationListener::publishedLimit);
+    hoard_.fetchRecent(NotificationListener::publishedLimit);
     onMain([&](NotificationListener& listener) {
         listener.publishRecent();
         afterwards(listener);

@@ -31,7 +31,7 @@ private:
     void onMain(const std::function<void(NotificationListener&)>& work);
 
     std::weak_ptr<NotificationListener> listener_;
-    std::function<HoardStore&()> hoard_;
+    HoardStore& hoard_;
     Scheduler& scheduler_;
     QString usernotedDbPath_;
     QString legacyDbPath_;

@@ -15,15 +15,15 @@ const QString keepingText =
 
 } // namespace
 
-void applyRetention(const PreferencesStore& preferences, const std::function<HoardStore&()>& hoard,
+void applyRetention(const PreferencesStore& preferences, HoardStore& hoard,
                     DiagnosticsStore& diagnostics) {
     const qint64 days = preferences.retentionDays();
     const QString outcome =
-        days >= 1 ? deletionText(days, hoard().deleteOlderThan(days)) : keepingText;
+        days >= 1 ? deletionText(days, hoard.deleteOlderThan(days)) : keepingText;
     diagnostics.log(outcome, Level::info, Category::system);
     // Nothing is logged of the codes: not even how many there were.
     if (preferences.otpRetentionHours() >= 1)
-        hoard().deleteOtpOlderThan(preferences.otpRetentionHours());
+        hoard.deleteOtpOlderThan(preferences.otpRetentionHours());
 }
 
 } // namespace tessarine

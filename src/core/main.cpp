@@ -15,7 +15,7 @@ namespace {
 using namespace tessarine;
 
 NotificationListener::Services captureServices() {
-    return {&HoardStore::shared, PreferencesStore::shared(), DiagnosticsStore::shared(),
+    return {HoardStore::shared(), PreferencesStore::shared(), DiagnosticsStore::shared(),
             Platform::shared()};
 }
 

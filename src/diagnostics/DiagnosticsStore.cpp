@@ -6,16 +6,16 @@
 
 namespace tessarine {
 
-DiagnosticsStore::DiagnosticsStore(Scheduler& scheduler, std::function<HoardStore&()> hoard)
+DiagnosticsStore::DiagnosticsStore(Scheduler& scheduler, HoardStore& hoard)
     : scheduler_(scheduler)
-    , hoard_(std::move(hoard))
+    , hoard_(hoard)
     , self_(std::make_shared<DiagnosticsStore*>(this)) {}
 
 DiagnosticsStore::~DiagnosticsStore() = default;
 
 DiagnosticsStore& DiagnosticsStore::shared() {
     static DiagnosticsStore* const store =
-        new DiagnosticsStore(*Platform::shared().scheduler, &HoardStore::shared);
+        new DiagnosticsStore(*Platform::shared().scheduler, HoardStore::shared());
     return *store;
 }
 
@@ -88,8 +88,8 @@ void DiagnosticsStore::tick(int run) {
 
 void DiagnosticsStore::refreshHoardStats() {
     scheduler_.onGlobalQueue(QualityOfService::utility, [this, weak = std::weak_ptr(self_),
-                                                         hoard = hoard_, &main = scheduler_] {
-        const HoardStats stats = hoard().stats();
+                                                         &hoard = hoard_, &main = scheduler_] {
+        const HoardStats stats = hoard.stats();
         main.onMain([this, weak, stats] {
             if (weak.lock())
                 publish(hoardStats_, stats);

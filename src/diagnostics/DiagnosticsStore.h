@@ -21,9 +21,8 @@ public:
     static constexpr qsizetype maxEntries = 200;
     static constexpr double pollInterval = 30.0; // seconds that the countdown counts from
 
-    // The hoard is looked at by refreshHoardStats alone; asked for each time, so that the log
-    // doesn't decide when the hoard is opened.
-    DiagnosticsStore(Scheduler& scheduler, std::function<HoardStore&()> hoard);
+    // The hoard is looked at by refreshHoardStats alone.
+    DiagnosticsStore(Scheduler& scheduler, HoardStore& hoard);
     ~DiagnosticsStore() override;
 
     // The program's log, made by its first user and kept until the process ends.
@@ -65,7 +64,7 @@ private:
     void tick(int run);
 
     Scheduler& scheduler_;
-    std::function<HoardStore&()> hoard_;
+    HoardStore& hoard_;
     QList<DiagnosticEntry> entries_;
     qint64 capturedTotal_ = 0;
     QString axStatus_ = QStringLiteral("Initializing...");

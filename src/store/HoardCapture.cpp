@@ -75,8 +75,8 @@ bool HoardStore::insertDeduplicated(const CapturedNotification& notification) {
 Insertion HoardStore::tryInsert(const CapturedNotification& notification) {
     if (isExcluded(notification.appBundleId))
         return Insertion::refused;
-    return queue_.sync([&] {
-        SqliteStatement statement(db_, insertWithKey);
+    return onQueue([&] {
+        SqliteStatement statement(db(), insertWithKey);
         if (!statement.isReady())
             return failure();
         statement.bindInt32(1, narrowToInt32(notification.noteId));
@@ -86,7 +86,7 @@ Insertion HoardStore::tryInsert(const CapturedNotification& notification) {
         statement.bind(5, storedUtf8(notification.body));
         statement.bind(6, notification.timestamp);
         const Insertion result = runInsertion(statement);
-        return result == Insertion::stored && db_.changes() == 0 ? Insertion::refused : result;
+        return result == Insertion::stored && db().changes() == 0 ? Insertion::refused : result;
     });
 }
 
@@ -94,10 +94,10 @@ Insertion HoardStore::tryInsertDeduplicated(const CapturedNotification& notifica
     if (isExcluded(notification.appBundleId))
         return Insertion::refused;
     const ProbedTexts texts = probedTexts(notification);
-    return queue_.sync([&] {
+    return onQueue([&] {
         if (isDuplicate(texts, notification.timestamp))
             return Insertion::refused;
-        SqliteStatement statement(db_, insertWithoutKey);
+        SqliteStatement statement(db(), insertWithoutKey);
         if (!statement.isReady())
             return failure();
         statement.bind(1, texts.bundleId);
@@ -116,11 +116,11 @@ bool HoardStore::isExcluded(const QString& bundleId) const {
 
 Insertion HoardStore::runInsertion(SqliteStatement& statement) {
     if (isLockHeld_)
-        db_.setLockTimeout(lockTimeoutWhileHeld);
+        db().setLockTimeout(lockTimeoutWhileHeld);
     const std::optional<int> changes = changesBy([&] { return statement.stepsToDone(); });
     const Insertion result = changes ? Insertion::stored : failure();
     isLockHeld_ = result == Insertion::locked;
-    db_.setLockTimeout(lockTimeout);
+    db().setLockTimeout(lockTimeout);
     if (!changes)
         forgetKept();
     else if (*changes > 0 && (recent_.isKnown() || duplicates_.isKnown()))
@@ -130,12 +130,12 @@ Insertion HoardStore::runInsertion(SqliteStatement& statement) {
 
 // Of the call before this one.
 Insertion HoardStore::failure() const {
-    return db_.wasLocked() ? Insertion::locked : Insertion::failed;
+    return db().wasLocked() ? Insertion::locked : Insertion::failed;
 }
 
 // More than one change is a trigger's work, of which nothing is known here.
 void HoardStore::keepStoredRow(int changes) {
-    std::optional<HoardRow> row = changes == 1 ? readRow(db_.lastInsertRowId()) : std::nullopt;
+    std::optional<HoardRow> row = changes == 1 ? readRow(db().lastInsertRowId()) : std::nullopt;
     if (!row)
         return forgetKept();
     if (row->timestamp)
@@ -151,7 +151,7 @@ void HoardStore::forgetKept() {
 // A probe that fails answers no: it must never lose a notification. The rows that could be
 // duplicates are known as a rule. The statement reads every row that the application ever sent.
 bool HoardStore::isDuplicate(const ProbedTexts& texts, double timestamp) {
-    const int version = db_.dataVersion();
+    const int version = db().dataVersion();
     if (!duplicates_.covers(timestamp, version) && !duplicates_.hasGivenUp(version))
         readDuplicates(timestamp, version);
     if (!duplicates_.covers(timestamp, version))
@@ -162,7 +162,7 @@ bool HoardStore::isDuplicate(const ProbedTexts& texts, double timestamp) {
 }
 
 bool HoardStore::probeWholeHoard(const ProbedTexts& texts, double timestamp) const {
-    SqliteStatement probe(db_, countDuplicates);
+    SqliteStatement probe(db(), countDuplicates);
     if (!probe.isReady())
         return false;
     bindTexts(probe, 1, texts);
@@ -171,7 +171,7 @@ bool HoardStore::probeWholeHoard(const ProbedTexts& texts, double timestamp) con
 }
 
 bool HoardStore::isDuplicateOfRow(qint64 rowId, const ProbedTexts& texts, double timestamp) const {
-    SqliteStatement comparison(db_, compareWithRow);
+    SqliteStatement comparison(db(), compareWithRow);
     if (!comparison.isReady())
         return false;
     comparison.bindInt64(1, rowId);
@@ -187,8 +187,8 @@ void HoardStore::readDuplicates(double timestamp, int version) {
         return;
     const double since = timestamp - DuplicateIndex::secondsBack;
     const double until = timestamp + DuplicateIndex::secondsOn;
-    SqliteStatement rows(db_, selectAround);
-    SqliteStatement otherTimestamp(db_, selectTimestampThatIsNoNumber);
+    SqliteStatement rows(db(), selectAround);
+    SqliteStatement otherTimestamp(db(), selectTimestampThatIsNoNumber);
     if (!rows.isReady() || !otherTimestamp.isReady())
         return;
     if (otherTimestamp.stepsToRow())

@@ -68,8 +68,8 @@ constexpr double secondsPerHour = 3600.0;
 } // namespace
 
 void HoardStore::deleteNotification(qint64 id) {
-    queue_.sync([&] {
-        SqliteStatement statement(db_, deleteById);
+    onQueue([&] {
+        SqliteStatement statement(db(), deleteById);
         if (!statement.isReady())
             return;
         statement.bindInt32(1, narrowToInt32(id));
@@ -81,8 +81,8 @@ void HoardStore::deleteNotification(qint64 id) {
 }
 
 void HoardStore::deleteApp(const QString& appName) {
-    queue_.sync([&] {
-        SqliteStatement statement(db_, deleteByAppName);
+    onQueue([&] {
+        SqliteStatement statement(db(), deleteByAppName);
         if (!statement.isReady())
             return;
         statement.bind(1, storedUtf8(appName));
@@ -96,8 +96,8 @@ void HoardStore::deleteDay(const QString& key) {
     const std::optional<double> start = startOfDay(key);
     if (!start)
         return;
-    queue_.sync([&] {
-        SqliteStatement statement(db_, deleteSpan);
+    onQueue([&] {
+        SqliteStatement statement(db(), deleteSpan);
         if (!statement.isReady())
             return;
         statement.bind(1, *start);
@@ -108,21 +108,21 @@ void HoardStore::deleteDay(const QString& key) {
 }
 
 void HoardStore::deleteAll() {
-    queue_.sync([&] {
-        db_.execute(deleteEverything);
+    onQueue([&] {
+        db().execute(deleteEverything);
         forgetKept();
     });
 }
 
 qint64 HoardStore::deleteOlderThan(qint64 days) {
     const double edge = clock_.now() + static_cast<double>(days) * -secondsPerDay;
-    return queue_.sync([&] { return deletedBefore(edge, deleteBefore); });
+    return onQueue([&] { return deletedBefore(edge, deleteBefore); });
 }
 
 qint64 HoardStore::deleteOtpOlderThan(qint64 hours) {
     if (hours < 1)
         return 0;
-    return queue_.sync([&] {
+    return onQueue([&] {
         const double edge = clock_.now() + static_cast<double>(hours) * -secondsPerHour;
         return deletedBefore(edge, deleteCodesBefore);
     });
@@ -130,12 +130,12 @@ qint64 HoardStore::deleteOtpOlderThan(qint64 hours) {
 
 // A step that fails goes unnoticed: the count is then that of the change before it.
 qint64 HoardStore::deletedBefore(double edge, const char* deletion) {
-    SqliteStatement statement(db_, deletion);
+    SqliteStatement statement(db(), deletion);
     if (!statement.isReady())
         return 0;
     statement.bind(1, edge);
     statement.stepsToDone();
-    const int count = db_.changes();
+    const int count = db().changes();
     keepExistingRows();
     return count;
 }

@@ -64,7 +64,7 @@ bool hasOrderedValues(const SqliteStatement& statement) {
 } // namespace
 
 NotificationList HoardStore::fetchRecent(qint64 limit) {
-    return queue_.sync([&] {
+    return onQueue([&] {
         return knowRecent(limit) ? recent_.answer(static_cast<int>(limit)) : readRecent(limit);
     });
 }
@@ -79,11 +79,11 @@ ReadingAhead HoardStore::readAhead(qint64 limit) {
         interruption->happened = interruption->queue.isWaitedFor();
         return interruption->happened ? 1 : 0;
     };
-    return queue_.sync([&] {
+    return onQueue([&] {
         Interruption interruption{queue_};
-        db_.setInterruptTest(interruptIfWaitedFor, &interruption);
+        db().setInterruptTest(interruptIfWaitedFor, &interruption);
         const bool isKnown = knowRecent(limit);
-        db_.setInterruptTest(nullptr, nullptr);
+        db().setInterruptTest(nullptr, nullptr);
         if (isKnown)
             return ReadingAhead::done;
         return interruption.happened ? ReadingAhead::gaveWay : ReadingAhead::impossible;
@@ -93,11 +93,11 @@ ReadingAhead HoardStore::readAhead(qint64 limit) {
 // Keeps the list up to this limit, if it isn't known. False when it can't be kept: the hoard can't
 // be read to the end, or holds values that nobody but SQLite can put into order.
 bool HoardStore::knowRecent(qint64 limit) {
-    const int version = db_.dataVersion();
+    const int version = db().dataVersion();
     if (std::in_range<int>(limit) && recent_.canAnswer(static_cast<int>(limit), version))
         return true;
     recent_.forget();
-    SqliteStatement statement(db_, selectRecent);
+    SqliteStatement statement(db(), selectRecent);
     if (!statement.isReady() || version < 0)
         return false;
     const int bound = withReserve(narrowToInt32(limit));
@@ -117,7 +117,7 @@ bool HoardStore::knowRecent(qint64 limit) {
 // The statement's own answer.
 NotificationList HoardStore::readRecent(qint64 limit) const {
     NotificationList rows;
-    SqliteStatement statement(db_, selectRecent);
+    SqliteStatement statement(db(), selectRecent);
     if (!statement.isReady())
         return rows;
     statement.bindInt32(1, narrowToInt32(limit));
@@ -129,7 +129,7 @@ NotificationList HoardStore::readRecent(qint64 limit) const {
 }
 
 std::optional<HoardRow> HoardStore::readRow(qint64 rowId) const {
-    SqliteStatement statement(db_, selectRow);
+    SqliteStatement statement(db(), selectRow);
     if (!statement.isReady())
         return std::nullopt;
     statement.bindInt64(1, rowId);
@@ -141,8 +141,8 @@ std::optional<HoardRow> HoardStore::readRow(qint64 rowId) const {
 // The id is a number and stands in the text.
 void HoardStore::togglePin(qint64 id) {
     const QByteArray statement = togglePinWhereId + QByteArray::number(id) + ';';
-    queue_.sync([&] {
-        const auto changes = changesBy([&] { return db_.execute(statement.constData()); });
+    onQueue([&] {
+        const auto changes = changesBy([&] { return db().execute(statement.constData()); });
         if (changes == 0)
             return;
         std::optional<HoardRow> row = changes == 1 ? readRow(id) : std::nullopt;
@@ -155,7 +155,7 @@ void HoardStore::togglePin(qint64 id) {
 
 // After a deletion of many rows. One by one they are found faster than the table is sorted.
 void HoardStore::keepExistingRows() {
-    SqliteStatement existence(db_, selectExistence);
+    SqliteStatement existence(db(), selectExistence);
     if (!existence.isReady())
         return recent_.forget();
     recent_.keepRows([&](qint64 rowId) {

@@ -23,16 +23,16 @@ std::optional<double> positive(double timestamp) {
 
 HoardStats HoardStore::stats() {
     HoardStats stats;
-    queue_.sync([&] {
+    onQueue([&] {
         {
-            SqliteStatement counts(db_, selectCounts);
+            SqliteStatement counts(db(), selectCounts);
             if (counts.stepsToRow()) {
                 stats.totalCount = counts.int64(0);
                 stats.pinnedCount = counts.int64(1);
                 stats.distinctAppsCount = counts.int64(2);
             }
         }
-        SqliteStatement span(db_, selectSpan);
+        SqliteStatement span(db(), selectSpan);
         if (span.stepsToRow()) {
             stats.firstTimestamp = positive(span.real(0));
             stats.lastTimestamp = positive(span.real(1));
@@ -43,8 +43,8 @@ HoardStats HoardStore::stats() {
 }
 
 QString HoardStore::integrityCheck() {
-    return queue_.sync([&] {
-        SqliteStatement check(db_, checkIntegrity);
+    return onQueue([&] {
+        SqliteStatement check(db(), checkIntegrity);
         if (!check.isReady())
             return QStringLiteral("Failed to prepare integrity_check");
         QStringList findings;
@@ -57,7 +57,7 @@ QString HoardStore::integrityCheck() {
 }
 
 void HoardStore::checkpoint() {
-    queue_.sync([&] { db_.execute(takeOverLog); });
+    onQueue([&] { db().execute(takeOverLog); });
 }
 
 } // namespace tessarine

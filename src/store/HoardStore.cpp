@@ -60,14 +60,10 @@ QString hoardPath(const FileSystem& fileSystem) {
 
 HoardStore::HoardStore(const FileSystem& fileSystem, UserDefaults& defaults, const Scheduler& clock)
     : dbPath_(hoardPath(fileSystem))
-    , db_(madeFolderOf(dbPath_), SqliteConnection::Mode::ownFile)
     , queue_("com.zorvek.Tessarine.store")
     , fileSystem_(fileSystem)
     , defaults_(defaults)
-    , clock_(clock) {
-    setUpFile();
-    createSchema();
-}
+    , clock_(clock) {}
 
 HoardStore::~HoardStore() = default;
 
@@ -78,24 +74,36 @@ HoardStore& HoardStore::shared() {
     return *store;
 }
 
+void HoardStore::open() {
+    onQueue([] {});
+}
+
+void HoardStore::openOnce() {
+    if (connection_)
+        return;
+    connection_.emplace(madeFolderOf(dbPath_), SqliteConnection::Mode::ownFile);
+    setUpFile();
+    createSchema();
+}
+
 void HoardStore::setUpFile() {
-    if (!db_.isOpen())
+    if (!db().isOpen())
         return; // every statement on it fails
-    db_.setLockTimeout(lockTimeout);
-    db_.execute(useWriteAheadLog);
+    db().setLockTimeout(lockTimeout);
+    db().execute(useWriteAheadLog);
     fileSystem_.makePrivate(dbPath_);
 }
 
 void HoardStore::createSchema() {
-    db_.execute(schema);
-    db_.execute(optimize);
+    db().execute(schema);
+    db().execute(optimize);
     if (!hasPinnedColumn())
-        db_.execute(addPinned);
+        db().execute(addPinned);
 }
 
 // The column's presence is the schema's version: hoards from before pinning lack it.
 bool HoardStore::hasPinnedColumn() const {
-    SqliteStatement columns(db_, tableInfo);
+    SqliteStatement columns(db(), tableInfo);
     while (columns.stepsToRow()) {
         if (columns.text(1) == QStringLiteral("pinned"))
             return true;
@@ -104,22 +112,22 @@ bool HoardStore::hasPinnedColumn() const {
 }
 
 qint64 HoardStore::totalCount() {
-    return queue_.sync([&] { return singleInteger(selectTotalCount); });
+    return onQueue([&] { return singleInteger(selectTotalCount); });
 }
 
 qint64 HoardStore::maxSystemNoteId() {
-    return queue_.sync([&] { return singleInteger(selectMaxNoteId); });
+    return onQueue([&] { return singleInteger(selectMaxNoteId); });
 }
 
 qint64 HoardStore::singleInteger(const char* query) const {
-    SqliteStatement statement(db_, query);
+    SqliteStatement statement(db(), query);
     return statement.stepsToRow() ? statement.int32(0) : 0;
 }
 
 DistinctAppList HoardStore::distinctApps() {
-    return queue_.sync([&] {
+    return onQueue([&] {
         DistinctAppList apps;
-        SqliteStatement statement(db_, selectDistinctApps);
+        SqliteStatement statement(db(), selectDistinctApps);
         while (statement.stepsToRow())
             apps.push_back({statement.text(0), statement.text(1)});
         return apps;

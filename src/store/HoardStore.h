@@ -12,6 +12,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -50,15 +51,19 @@ QString hoardPath(const FileSystem& fileSystem);
 // be opened answers false, empty or zero, and the program runs on.
 class HoardStore {
 public:
-    // Opens the hoard, making folder, file and schema as needed. The defaults hold the excluded
-    // applications and the capture cursors; the clock tells how old a row is.
+    // The defaults hold the excluded applications and the capture cursors; the clock tells how old
+    // a row is. The first operation that needs the hoard opens it, making folder, file and schema
+    // as needed.
     HoardStore(const FileSystem& fileSystem, UserDefaults& defaults, const Scheduler& clock);
     HoardStore(const HoardStore&) = delete;
     HoardStore& operator=(const HoardStore&) = delete;
     ~HoardStore(); // closes the connection; the program's own store is never destroyed
 
-    // The program's store, made by its first user and kept until the process ends.
+    // The program's store, kept until the process ends.
     static HoardStore& shared();
+
+    // Opens the hoard now, for whom no operation will do.
+    void open();
 
     const QString& path() const { return dbPath_; }
 
@@ -127,6 +132,7 @@ public:
 private:
     static constexpr int lockTimeout = 1500; // milliseconds
 
+    void openOnce();
     void setUpFile();
     void createSchema();
     bool hasPinnedColumn() const;
@@ -135,13 +141,23 @@ private:
     qint64 cursor(const QString& key);
     void raiseCursor(const QString& key, qint64 value);
 
+    template <typename Work>
+    auto onQueue(const Work& work) {
+        return queue_.sync([&] {
+            openOnce();
+            return work();
+        });
+    }
+
     // On the queue.
+
+    const SqliteConnection& db() const { return *connection_; }
 
     // How many rows a write has changed, by triggers too. Nothing when it failed.
     template <typename Write>
     std::optional<int> changesBy(const Write& write) const {
-        const int before = db_.totalChanges();
-        return write() ? std::optional(db_.totalChanges() - before) : std::nullopt;
+        const int before = db().totalChanges();
+        return write() ? std::optional(db().totalChanges() - before) : std::nullopt;
     }
     Insertion runInsertion(SqliteStatement& statement);
     Insertion failure() const;
@@ -158,11 +174,11 @@ private:
     qint64 deletedBefore(double edge, const char* deletion);
 
     const QString dbPath_;
-    const SqliteConnection db_;
     SerialQueue queue_;
-    RecentRows recent_;         // guarded by the queue
-    DuplicateIndex duplicates_; // guarded by the queue
-    bool isLockHeld_ = false;   // by another program when a capture was last to be stored
+    std::optional<SqliteConnection> connection_; // guarded by the queue; none: not opened yet
+    RecentRows recent_;                          // guarded by the queue
+    DuplicateIndex duplicates_;                  // guarded by the queue
+    bool isLockHeld_ = false; // by another program when a capture was last to be stored
     const FileSystem& fileSystem_;
     UserDefaults& defaults_;
     const Scheduler& clock_;

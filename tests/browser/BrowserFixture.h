@@ -50,7 +50,7 @@ protected:
 
     ContentView::Services services() {
         return {listener,
-                [this]() -> HoardStore& { return hoard; },
+                hoard,
                 preferences,
                 system.scheduler,
                 launcher,
@@ -83,9 +83,9 @@ protected:
     SimulatedPlatform system{folder.path()};
     HoardStore hoard{system.fileSystem, system.defaults, system.scheduler};
     PreferencesStore preferences{system.defaults};
-    DiagnosticsStore diagnostics{system.scheduler, [this]() -> HoardStore& { return hoard; }};
-    std::shared_ptr<NotificationListener> listener = NotificationListener::create(
-        {[this]() -> HoardStore& { return hoard; }, preferences, diagnostics, system.platform});
+    DiagnosticsStore diagnostics{system.scheduler, hoard};
+    std::shared_ptr<NotificationListener> listener =
+        NotificationListener::create({hoard, preferences, diagnostics, system.platform});
     AppLauncher launcher{*system.platform.workspace, *system.platform.fileSystem, system.scheduler};
     QStringList pasteboard;    // each text that was put there
     NotificationList exported; // what the last export sheet was given

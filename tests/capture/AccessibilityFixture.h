@@ -62,9 +62,9 @@ protected:
         system_.accessibility.trusted = true;
         runBannerProcess(pid);
         preferences_.emplace(system_.defaults);
-        diagnostics_.emplace(system_.scheduler, [this]() -> HoardStore& { return hoard(); });
-        listener_ = NotificationListener::create({[this]() -> HoardStore& { return hoard(); },
-                                                  *preferences_, *diagnostics_, system_.platform});
+        diagnostics_.emplace(system_.scheduler, hoard());
+        listener_ =
+            NotificationListener::create({hoard(), *preferences_, *diagnostics_, system_.platform});
         QObject::connect(listener_.get(), &NotificationListener::notificationsChanged,
                          [this] { ++published_; });
     }

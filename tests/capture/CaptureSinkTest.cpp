@@ -24,10 +24,9 @@ class CaptureSinkTest : public ::testing::Test {
 protected:
     CaptureSinkTest()
         : system_(folder_.path()) {
-        diagnostics_.emplace(system_.scheduler, [this]() -> HoardStore& { return hoard_; });
-        sink_ = std::make_shared<CaptureSink>(
-            CaptureSink::Services{[this]() -> HoardStore& { return hoard_; }, *diagnostics_,
-                                  system_.scheduler, [this] { ++timesAdded_; }});
+        diagnostics_.emplace(system_.scheduler, hoard_);
+        sink_ = std::make_shared<CaptureSink>(CaptureSink::Services{
+            hoard_, *diagnostics_, system_.scheduler, [this] { ++timesAdded_; }});
     }
 
     CapturedNotification record(const QString& title, qint64 noteId = 0) const {

@@ -41,9 +41,9 @@ protected:
     // The services as a new process would make them.
     void launch() {
         preferences_.emplace(system_.defaults);
-        diagnostics_.emplace(system_.scheduler, [this]() -> HoardStore& { return hoard(); });
-        listener_ = NotificationListener::create({[this]() -> HoardStore& { return hoard(); },
-                                                  *preferences_, *diagnostics_, system_.platform});
+        diagnostics_.emplace(system_.scheduler, hoard());
+        listener_ =
+            NotificationListener::create({hoard(), *preferences_, *diagnostics_, system_.platform});
         QObject::connect(listener_.get(), &NotificationListener::notificationsChanged,
                          [this] { ++published_; });
     }
@@ -206,7 +206,7 @@ TEST_F(LegacyLayerTest, ConstructionCapturesNothing) {
     add(1, u"Hello"_qs);
     launch();
     system_.scheduler.advance(120);
-    EXPECT_FALSE(hoard_.has_value());
+    EXPECT_FALSE(QFile::exists(hoard().path()));
     EXPECT_EQ(system_.fileWatcher.watches(writer_.path()), 0U);
 }
 

@@ -32,9 +32,9 @@ protected:
     // The services as a new process would make them.
     void launch() {
         preferences_.emplace(system_.defaults);
-        diagnostics_.emplace(system_.scheduler, [this]() -> HoardStore& { return hoard(); });
-        listener_ = NotificationListener::create({[this]() -> HoardStore& { return hoard(); },
-                                                  *preferences_, *diagnostics_, system_.platform});
+        diagnostics_.emplace(system_.scheduler, hoard());
+        listener_ =
+            NotificationListener::create({hoard(), *preferences_, *diagnostics_, system_.platform});
     }
 
     void launchAndStart() {

@@ -31,7 +31,7 @@ TEST_F(ListenerTest, ConstructionOpensNoHoardAndCapturesNothing) {
     add(1, u"Hello"_qs, start - 10);
     launch();
     system_.scheduler.advance(120);
-    EXPECT_FALSE(hoard_.has_value());
+    EXPECT_FALSE(QFile::exists(hoard().path()));
     EXPECT_FALSE(listener_->isStarted());
     EXPECT_TRUE(listener_->notifications().empty());
 }
@@ -493,9 +493,23 @@ TEST_F(ListenerTest, ANotificationOfBothBannerAndDatabaseGivesTwoRows) {
     EXPECT_THAT(stored(), ElementsAre(u"Hello"_qs, u"Hello"_qs));
 }
 
+// Tells when the hoard's file is opened.
+class OpeningWatch : public testing::SimulatedFileSystem {
+public:
+    OpeningWatch(const QString& home, std::function<void()> onOpening)
+        : SimulatedFileSystem(home)
+        , onOpening_(std::move(onOpening)) {}
+
+    bool makePrivate(const QString& path) const override {
+        onOpening_();
+        return SimulatedFileSystem::makePrivate(path);
+    }
+
+private:
+    std::function<void()> onOpening_;
+};
+
 TEST_F(ListenerTest, ACaptureDuringTheRecoveryIsNotHiddenByTheOlderReading) {
-    launch();
-    bool captures = true;
     const auto capture = [this] { // on the main thread, after the recovery has read the hoard
         CapturedNotification banner;
         banner.appName = u"Mail"_qs;
@@ -504,12 +518,9 @@ TEST_F(ListenerTest, ACaptureDuringTheRecoveryIsNotHiddenByTheOlderReading) {
         ASSERT_TRUE(hoard().insertDeduplicated(banner));
         listener_->setNotifications(hoard().fetchRecent(500));
     };
-    listener_ = NotificationListener::create({[&]() -> HoardStore& {
-                                                  if (std::exchange(captures, false))
-                                                      system_.scheduler.onMain(capture);
-                                                  return hoard();
-                                              },
-                                              *preferences_, *diagnostics_, system_.platform});
+    const OpeningWatch fileSystem(folder_.path(), [&] { system_.scheduler.onMain(capture); });
+    hoard_.emplace(fileSystem, system_.defaults, system_.scheduler);
+    launch();
     listener_->start();
     system_.scheduler.settle();
     ASSERT_EQ(listener_->notifications().size(), 1U);

@@ -33,9 +33,9 @@ protected:
     testing::SimulatedPlatform system_{folder_.path()};
     HoardStore hoard_{system_.fileSystem, system_.defaults, system_.scheduler};
     PreferencesStore preferences_{system_.defaults};
-    DiagnosticsStore diagnostics_{system_.scheduler, [this]() -> HoardStore& { return hoard_; }};
-    std::shared_ptr<NotificationListener> listener_ = NotificationListener::create(
-        {[this]() -> HoardStore& { return hoard_; }, preferences_, diagnostics_, system_.platform});
+    DiagnosticsStore diagnostics_{system_.scheduler, hoard_};
+    std::shared_ptr<NotificationListener> listener_ =
+        NotificationListener::create({hoard_, preferences_, diagnostics_, system_.platform});
     testing::SimulatedStatusItem item_;
     std::optional<MenuBarController> controller_;
     int opened_ = 0;

@@ -20,6 +20,7 @@ class HoardFixture : public ::testing::Test {
 protected:
     HoardStore& start() {
         store = std::make_unique<HoardStore>(fileSystem, defaults, scheduler);
+        store->open();
         return *store;
     }
 

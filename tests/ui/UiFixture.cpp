@@ -39,7 +39,7 @@ NotificationList UiTest::numbered(int count, int firstRow) {
 void UiTest::makeWindow() {
     const ContentView::Services services{
         listener,
-        [this]() -> HoardStore& { return hoard; },
+        hoard,
         preferences,
         system.scheduler,
         launcher,

@@ -79,9 +79,9 @@ protected:
     SimulatedPlatform system{folder.path()};
     HoardStore hoard{system.fileSystem, system.defaults, system.scheduler};
     PreferencesStore preferences{system.defaults};
-    DiagnosticsStore diagnostics{system.scheduler, [this]() -> HoardStore& { return hoard; }};
-    std::shared_ptr<NotificationListener> listener = NotificationListener::create(
-        {[this]() -> HoardStore& { return hoard; }, preferences, diagnostics, system.platform});
+    DiagnosticsStore diagnostics{system.scheduler, hoard};
+    std::shared_ptr<NotificationListener> listener =
+        NotificationListener::create({hoard, preferences, diagnostics, system.platform});
     SimulatedAppearance appearance;
     LinuxSymbols symbols;
     SimulatedApplicationIcons icons;

@@ -33,7 +33,7 @@ struct BannersToHoardTest : ::testing::Test {
     std::shared_ptr<BannerProcess> process = std::make_shared<BannerProcess>(scheduler);
     HoardStore hoard{system.fileSystem, system.defaults, scheduler};
     PreferencesStore preferences{system.defaults};
-    DiagnosticsStore diagnostics{scheduler, [this]() -> HoardStore& { return hoard; }};
+    DiagnosticsStore diagnostics{scheduler, hoard};
     std::shared_ptr<NotificationListener> listener;
     std::uint32_t lastSerial = 0;
     std::uint64_t lastTurn = 0;
@@ -47,8 +47,7 @@ struct BannersToHoardTest : ::testing::Test {
         scheduler.settle();
         process->setService({true, BannerOwner{pid, ++lastTurn}}); // there was no bus to ask
         scheduler.settle();
-        listener = NotificationListener::create(
-            {[this]() -> HoardStore& { return hoard; }, preferences, diagnostics, system.platform});
+        listener = NotificationListener::create({hoard, preferences, diagnostics, system.platform});
         listener->start();
         scheduler.settle();
     }
