@@ -5,18 +5,15 @@
 //   bench_browser            every measurement
 //   bench_browser ROWS...    loading older rows at these sizes of the hoard as well
 
-#include "apps/AppLauncher.h"
 #include "browser/MainWindow.h"
-#include "capture/NotificationListener.h"
+#include "core/ViewServices.h"
 #include "platform/linux/desktop/LinuxSymbols.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
-#include "theme/Theme.h"
 #include "windows/ViewEngine.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTemporaryDir>
@@ -77,23 +74,12 @@ NotificationList rows(int count) {
 struct Browser {
     QTemporaryDir folder;
     testing::SimulatedPlatform system{folder.path()};
-    HoardStore hoard{system.fileSystem, system.defaults, system.scheduler};
-    PreferencesStore preferences{system.defaults};
-    DiagnosticsStore diagnostics{system.scheduler, hoard};
-    std::shared_ptr<NotificationListener> listener =
-        NotificationListener::create({hoard, preferences, diagnostics, system.platform});
-    AppLauncher launcher{system.workspace, system.fileSystem, system.scheduler};
-    testing::SimulatedAppearance appearance;
-    LinuxSymbols symbols;
-    Theme theme{appearance};
-    std::unique_ptr<QQmlEngine> engine = makeViewEngine(theme, symbols);
-    MainWindow window{{listener, hoard, preferences, system.scheduler, launcher,
-                       [](const QString&) {},
-                       [](NotificationList, std::function<void()>) {
-                           return std::unique_ptr<ExportOptionsSheet>();
-                       }},
-                      system.defaults,
-                      *engine};
+    testing::SimulatedDesktop desktop{std::make_unique<LinuxSymbols>()};
+    Services services{system.platform};
+    ViewServices views{services, desktop.desktop, [](const QString&) {}};
+    HoardStore& hoard = services.hoard;
+    std::shared_ptr<NotificationListener> listener = services.listener;
+    MainWindow window{views.browser(), system.defaults, *views.engine};
 
     QQuickItem* list() const {
         return window.window()->contentItem()->findChild<QQuickItem*>(QStringLiteral("list"));

@@ -4,17 +4,13 @@
 //
 // usage: bench_launch [ROWS] [PROCESSES]
 
-#include "apps/AppIconResolver.h"
-#include "apps/AppIconView.h"
-#include "apps/AppLauncher.h"
 #include "browser/MainWindow.h"
-#include "core/AppDelegate.h"
+#include "core/ViewServices.h"
 #include "windows/ViewEngine.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QProcess>
-#include <QQmlEngine>
 #include <QQuickWindow>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -52,27 +48,16 @@ int runChild(int argc, char** argv, double start) {
     reached("1-main", start);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    Platform::install(makePlatform());
-    Desktop::install(makeDesktop());
+    const std::unique_ptr<Platform> platform = makePlatform();
+    const std::unique_ptr<Desktop> desktop = makeDesktop();
     registerUi();
-    Theme theme(*Desktop::shared().appearance);
-    const std::unique_ptr<QQmlEngine> views = makeViewEngine(theme, *Desktop::shared().symbols);
-    installAppIcons(*views, AppIconResolver::shared().shared_from_this());
-    reached("2-engine", start);
-    const auto listener =
-        NotificationListener::create({HoardStore::shared(), PreferencesStore::shared(),
-                                      DiagnosticsStore::shared(), Platform::shared()});
-    AppLauncher launcher(*Platform::shared().workspace, *Platform::shared().fileSystem,
-                         *Platform::shared().scheduler);
-    MainWindow window({listener, HoardStore::shared(), PreferencesStore::shared(),
-                       *Platform::shared().scheduler, launcher, [](const QString&) {},
-                       [](NotificationList, std::function<void()>) {
-                           return std::unique_ptr<ExportOptionsSheet>();
-                       }},
-                      *Platform::shared().userDefaults, *views);
+    Services services(*platform);
+    ViewServices views(services, *desktop, [](const QString&) {});
+    reached("2-services", start);
+    MainWindow window(views.browser(), *platform->userDefaults, *views.engine);
     reached("3-window-built", start);
     window.showAndMakeKey();
-    listener->start();
+    services.listener->start();
     bool loaded = false;
     QObject::connect(listener.get(), &NotificationListener::notificationsChanged, [&] {
         if (!loaded)
@@ -95,8 +80,8 @@ void makeHoard(const QString& home, const QByteArray& rows) {
     qputenv("HOME", home.toUtf8());
     qputenv("XDG_DATA_HOME", folder.toUtf8());
     qputenv("XDG_CONFIG_HOME", (home + QStringLiteral("/.config")).toUtf8());
-    Platform::install(makePlatform());
-    HoardStore& store = HoardStore::shared();
+    const std::unique_ptr<Platform> platform = makePlatform();
+    HoardStore store(*platform->fileSystem, *platform->userDefaults, *platform->scheduler);
     store.open();
     sqlite3* bare = nullptr;
     sqlite3_open(store.path().toUtf8().constData(), &bare);

@@ -37,8 +37,10 @@ endfunction()
 function(tessarine_test name)
     cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS;LABELS;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE tessarine_build ${ARG_LINKS} GTest::gmock
-                          tessarine_test_main)
+    target_link_libraries(${name} PRIVATE tessarine_build ${ARG_LINKS} GTest::gmock)
+    if(NOT tessarine_gui_test_support IN_LIST ARG_LINKS) # which brings a main function of its own
+        target_link_libraries(${name} PRIVATE tessarine_test_main)
+    endif()
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 900)

@@ -1,25 +1,8 @@
 #include "apps/AppIconResolver.h"
 
-#include "platform/Desktop.h"
-#include "platform/Platform.h"
+#include "platform/Scheduler.h"
 
 namespace tessarine {
-
-namespace {
-
-IconSources systemSources() {
-    const Platform& platform = Platform::shared();
-    const Desktop& desktop = Desktop::shared();
-    return {*platform.workspace, *platform.fileSystem, *desktop.applicationIcons, *desktop.symbols};
-}
-
-} // namespace
-
-AppIconResolver& AppIconResolver::shared() {
-    static auto* const resolver = new std::shared_ptr<AppIconResolver>(
-        create(*Platform::shared().scheduler, systemSources()));
-    return **resolver;
-}
 
 std::shared_ptr<AppIconResolver> AppIconResolver::create(Scheduler& scheduler,
                                                          IconSources sources) {

@@ -20,9 +20,6 @@ class AppIconResolver : public std::enable_shared_from_this<AppIconResolver> {
 public:
     using Completion = std::function<void(const QImage&)>;
 
-    // The one that the program's views share.
-    static AppIconResolver& shared();
-
     // Scheduler and sources outlive the resolver and the lookups that it has started.
     static std::shared_ptr<AppIconResolver> create(Scheduler& scheduler, IconSources sources);
 

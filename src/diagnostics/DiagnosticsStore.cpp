@@ -1,7 +1,5 @@
 #include "diagnostics/DiagnosticsStore.h"
 
-#include "platform/Platform.h"
-
 #include <algorithm>
 
 namespace tessarine {
@@ -12,12 +10,6 @@ DiagnosticsStore::DiagnosticsStore(Scheduler& scheduler, HoardStore& hoard)
     , self_(std::make_shared<DiagnosticsStore*>(this)) {}
 
 DiagnosticsStore::~DiagnosticsStore() = default;
-
-DiagnosticsStore& DiagnosticsStore::shared() {
-    static DiagnosticsStore* const store =
-        new DiagnosticsStore(*Platform::shared().scheduler, HoardStore::shared());
-    return *store;
-}
 
 void DiagnosticsStore::log(const QString& message, Level level, Category category) {
     DiagnosticEntry entry;

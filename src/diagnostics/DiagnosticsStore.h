@@ -25,9 +25,6 @@ public:
     DiagnosticsStore(Scheduler& scheduler, HoardStore& hoard);
     ~DiagnosticsStore() override;
 
-    // The program's log, made by its first user and kept until the process ends.
-    static DiagnosticsStore& shared();
-
     // Newest first. The oldest entries go where there are more than maxEntries.
     const QList<DiagnosticEntry>& entries() const { return entries_; }
     void log(const QString& message, Level level, Category category);

@@ -3,8 +3,6 @@
 #include "export/CsvDocument.h"
 #include "export/TextDocument.h"
 #include "export/UnicodeMaps.h"
-#include "platform/Desktop.h"
-#include "platform/Platform.h"
 #include "platform/PrivateFile.h"
 
 #include <QBuffer>
@@ -34,12 +32,6 @@ std::vector<PDFRow> pdfRows(const NotificationList& notifications, const ExportM
 
 ExportManager::ExportManager(const Services& services)
     : services_(services) {}
-
-ExportManager& ExportManager::shared() {
-    static auto* const manager = new ExportManager(
-        {PreferencesStore::shared(), *Platform::shared().scheduler, *Desktop::shared().savePanel});
-    return *manager;
-}
 
 QString ExportManager::defaultFileName(ExportFormat format) const {
     return QStringLiteral("Tessarine_") + ExportDates().day.text(services_.clock.now()) + u'.' +

@@ -30,9 +30,6 @@ public:
 
     explicit ExportManager(const Services& services);
 
-    // The program's own, made at the first use and kept until the process ends.
-    static ExportManager& shared();
-
     // The name that is suggested for a file made today: "Tessarine_2026-03-03.csv".
     QString defaultFileName(ExportFormat format) const;
 

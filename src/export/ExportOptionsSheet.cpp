@@ -1,7 +1,5 @@
 #include "export/ExportOptionsSheet.h"
 
-#include "platform/Desktop.h"
-#include "platform/Platform.h"
 #include "preferences/PreferencesStore.h"
 
 #include <QPointer>
@@ -18,11 +16,6 @@ namespace {
 constexpr double dismissDelay = 1.5;
 
 } // namespace
-
-ExportOptionsSheet::Services ExportOptionsSheet::Services::shared() {
-    return {ExportManager::shared(), PreferencesStore::shared(), *Platform::shared().scheduler,
-            *Desktop::shared().fileViewer};
-}
 
 ExportOptionsSheet::ExportOptionsSheet(NotificationList notifications,
                                        std::function<void()> onDismiss, const Services& services)

@@ -57,14 +57,11 @@ public:
         const PreferencesStore& preferences;
         Scheduler& scheduler;
         FileViewer& fileViewer;
-
-        // The program's own.
-        static Services shared();
     };
 
     // The callback closes the sheet, and may destroy it.
     ExportOptionsSheet(NotificationList notifications, std::function<void()> onDismiss,
-                       const Services& services = Services::shared());
+                       const Services& services);
 
     ExportFormat selectedFormat() const { return selectedFormat_; }
     bool includePrivateContent() const { return includePrivateContent_; }

@@ -22,10 +22,6 @@ struct Desktop {
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<SavePanel> savePanel;
     std::unique_ptr<FileViewer> fileViewer;
-
-    // The desktop of the running process, which main installs. Never destroyed: the process ends.
-    static void install(std::unique_ptr<Desktop> desktop);
-    static Desktop& shared();
 };
 
 // Makes the ports of the system that the program was built for. Needs a QApplication, and is called

@@ -20,11 +20,6 @@ struct Platform {
     std::unique_ptr<FileWatcher> fileWatcher;
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<Accessibility> accessibility;
-
-    // The platform of the running process, which main installs before anything else. The program's
-    // services take it from here; nothing else does. Never destroyed: the process just ends.
-    static void install(std::unique_ptr<Platform> platform);
-    static Platform& shared();
 };
 
 // Makes the ports of the system that the program was built for. Needs an application object, and

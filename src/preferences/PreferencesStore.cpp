@@ -1,7 +1,5 @@
 #include "preferences/PreferencesStore.h"
 
-#include "platform/Platform.h"
-
 namespace tessarine {
 
 namespace {
@@ -44,11 +42,6 @@ PreferencesStore::PreferencesStore(UserDefaults& defaults)
     // Keeping for ever is the choice of nobody having chosen, whatever a system's getter gives.
     if (!defaults.contains(retentionDaysKey))
         retentionDays_ = 0;
-}
-
-PreferencesStore& PreferencesStore::shared() {
-    static PreferencesStore* const store = new PreferencesStore(*Platform::shared().userDefaults);
-    return *store;
 }
 
 template <typename Field, typename Value, typename Write>

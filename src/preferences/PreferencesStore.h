@@ -20,9 +20,6 @@ class PreferencesStore : public QObject {
 public:
     explicit PreferencesStore(UserDefaults& defaults);
 
-    // The program's settings, read at the first use and kept until the process ends.
-    static PreferencesStore& shared();
-
     qint64 retentionDays() const { return retentionDays_; } // below 1: keep for ever
     bool globalPrivacyMode() const { return globalPrivacyMode_; }
     const std::set<QString>& privacyApps() const { return privacyApps_; } // bundle identifiers

@@ -1,6 +1,5 @@
 #include "store/HoardStore.h"
 
-#include "platform/Platform.h"
 #include "store/Sqlite.h"
 
 #include <QDir>
@@ -66,13 +65,6 @@ HoardStore::HoardStore(const FileSystem& fileSystem, UserDefaults& defaults, con
     , clock_(clock) {}
 
 HoardStore::~HoardStore() = default;
-
-HoardStore& HoardStore::shared() {
-    const Platform& platform = Platform::shared();
-    static HoardStore* const store =
-        new HoardStore(*platform.fileSystem, *platform.userDefaults, *platform.scheduler);
-    return *store;
-}
 
 void HoardStore::open() {
     onQueue([] {});

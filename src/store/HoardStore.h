@@ -57,10 +57,7 @@ public:
     HoardStore(const FileSystem& fileSystem, UserDefaults& defaults, const Scheduler& clock);
     HoardStore(const HoardStore&) = delete;
     HoardStore& operator=(const HoardStore&) = delete;
-    ~HoardStore(); // closes the connection; the program's own store is never destroyed
-
-    // The program's store, kept until the process ends.
-    static HoardStore& shared();
+    ~HoardStore(); // closes the connection
 
     // Opens the hoard now, for whom no operation will do.
     void open();

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "apps/AppLauncher.h"
 #include "browser/ContentView.h"
-#include "capture/NotificationListener.h"
+#include "core/Services.h"
 #include "support/HoardFile.h"
 #include "support/Printers.h"
 #include "support/SimulatedDesktop.h"
@@ -43,17 +42,17 @@ protected:
 
     ContentView& open() {
         reload();
-        view = std::make_unique<ContentView>(services());
+        view = std::make_unique<ContentView>(browserServices());
         view->appear();
         return *view;
     }
 
-    ContentView::Services services() {
-        return {listener,
+    ContentView::Services browserServices() {
+        return {services.listener,
                 hoard,
                 preferences,
                 system.scheduler,
-                launcher,
+                services.launcher,
                 [this](const QString& text) { pasteboard << text; },
                 [this](NotificationList list, std::function<void()> onDismiss) {
                     exported = list;
@@ -81,12 +80,10 @@ protected:
 
     QTemporaryDir folder;
     SimulatedPlatform system{folder.path()};
-    HoardStore hoard{system.fileSystem, system.defaults, system.scheduler};
-    PreferencesStore preferences{system.defaults};
-    DiagnosticsStore diagnostics{system.scheduler, hoard};
-    std::shared_ptr<NotificationListener> listener =
-        NotificationListener::create({hoard, preferences, diagnostics, system.platform});
-    AppLauncher launcher{*system.platform.workspace, *system.platform.fileSystem, system.scheduler};
+    Services services{system.platform};
+    HoardStore& hoard = services.hoard;
+    PreferencesStore& preferences = services.preferences;
+    std::shared_ptr<NotificationListener> listener = services.listener;
     QStringList pasteboard;    // each text that was put there
     NotificationList exported; // what the last export sheet was given
     SimulatedSavePanel savePanel;

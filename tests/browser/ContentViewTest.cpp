@@ -13,13 +13,13 @@ class ContentViewTest : public BrowserTest {};
 // Faces
 
 TEST_F(ContentViewTest, LoadsUntilTheFirstListCame) {
-    ContentView fresh(services());
+    ContentView fresh(browserServices());
     fresh.appear();
     EXPECT_EQ(fresh.face(), Face::Loading);
 }
 
 TEST_F(ContentViewTest, WaitsOverAnEmptyHoard) {
-    ContentView fresh(services());
+    ContentView fresh(browserServices());
     fresh.appear();
     listener->start();
     system.scheduler.settle();
@@ -29,7 +29,7 @@ TEST_F(ContentViewTest, WaitsOverAnEmptyHoard) {
 
 TEST_F(ContentViewTest, ShowsWhatTheHoardHolds) {
     store(u"Mail"_qs, u"Hello"_qs, 1);
-    ContentView fresh(services());
+    ContentView fresh(browserServices());
     fresh.appear();
     listener->start();
     system.scheduler.settle();

@@ -1,6 +1,6 @@
 #include "shell/MenuBarController.h"
 
-#include "capture/NotificationListener.h"
+#include "core/Services.h"
 #include "support/Printers.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
@@ -31,11 +31,8 @@ protected:
 
     QTemporaryDir folder_;
     testing::SimulatedPlatform system_{folder_.path()};
-    HoardStore hoard_{system_.fileSystem, system_.defaults, system_.scheduler};
-    PreferencesStore preferences_{system_.defaults};
-    DiagnosticsStore diagnostics_{system_.scheduler, hoard_};
-    std::shared_ptr<NotificationListener> listener_ =
-        NotificationListener::create({hoard_, preferences_, diagnostics_, system_.platform});
+    Services services_{system_.platform};
+    std::shared_ptr<NotificationListener> listener_ = services_.listener;
     testing::SimulatedStatusItem item_;
     std::optional<MenuBarController> controller_;
     int opened_ = 0;

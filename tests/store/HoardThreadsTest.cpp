@@ -1,11 +1,8 @@
-#include "platform/Platform.h"
 #include "store/HoardFixture.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <mutex>
-#include <set>
 #include <thread>
 #include <vector>
 
@@ -99,26 +96,19 @@ TEST_F(HoardThreads, ReadWholeRowsWhileOthersWrite) {
     EXPECT_EQ(store->totalCount(), threadCount / 2 * each);
 }
 
-// The store of the program, made by its first user, whichever thread that is.
-TEST(SharedHoard, IsOneForAllThreadsUnderTheUsersDataFolder) {
+// Whichever thread comes first: the others wait, and nobody opens it a second time.
+TEST(HoardOfAnyThread, IsOpenedByTheFirstThatAsks) {
     const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(u"data"_qs)));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(u"config"_qs)));
-    Platform::install(makePlatform());
-    std::mutex mutex;
-    std::set<HoardStore*> stores;
-    onAllThreads([&](int) {
-        HoardStore* const store = &HoardStore::shared();
-        const std::lock_guard lock(mutex);
-        stores.insert(store);
+    const testing::SimulatedPlatform system(home.path());
+    HoardStore store(system.fileSystem, system.defaults, system.scheduler);
+    EXPECT_FALSE(QFile::exists(store.path()));
+    onAllThreads([&](int thread) {
+        CapturedNotification notification;
+        notification.noteId = thread + 1;
+        EXPECT_TRUE(store.insert(notification));
     });
-    ASSERT_EQ(stores.size(), 1U);
-    EXPECT_EQ(HoardStore::shared().path(), home.filePath(u"data/Tessarine/hoard.db"_qs));
-    CapturedNotification notification;
-    notification.noteId = 5;
-    EXPECT_TRUE(HoardStore::shared().insert(notification));
-    const testing::DatabaseFile file(home.filePath(u"data/Tessarine/hoard.db"_qs));
-    EXPECT_EQ(file.number(u"SELECT system_note_id FROM notifications"_qs), 5);
+    EXPECT_EQ(testing::DatabaseFile(store.path()).number(u"SELECT count(*) FROM notifications"_qs),
+              threadCount);
 }
 
 // Whoever waits for the hoard comes first: a reading ahead that has just begun is given up.

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "platform/FileViewer.h"
-#include "platform/SavePanel.h"
-#include "platform/StatusItem.h"
-#include "platform/SystemAppearance.h"
+#include "platform/Desktop.h"
+#include "support/SimulatedApplicationIcons.h"
 
 #include <functional>
 #include <vector>
@@ -72,5 +70,44 @@ public:
 
     std::vector<QString> revealed;
 };
+
+class SimulatedApplicationControl : public ApplicationControl {
+public:
+    void useAccessoryPolicy() override { isAccessory = true; }
+    void activate(QWindow& window) override { activated.push_back(&window); }
+
+    bool isAccessory = false;
+    std::vector<QWindow*> activated;
+};
+
+// The whole simulated desktop, with its parts at hand for the test.
+struct SimulatedDesktop {
+    explicit SimulatedDesktop(std::unique_ptr<Symbols> symbols);
+    SimulatedDesktop()
+        : SimulatedDesktop(std::make_unique<SimulatedSymbols>()) {}
+
+    Desktop desktop;
+    SimulatedApplicationIcons& icons;
+    SimulatedAppearance& appearance;
+    SimulatedApplicationControl& application;
+    SimulatedStatusItem& statusItem;
+    SimulatedSavePanel& savePanel;
+    SimulatedFileViewer& fileViewer;
+};
+
+inline SimulatedDesktop::SimulatedDesktop(std::unique_ptr<Symbols> symbols)
+    : desktop{std::move(symbols),
+              std::make_unique<SimulatedApplicationIcons>(),
+              std::make_unique<SimulatedAppearance>(),
+              std::make_unique<SimulatedApplicationControl>(),
+              std::make_unique<SimulatedStatusItem>(),
+              std::make_unique<SimulatedSavePanel>(),
+              std::make_unique<SimulatedFileViewer>()}
+    , icons(static_cast<SimulatedApplicationIcons&>(*desktop.applicationIcons))
+    , appearance(static_cast<SimulatedAppearance&>(*desktop.appearance))
+    , application(static_cast<SimulatedApplicationControl&>(*desktop.application))
+    , statusItem(static_cast<SimulatedStatusItem&>(*desktop.statusItem))
+    , savePanel(static_cast<SimulatedSavePanel&>(*desktop.savePanel))
+    , fileViewer(static_cast<SimulatedFileViewer&>(*desktop.fileViewer)) {}
 
 } // namespace tessarine::testing

@@ -1,3 +1,5 @@
+#include "apps/AppIconView.h"
+
 #include "ui/UiFixture.h"
 
 #include <QDir>
@@ -19,7 +21,7 @@ protected:
     }
 
     AppIconView* add(const QString& bundleId, const QString& appName, double x = 0) {
-        QQmlComponent component(engine.get());
+        QQmlComponent component(views.engine.get());
         component.setData("import Tessarine.Apps\nAppIconView { width: 36; height: 36; "
                           "cornerRadius: 8 }",
                           QUrl());
@@ -89,14 +91,14 @@ TEST_F(AppIconViewTest, AsksForNothingBeforeItIsShown) {
     window_.hide();
     add(u"com.example.foo"_qs, u"Foo"_qs);
     system.scheduler.settle();
-    EXPECT_TRUE(resolver->cache().isEmpty());
+    EXPECT_TRUE(views.icons->cache().isEmpty());
 }
 
 TEST_F(AppIconViewTest, AsksForNothingWhileItIsHiddenItself) {
     AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
     view->setVisible(false);
     frame();
-    EXPECT_TRUE(resolver->cache().isEmpty());
+    EXPECT_TRUE(views.icons->cache().isEmpty());
     view->setVisible(true);
     frame();
     EXPECT_TRUE(view->hasIcon());
@@ -177,7 +179,7 @@ TEST_F(AppIconViewTest, SurvivesItsOwnEndDuringALookup) {
     window_.grabWindow();
     delete view;
     system.scheduler.settle();
-    EXPECT_TRUE(resolver->cache().contains(u"bundle:com.example.foo"_qs));
+    EXPECT_TRUE(views.icons->cache().contains(u"bundle:com.example.foo"_qs));
 }
 
 TEST_F(AppIconViewTest, ShowsAnUnresolvedSourceUnderItsName) {

@@ -286,12 +286,12 @@ protected:
 
 TEST_F(GroupIconsTest, AnApplicationsHeaderLooksForItsIcon) {
     showClosedGroup(GroupMode::app);
-    EXPECT_EQ(resolver->cache().keys(), QStringList(u"name:Mail"_qs));
+    EXPECT_EQ(views.icons->cache().keys(), QStringList(u"name:Mail"_qs));
 }
 
 TEST_F(GroupIconsTest, ADaysHeaderLooksForNone) {
     showClosedGroup(GroupMode::date);
-    EXPECT_EQ(resolver->cache().keys(), QStringList());
+    EXPECT_EQ(views.icons->cache().keys(), QStringList());
     EXPECT_TRUE(textsIn(root()).contains(u"Sunday, November 16, 2025"_qs));
 }
 

@@ -8,8 +8,7 @@
 namespace tessarine::testing {
 
 UiTest::UiTest() {
-    installAppIcons(*engine, resolver);
-    QObject::connect(engine.get(), &QQmlEngine::warnings, engine.get(),
+    QObject::connect(views.engine.get(), &QQmlEngine::warnings, views.engine.get(),
                      [](const QList<QQmlError>& warnings) {
                          for (const QQmlError& warning : warnings)
                              ADD_FAILURE() << warning.toString().toStdString();
@@ -37,19 +36,7 @@ NotificationList UiTest::numbered(int count, int firstRow) {
 }
 
 void UiTest::makeWindow() {
-    const ContentView::Services services{
-        listener,
-        hoard,
-        preferences,
-        system.scheduler,
-        launcher,
-        [this](const QString& text) { pasteboard << text; },
-        [this](NotificationList list, std::function<void()> onDismiss) {
-            return std::make_unique<ExportOptionsSheet>(
-                std::move(list), std::move(onDismiss),
-                ExportOptionsSheet::Services{exports, preferences, system.scheduler, fileViewer});
-        }};
-    window = std::make_unique<MainWindow>(services, system.defaults, *engine);
+    window = std::make_unique<MainWindow>(views.browser(), system.defaults, *views.engine);
 }
 
 void UiTest::showHoard(int count) {

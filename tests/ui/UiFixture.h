@@ -1,17 +1,11 @@
 #pragma once
 
-#include "apps/AppIconResolver.h"
-#include "apps/AppIconView.h"
-#include "apps/AppLauncher.h"
 #include "browser/MainWindow.h"
-#include "capture/NotificationListener.h"
+#include "core/ViewServices.h"
 #include "platform/linux/desktop/LinuxSymbols.h"
 #include "support/Printers.h"
-#include "support/SimulatedApplicationIcons.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
-#include "theme/Theme.h"
-#include "windows/ViewEngine.h"
 
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -77,23 +71,19 @@ protected:
 
     QTemporaryDir folder;
     SimulatedPlatform system{folder.path()};
-    HoardStore hoard{system.fileSystem, system.defaults, system.scheduler};
-    PreferencesStore preferences{system.defaults};
-    DiagnosticsStore diagnostics{system.scheduler, hoard};
-    std::shared_ptr<NotificationListener> listener =
-        NotificationListener::create({hoard, preferences, diagnostics, system.platform});
-    SimulatedAppearance appearance;
-    LinuxSymbols symbols;
-    SimulatedApplicationIcons icons;
-    std::shared_ptr<AppIconResolver> resolver = AppIconResolver::create(
-        system.scheduler, {system.workspace, system.fileSystem, icons, symbols});
-    Theme theme{appearance};
-    std::unique_ptr<QQmlEngine> engine = makeViewEngine(theme, symbols);
-    AppLauncher launcher{*system.platform.workspace, *system.platform.fileSystem, system.scheduler};
+    SimulatedDesktop desktop{std::make_unique<LinuxSymbols>()};
+    Services services{system.platform};
     QStringList pasteboard; // each text that was put there
-    SimulatedSavePanel savePanel;
-    SimulatedFileViewer fileViewer;
-    ExportManager exports{{preferences, system.scheduler, savePanel}};
+    ViewServices views{services, desktop.desktop,
+                       [this](const QString& text) { pasteboard << text; }};
+    HoardStore& hoard = services.hoard;
+    PreferencesStore& preferences = services.preferences;
+    std::shared_ptr<NotificationListener> listener = services.listener;
+    SimulatedAppearance& appearance = desktop.appearance;
+    SimulatedApplicationIcons& icons = desktop.icons;
+    Theme& theme = views.theme;
+    SimulatedSavePanel& savePanel = desktop.savePanel;
+    SimulatedFileViewer& fileViewer = desktop.fileViewer;
     std::unique_ptr<MainWindow> window;
 };
 

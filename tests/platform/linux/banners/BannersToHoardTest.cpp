@@ -1,7 +1,7 @@
 // From an announcement on the bus, as the monitor tells it, to the hoard: the Linux source under
 // the same observer, throttle and scan as on any system, with a clock that the test turns.
 
-#include "capture/NotificationListener.h"
+#include "core/Services.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/banners/BannerProcess.h"
 #include "platform/linux/banners/LinuxAccessibility.h"
@@ -13,6 +13,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <optional>
 
 namespace tessarine {
 namespace {
@@ -31,10 +33,7 @@ struct BannersToHoardTest : ::testing::Test {
     testing::SimulatedPlatform system{folder.path()};
     ManualScheduler& scheduler = system.scheduler;
     std::shared_ptr<BannerProcess> process = std::make_shared<BannerProcess>(scheduler);
-    HoardStore hoard{system.fileSystem, system.defaults, scheduler};
-    PreferencesStore preferences{system.defaults};
-    DiagnosticsStore diagnostics{scheduler, hoard};
-    std::shared_ptr<NotificationListener> listener;
+    std::optional<Services> services; // over the platform with its Linux parts
     std::uint32_t lastSerial = 0;
     std::uint64_t lastTurn = 0;
 
@@ -47,8 +46,8 @@ struct BannersToHoardTest : ::testing::Test {
         scheduler.settle();
         process->setService({true, BannerOwner{pid, ++lastTurn}}); // there was no bus to ask
         scheduler.settle();
-        listener = NotificationListener::create({hoard, preferences, diagnostics, system.platform});
-        listener->start();
+        services.emplace(system.platform);
+        services->listener->start();
         scheduler.settle();
     }
 
@@ -67,7 +66,7 @@ struct BannersToHoardTest : ::testing::Test {
     std::vector<QString> stored(const QString& column = u"title"_qs) const {
         std::vector<QString> texts;
         for (const QStringList& row :
-             testing::DatabaseFile(hoard.path())
+             testing::DatabaseFile(services->hoard.path())
                  .rows(u"SELECT %1 FROM notifications ORDER BY id"_qs.arg(column)))
             texts.push_back(row.front());
         return texts;
@@ -77,7 +76,7 @@ struct BannersToHoardTest : ::testing::Test {
 TEST_F(BannersToHoardTest, StoresTextsToTheCharacter) {
     announce({u"Foo, Inc."_qs, u"Meeting 14:30 - 15:00, Room 5"_qs, u"07:30"_qs});
     EXPECT_EQ(
-        testing::DatabaseFile(hoard.path())
+        testing::DatabaseFile(services->hoard.path())
             .rows(u"SELECT bundle_id, app_name, title, body, timestamp FROM notifications"_qs),
         (std::vector<QStringList>{{u"foo,.inc."_qs, u"Foo, Inc."_qs,
                                    u"Meeting 14:30 - 15:00, Room 5"_qs, u"07:30"_qs,
@@ -123,7 +122,7 @@ TEST_F(BannersToHoardTest, StoresEachOfTwoThousandAtOnceOnce) {
     ASSERT_THAT(titles, SizeIs(2000));
     for (int i = 0; i < 2000; ++i)
         EXPECT_EQ(titles[static_cast<std::size_t>(i)], QString::number(i));
-    EXPECT_EQ(diagnostics.capturedTotal(), 2000);
+    EXPECT_EQ(services->diagnostics.capturedTotal(), 2000);
 }
 
 TEST_F(BannersToHoardTest, StoresOnceWhatArrivesByBothServices) {
@@ -145,7 +144,7 @@ TEST_F(BannersToHoardTest, DatesWhatCameJustBeforeASleepBeforeIt) {
 
 TEST_F(BannersToHoardTest, StoresWhatCameWhileTheListenerWasDetached) {
     serviceIs(std::nullopt);
-    EXPECT_FALSE(listener->hasAXObserver());
+    EXPECT_FALSE(services->listener->hasAXObserver());
     serviceIs(BannerOwner{pid + 1, ++lastTurn});
     announce(u"between two daemons"_qs); // the listener attaches a second after the launch
     EXPECT_THAT(stored(), IsEmpty());

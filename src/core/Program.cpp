@@ -1,0 +1,30 @@
+#include "core/Program.h"
+
+#include "windows/ViewEngine.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace tessarine {
+
+namespace {
+
+std::unique_ptr<Desktop> makeDesktopForViews() {
+    registerUi();
+    return makeDesktop();
+}
+
+void setClipboard(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+}
+
+} // namespace
+
+Program::Program()
+    : platform_(makePlatform())
+    , desktop_(makeDesktopForViews())
+    , services_(*platform_)
+    , views_(services_, *desktop_, setClipboard)
+    , delegate_(views_) {}
+
+} // namespace tessarine

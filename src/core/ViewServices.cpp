@@ -1,0 +1,40 @@
+#include "core/ViewServices.h"
+
+#include "apps/AppIconView.h"
+#include "windows/ViewEngine.h"
+
+#include <QQmlEngine>
+
+namespace tessarine {
+
+ViewServices::ViewServices(Services& given, Desktop& system, SetPasteboard pasteboard)
+    : services(given)
+    , desktop(system)
+    , setPasteboard(std::move(pasteboard))
+    , theme(*desktop.appearance)
+    , icons(AppIconResolver::create(*services.platform.scheduler,
+                                    {*services.platform.workspace, *services.platform.fileSystem,
+                                     *desktop.applicationIcons, *desktop.symbols}))
+    , exports({services.preferences, *services.platform.scheduler, *desktop.savePanel})
+    , engine(makeViewEngine(theme, *desktop.symbols)) {
+    installAppIcons(*engine, icons);
+}
+
+ViewServices::~ViewServices() = default;
+
+ContentView::Services ViewServices::browser() {
+    const ExportOptionsSheet::Services sheet{exports, services.preferences,
+                                             *services.platform.scheduler, *desktop.fileViewer};
+    return {services.listener,
+            services.hoard,
+            services.preferences,
+            *services.platform.scheduler,
+            services.launcher,
+            setPasteboard,
+            [sheet](NotificationList list, std::function<void()> onDismiss) {
+                return std::make_unique<ExportOptionsSheet>(std::move(list), std::move(onDismiss),
+                                                            sheet);
+            }};
+}
+
+} // namespace tessarine

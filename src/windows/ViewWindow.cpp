@@ -1,0 +1,144 @@
+#include "windows/ViewWindow.h"
+
+#include "platform/UserDefaults.h"
+#include "windows/WindowFrame.h"
+
+#include <QGuiApplication>
+#include <QQmlError>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QScreen>
+
+#include <chrono>
+
+namespace tessarine {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr WindowFeatures allFeatures =
+    WindowFeature::closable | WindowFeature::miniaturizable | WindowFeature::resizable;
+constexpr auto saveDelay = 500ms;
+constexpr char viewWindowProperty[] = "tessarineViewWindow";
+
+// The frame is the window system's own as long as nothing is to be missing from it.
+Qt::WindowFlags flagsOf(WindowFeatures features) {
+    if (features == allFeatures)
+        return Qt::Window;
+    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    flags.setFlag(Qt::WindowCloseButtonHint, features.testFlag(WindowFeature::closable));
+    flags.setFlag(Qt::WindowMinimizeButtonHint, features.testFlag(WindowFeature::miniaturizable));
+    flags.setFlag(Qt::WindowMaximizeButtonHint, features.testFlag(WindowFeature::resizable));
+    return flags | Qt::WindowSystemMenuHint;
+}
+
+} // namespace
+
+ViewWindow::ViewWindow(const Description& description, QQmlEngine& engine)
+    : window_(std::make_unique<QQuickView>(&engine, nullptr))
+    , minimumSize_(description.minimumSize)
+    , isResizable_(description.features.testFlag(WindowFeature::resizable)) {
+    window_->setProperty(viewWindowProperty, QVariant::fromValue<QObject*>(this));
+    window_->setFlags(flagsOf(description.features));
+    window_->setTitle(description.title);
+    window_->setMinimumSize(minimumSize_);
+    window_->setResizeMode(QQuickView::SizeRootObjectToView);
+    window_->setInitialProperties(description.properties);
+    window_->setSource(QUrl(QStringLiteral("qrc:/qt/qml/%1.qml").arg(description.component)));
+    if (window_->status() != QQuickView::Ready)
+        qFatal("%s", qPrintable(window_->errors().value(0).toString()));
+    connect(window_.get(), &QWindow::visibleChanged, this, &ViewWindow::onVisibleChanged);
+    connect(qApp, &QCoreApplication::aboutToQuit, window_.get(), &QWindow::hide);
+}
+
+ViewWindow::~ViewWindow() {
+    window_->hide();
+}
+
+void ViewWindow::centre(const QSize& size) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize fitting = sizeWithin(size, minimumSize_, room.size());
+    window_->setGeometry(QRect(centred(fitting, room), fitting));
+    if (!isResizable_) {
+        window_->setMinimumSize(fitting);
+        window_->setMaximumSize(fitting);
+    }
+}
+
+void ViewWindow::restoreSize(const QString& frameName, UserDefaults& defaults,
+                             const QSize& firstSize) {
+    defaults_ = &defaults;
+    // Where a window system of another kind keeps the frame of a window with this name.
+    frameKey_ = QStringLiteral("NSWindow Frame ") + frameName;
+    const auto saved = frameFromText(defaults.text(frameKey_).value_or(QString()));
+    centre(saved ? saved->size() : firstSize);
+    watchFrame();
+}
+
+void ViewWindow::watchFrame() {
+    saveTimer_.setSingleShot(true);
+    saveTimer_.setInterval(saveDelay);
+    connect(&saveTimer_, &QTimer::timeout, this, &ViewWindow::saveFrame);
+    const auto saveSoon = [this] {
+        if (window_->isVisible())
+            saveTimer_.start();
+    };
+    connect(window_.get(), &QWindow::xChanged, this, saveSoon);
+    connect(window_.get(), &QWindow::yChanged, this, saveSoon);
+    connect(window_.get(), &QWindow::widthChanged, this, saveSoon);
+    connect(window_.get(), &QWindow::heightChanged, this, saveSoon);
+}
+
+void ViewWindow::onVisibleChanged(bool visible) {
+    if (visible) {
+        Q_EMIT shown();
+        return;
+    }
+    Q_EMIT hidden();
+    saveTimer_.stop();
+    saveFrame();
+    if (isReleasedWhenClosed_)
+        deleteLater();
+}
+
+// A window that fills the screen keeps the frame that it will go back to.
+void ViewWindow::saveFrame() {
+    if (!defaults_ || window_->windowStates() != Qt::WindowNoState)
+        return;
+    const QString frame = frameToText(window_->geometry());
+    if (defaults_->text(frameKey_) != frame)
+        defaults_->setText(frameKey_, frame);
+}
+
+void ViewWindow::releaseWhenClosed() {
+    isReleasedWhenClosed_ = true;
+}
+
+void ViewWindow::showAndMakeKey() {
+    if (window_->windowStates().testFlag(Qt::WindowMinimized))
+        window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
+    window_->show();
+    window_->raise();
+    window_->requestActivate();
+}
+
+bool ViewWindow::isVisible() const {
+    return window_->isVisible();
+}
+
+QQuickItem& ViewWindow::root() const {
+    return *window_->rootObject();
+}
+
+ViewWindow* ViewWindow::titled(const QString& title) {
+    for (const QWindow* window : QGuiApplication::allWindows()) {
+        auto* const found =
+            qobject_cast<ViewWindow*>(window->property(viewWindowProperty).value<QObject*>());
+        if (found && window->title() == title)
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace tessarine

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QFlags>
+#include <QObject>
+#include <QPoint>
+#include <QSize>
+#include <QString>
+#include <QTimer>
+#include <QVariantMap>
+
+#include <memory>
+
+class QQmlEngine;
+class QQuickItem;
+class QQuickView;
+
+namespace tessarine {
+
+class UserDefaults;
+
+// What the frame of a window offers beside its title.
+enum class WindowFeature { closable = 1, miniaturizable = 2, resizable = 4 };
+Q_DECLARE_FLAGS(WindowFeatures, WindowFeature)
+Q_DECLARE_OPERATORS_FOR_FLAGS(WindowFeatures)
+
+// A window of the program: one component of a QML module, under a title. It is built hidden, in the
+// middle of the screen, and closing hides it. Main thread.
+class ViewWindow : public QObject {
+    Q_OBJECT
+
+public:
+    struct Description {
+        QString title;
+        QString component;          // module and type, as in "Tessarine/Browser/ContentView"
+        QVariantMap properties;     // of the component's root
+        WindowFeatures features;    // without resizable, the size is fixed
+        QSize minimumSize = {1, 1}; // in points
+    };
+
+    // The engine outlives the window. A component that can't be made ends the process: the program
+    // was built without it.
+    ViewWindow(const Description& description, QQmlEngine& engine);
+    ~ViewWindow() override; // hides the window
+
+    // Gives the content this size, as far as the screen has room, in the middle of the screen.
+    void centre(const QSize& size);
+
+    // The same with the size of the last process, where there is one; from now on the defaults hold
+    // the window's frame under this name. They outlive the window.
+    void restoreSize(const QString& frameName, UserDefaults& defaults, const QSize& firstSize);
+
+    // Destroys the window, with this object, once it is closed. For one that is made with new.
+    void releaseWhenClosed();
+
+    // Shows the window in front of the program's others and asks for the keyboard.
+    void showAndMakeKey();
+
+    bool isVisible() const;
+    QQuickView& window() const { return *window_; }
+    QQuickItem& root() const;
+
+    // The program's window with exactly this title, hidden ones too; null if there is none.
+    static ViewWindow* titled(const QString& title);
+
+Q_SIGNALS:
+    void shown();
+    void hidden();
+
+private:
+    void watchFrame();
+    void saveFrame();
+    void onVisibleChanged(bool visible);
+
+    std::unique_ptr<QQuickView> window_;
+    QSize minimumSize_;
+    bool isResizable_;
+    bool isReleasedWhenClosed_ = false;
+    UserDefaults* defaults_ = nullptr; // null: the frame is not kept
+    QString frameKey_;
+    QTimer saveTimer_;
+};
+
+} // namespace tessarine

@@ -1,0 +1,151 @@
+#include "core/AppDelegate.h"
+
+#include "support/EventLoop.h"
+#include "support/SimulatedDesktop.h"
+#include "support/SimulatedPlatform.h"
+
+#include <QMenu>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace tessarine {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class AppDelegateTest : public ::testing::Test {
+protected:
+    // The program as a new process builds it, up to the launch.
+    AppDelegateTest() {
+        system.defaults.setBoolean(u"NSQuitAlwaysKeepsWindows"_qs, true);
+        system.defaults.setText(u"appearanceMode"_qs, u"dark"_qs);
+        services.emplace(system.platform);
+        views.emplace(*services, desktop.desktop, [](const QString&) {});
+        delegate.emplace(*views);
+    }
+
+    void launch() {
+        delegate->applicationDidFinishLaunching();
+        system.scheduler.settle();
+    }
+
+    // The menu of the status item, as a click opens it.
+    void chooseInStatusMenu(const QString& text) {
+        QMenu menu;
+        desktop.statusItem.menuBuilder(menu);
+        for (QAction* action : menu.actions()) {
+            if (action->text() == text)
+                return action->trigger();
+        }
+        FAIL() << "no such entry";
+    }
+
+    QWindow* window() const { return delegate->mainWindow()->window(); }
+
+    QTemporaryDir folder;
+    testing::SimulatedPlatform system{folder.path()};
+    testing::SimulatedDesktop desktop;
+    std::optional<Services> services;
+    std::optional<ViewServices> views;
+    std::optional<AppDelegate> delegate;
+};
+
+TEST_F(AppDelegateTest, DoesNothingBeforeTheApplicationRuns) {
+    EXPECT_FALSE(desktop.application.isAccessory);
+    EXPECT_FALSE(desktop.statusItem.shown);
+    EXPECT_EQ(delegate->mainWindow(), nullptr);
+    EXPECT_FALSE(services->listener->isStarted());
+    EXPECT_FALSE(QFile::exists(services->hoard.path()));
+}
+
+TEST_F(AppDelegateTest, TakesNoPlaceAmongTheApplications) {
+    launch();
+    EXPECT_TRUE(desktop.application.isAccessory);
+}
+
+TEST_F(AppDelegateTest, LetsNoSystemBringItsWindowsBack) {
+    launch();
+    EXPECT_FALSE(system.defaults.boolean(u"NSQuitAlwaysKeepsWindows"_qs));
+}
+
+TEST_F(AppDelegateTest, LooksAsTheSettingsSay) {
+    launch();
+    EXPECT_EQ(desktop.appearance.appearance, Appearance::dark);
+}
+
+TEST_F(AppDelegateTest, StartsSilentWithAStatusItemAndAHiddenWindow) {
+    launch();
+    EXPECT_TRUE(desktop.statusItem.shown);
+    EXPECT_FALSE(window()->isVisible());
+    EXPECT_THAT(desktop.application.activated, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, CapturesAfterTheLaunch) {
+    launch();
+    EXPECT_TRUE(services->listener->isStarted());
+}
+
+TEST_F(AppDelegateTest, ShowsTheMainWindowInFrontOfOtherPrograms) {
+    launch();
+    delegate->showMainWindow();
+    EXPECT_TRUE(window()->isVisible());
+    EXPECT_THAT(desktop.application.activated, ElementsAre(window()));
+}
+
+TEST_F(AppDelegateTest, TakesAllAsSeenWhenTheWindowIsShown) {
+    launch();
+    services->listener->setNotifications(NotificationList(3));
+    ASSERT_EQ(desktop.statusItem.title, u" 3"_qs);
+    delegate->showMainWindow();
+    EXPECT_EQ(desktop.statusItem.title, QString());
+}
+
+TEST_F(AppDelegateTest, LeavesAHiddenWindowHiddenAtASecondStart) {
+    launch();
+    delegate->activate();
+    EXPECT_FALSE(window()->isVisible());
+    EXPECT_THAT(desktop.application.activated, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, BringsAnOpenWindowToTheFrontAtASecondStart) {
+    launch();
+    delegate->showMainWindow();
+    desktop.application.activated.clear();
+    delegate->activate();
+    EXPECT_THAT(desktop.application.activated, ElementsAre(window()));
+}
+
+TEST_F(AppDelegateTest, SurvivesASecondStartDuringTheLaunch) {
+    delegate->activate();
+    EXPECT_THAT(desktop.application.activated, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, GoesOnCapturingWithItsWindowClosed) {
+    launch();
+    delegate->showMainWindow();
+    window()->close();
+    CapturedNotification row;
+    row.noteId = 1;
+    row.title = u"later"_qs;
+    ASSERT_TRUE(services->hoard.insert(row));
+    services->listener->setNotifications(services->hoard.fetchRecent(500));
+    EXPECT_EQ(desktop.statusItem.title, u" 1"_qs);
+    delegate->showMainWindow();
+    EXPECT_TRUE(window()->isVisible());
+    EXPECT_EQ(delegate->mainWindow()->content().filteredNotifications().size(), 1U);
+}
+
+TEST_F(AppDelegateTest, FollowsTheModeThatItIsTold) {
+    launch();
+    delegate->applyAppearance(u"light"_qs);
+    EXPECT_EQ(desktop.appearance.appearance, Appearance::light);
+    delegate->applyAppearance(u"auto"_qs);
+    EXPECT_EQ(desktop.appearance.appearance, Appearance::system);
+}
+
+} // namespace
+} // namespace tessarine

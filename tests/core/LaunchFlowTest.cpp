@@ -1,0 +1,76 @@
+#include "core/LaunchFlow.h"
+
+#include "support/SimulatedPlatform.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace tessarine {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::ElementsAre;
+
+constexpr double day = 86400;
+
+class LaunchFlowTest : public ::testing::Test {
+protected:
+    void store(const QString& title, double age) {
+        CapturedNotification row;
+        row.noteId = ++lastNoteId;
+        row.title = title;
+        row.timestamp = system.scheduler.now() - age;
+        ASSERT_TRUE(services.hoard.insert(row));
+    }
+
+    QStringList titles() {
+        QStringList found;
+        for (const CapturedNotification& row : services.listener->notifications())
+            found << row.title;
+        return found;
+    }
+
+    QTemporaryDir folder;
+    testing::SimulatedPlatform system{folder.path()};
+    Services services{system.platform};
+    LaunchFlow flow{services};
+    qint64 lastNoteId = 0;
+};
+
+TEST_F(LaunchFlowTest, CapturesOnceItHasBegun) {
+    EXPECT_FALSE(services.listener->isStarted());
+    flow.begin();
+    EXPECT_TRUE(services.listener->isStarted());
+}
+
+TEST_F(LaunchFlowTest, LetsGoWhatIsTooOldBeforeTheListIsRead) {
+    services.preferences.setRetentionDays(30);
+    store(u"old"_qs, 31 * day);
+    store(u"young"_qs, 29 * day);
+    flow.begin();
+    system.scheduler.settle();
+    EXPECT_THAT(titles(), ElementsAre(u"young"_qs));
+    EXPECT_EQ(services.diagnostics.entries().back().message,
+              u"Retention: Policy — deleteOlderThan(30d) → 1 deleted"_qs);
+}
+
+TEST_F(LaunchFlowTest, RecordsThatTheSystemsDatabaseCanBeRead) {
+    const QString path = services.listener->usernotedDbPath();
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    QFile database(path);
+    ASSERT_TRUE(database.open(QIODevice::WriteOnly));
+    EXPECT_FALSE(flow.fdaConfirmedAtLaunch());
+    flow.begin();
+    EXPECT_TRUE(flow.fdaConfirmedAtLaunch());
+}
+
+TEST_F(LaunchFlowTest, RecordsThatItCannot) {
+    flow.begin();
+    EXPECT_FALSE(flow.fdaConfirmedAtLaunch());
+}
+
+} // namespace
+} // namespace tessarine
