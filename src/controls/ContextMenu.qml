@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A menu of ContextMenuItems and ContextMenuDividers. `popup(item, x, y)` opens it at a place, and

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The rows in the menu of a MenuPicker. Each time it opens, the chosen row is the current one.

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tessarine.Controls
 import Tessarine.Theme
 
 // The menu of a MenuPicker: its texts, one under the other, with a check mark at the chosen one. It

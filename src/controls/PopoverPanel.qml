@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A panel under the item that declares it, for something short. A press outside or Escape closes it,

@@ -1,4 +1,5 @@
 import QtQuick
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A list whose rows may be more than it has room for. A finger drags it; a mouse scrolls by its wheel

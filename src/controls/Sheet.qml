@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A panel over its dimmed window, which waits until it closes. It is as large as its ideal size, or
