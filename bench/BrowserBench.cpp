@@ -7,7 +7,6 @@
 
 #include "browser/MainWindow.h"
 #include "core/ViewServices.h"
-#include "platform/linux/desktop/LinuxSymbols.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
 #include "windows/ViewEngine.h"
@@ -74,7 +73,7 @@ NotificationList rows(int count) {
 struct Browser {
     QTemporaryDir folder;
     testing::SimulatedPlatform system{folder.path()};
-    testing::SimulatedDesktop desktop{std::make_unique<LinuxSymbols>()};
+    testing::SimulatedDesktop desktop{makeSymbols()};
     Services services{system.platform};
     ViewServices views{services, desktop.desktop, [](const QString&) {}};
     HoardStore& hoard = services.hoard;

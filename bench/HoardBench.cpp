@@ -191,7 +191,7 @@ void deduplicatedBare(benchmark::State& state) {
     storing(state, [&](const auto& record) { return bareInsertDeduplicated(bare, record); });
 }
 
-// As after a write of another program: the table is sorted anew.
+// As after a write of another program: the table is sorted again.
 void fetchOurs(benchmark::State& state) {
     Hoard& hoard = hoardOf(state.range(0));
     for (auto _ : state) {

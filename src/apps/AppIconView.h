@@ -38,7 +38,7 @@ public:
     QString initials() const;
     QColor placeholderColour() const;
 
-    // Starts over, as a view made anew would: for one that goes on to show something else.
+    // Starts over, as a new view would: for one that goes on to show something else.
     Q_INVOKABLE void rebuild();
 
 Q_SIGNALS:

@@ -6,7 +6,7 @@ namespace tessarine {
 
 namespace {
 
-constexpr quint64 pause = 1000; // milliseconds after which a word begins anew
+constexpr quint64 pause = 1000; // milliseconds after which a word starts over
 
 // The first row from `start` on, and round the end, whose text begins with the letters.
 int firstMatch(const QStringList& texts, const QString& letters, int start) {

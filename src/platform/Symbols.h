@@ -3,6 +3,9 @@
 #include <QColor>
 #include <QImage>
 #include <QString>
+#include <QStringList>
+
+#include <memory>
 
 namespace tessarine {
 
@@ -17,6 +20,12 @@ public:
     // The symbol in one colour on a transparent square, with this many device pixels a side. A
     // null image for a name that is not known.
     virtual QImage image(const QString& name, int pixels, const QColor& tint) const = 0;
+
+    // All names that are known.
+    virtual QStringList names() const = 0;
 };
+
+// The symbols of the system that the program was built for.
+std::unique_ptr<Symbols> makeSymbols();
 
 } // namespace tessarine

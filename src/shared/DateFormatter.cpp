@@ -34,7 +34,7 @@ icu::UnicodeString icuText(const QString& text) {
 } // namespace
 
 // Null members when ICU lacks its data: texts are then empty. The calendar is kept because ICU
-// would else copy one for every text.
+// would otherwise copy one for every text.
 struct DateFormatter::Format {
     std::unique_ptr<icu::DateFormat> format;
     std::unique_ptr<icu::Calendar> calendar;

@@ -1,7 +1,6 @@
 #include "shared/UserLocale.h"
 
-#include <QLocale>
-#include <QtGlobal>
+#include "shared/SystemLocale.h"
 
 #include <unicode/locid.h>
 #include <unicode/uchar.h>
@@ -84,13 +83,7 @@ QByteArray rememberedIcuName(const QByteArray& posixName) {
 } // namespace
 
 QByteArray userDateLocale() {
-    // By name and not through setlocale, which knows only the locales that were generated.
-    for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
-        const QByteArray value = qgetenv(variable);
-        if (!value.isEmpty())
-            return rememberedIcuName(value);
-    }
-    return QLocale::system().name().toLatin1();
+    return rememberedIcuName(systemDateLocaleName());
 }
 
 } // namespace tessarine

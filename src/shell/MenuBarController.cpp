@@ -59,7 +59,7 @@ void MenuBarController::updateBadge() {
     const quint64 unseen = lastSeenCount_ < count ? quint64(count) - quint64(lastSeenCount_) : 0;
     const QString title = badge(qint64(std::min(unseen, quint64(badgeLimit))));
     if (shownTitle_ == title)
-        return; // each telling draws the item anew
+        return; // each call draws the item again
     shownTitle_ = title;
     statusItem_.setTitle(title);
 }

@@ -1,5 +1,7 @@
 #include "theme/Fonts.h"
 
+#include "platform/FontFamilies.h"
+
 #include <QGuiApplication>
 #include <QStringList>
 
@@ -7,19 +9,18 @@ namespace tessarine {
 
 QFont textFont() {
     QFont font = QGuiApplication::font();
-    font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans"),
-                      QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Noto Color Emoji")});
+    font.setFamilies(systemFontFamilies().text);
     return font;
 }
 
 QFont monospacedFont() {
     QFont font = textFont();
-    font.setFamilies(QStringList(QStringLiteral("Noto Sans Mono")) + font.families());
+    font.setFamilies(QStringList(systemFontFamilies().monospaced) + font.families());
     return font;
 }
 
 QString tabularDigitsFamily() {
-    return QStringLiteral("Noto Sans");
+    return systemFontFamilies().tabular;
 }
 
 } // namespace tessarine

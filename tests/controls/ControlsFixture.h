@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/linux/desktop/LinuxSymbols.h"
 #include "support/Printers.h"
 #include "support/SimulatedDesktop.h"
 #include "theme/Theme.h"
@@ -60,9 +59,9 @@ protected:
                                              const QString& name = {});
 
     SimulatedAppearance appearance;
-    LinuxSymbols symbols;
+    std::unique_ptr<Symbols> symbols = makeSymbols();
     Theme theme{appearance};
-    std::unique_ptr<QQmlEngine> engine = makeViewEngine(theme, symbols);
+    std::unique_ptr<QQmlEngine> engine = makeViewEngine(theme, *symbols);
     std::unique_ptr<QQuickWindow> window;
     std::unique_ptr<QQuickItem> scene;
 };

@@ -85,7 +85,7 @@ TEST_P(GalleryTest, Pickers) {
 
 TEST_P(GalleryTest, Symbols) {
     load(u"symbols"_qs);
-    scene->setProperty("names", LinuxSymbols::names());
+    scene->setProperty("names", symbols->names());
     save(u"symbols"_qs);
 }
 

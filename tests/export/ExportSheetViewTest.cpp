@@ -1,6 +1,5 @@
 #include "export/ExportFixture.h"
 #include "export/ExportOptionsSheet.h"
-#include "platform/linux/desktop/LinuxSymbols.h"
 #include "theme/Theme.h"
 #include "windows/ViewEngine.h"
 
@@ -142,9 +141,9 @@ protected:
     }
 
     SimulatedAppearance appearance;
-    LinuxSymbols symbols;
+    std::unique_ptr<Symbols> symbols = makeSymbols();
     Theme theme{appearance};
-    std::unique_ptr<QQmlEngine> engine = makeViewEngine(theme, symbols);
+    std::unique_ptr<QQmlEngine> engine = makeViewEngine(theme, *symbols);
     SimulatedFileViewer viewer;
     int dismissed = 0;
     std::unique_ptr<ExportOptionsSheet> options;

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that includes point one way, that only a system's own folder knows the system, and that one
-file alone knows the time zone.
+"""Checks that includes point one way, as the documentation shows it, that only a system's own folder
+knows the system, and that one file alone knows the time zone.
 
 usage: check_layers.py ROOT
 """
@@ -171,10 +171,24 @@ def check_libraries(root):
     return violations
 
 
+def check_documents(root):
+    """The table and the picture of the documentation name every folder that there is."""
+    violations = []
+    table = root / "docs/architecture.md"
+    picture = root / "docs/house.svg"
+    for folder in LAYER_OF_FOLDERS:
+        if table.exists() and f"| `{folder}` |" not in table.read_text(encoding="utf-8"):
+            violations.append(f"docs/architecture.md: the table of folders lacks {folder}")
+        if picture.exists() and f">{folder}<" not in picture.read_text(encoding="utf-8"):
+            violations.append(f"docs/house.svg: the picture lacks {folder}")
+    return violations
+
+
 def check(root):
     files = sources.cpp_files(root, ["src"])
     return [*check_includes(root, files), *check_cycles(root, files),
-            *check_systems(root, files), *check_zones(root, files), *check_libraries(root)]
+            *check_systems(root, files), *check_zones(root, files), *check_libraries(root),
+            *check_documents(root)]
 
 
 def main():

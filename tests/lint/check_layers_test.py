@@ -58,6 +58,13 @@ class LayersTest(unittest.TestCase):
         self.write("src/news/Reader.h")
         self.assert_violations("src/news/Reader.h:1: belongs to no layer")
 
+    def test_the_documentation_names_every_folder(self):
+        folders = list(check_layers.LAYER_OF_FOLDERS)
+        self.write("docs/architecture.md", *(f"| `{folder}` | what |" for folder in folders[1:]))
+        self.write("docs/house.svg", *(f"<text>{folder}</text>" for folder in folders[:-1]))
+        self.assert_violations(f"docs/architecture.md: the table of folders lacks {folders[0]}",
+                               f"docs/house.svg: the picture lacks {folders[-1]}")
+
     def test_one_file_alone_asks_for_the_time_zone(self):
         self.write("src/shared/LocalZone.cpp", "localtime_r(&time, &local);", "tzset();")
         self.write("src/browser/Row.cpp", "// localtime_r was here", "localtime_r(&time, &local);",

@@ -6,8 +6,8 @@
 
 // Qt's software renderer forgets the textures of a window's images, and what painted them, when the
 // window goes: blocks that Qt's own drawing libraries allocate. What this program allocates, and
-// what Qt's core does for it, is still told of. (Whole stacks would tell more exactly, and make
-// every allocation several times as dear.)
+// what Qt's core does for it, is still reported. (Whole stacks would be more exact, and make
+// every allocation several times as slow.)
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libQt6Gui.so\nleak:libQt6Quick.so\n"

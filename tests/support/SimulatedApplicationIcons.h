@@ -48,6 +48,7 @@ public:
     QImage image(const QString& name, int pixels, const QColor& tint) const override {
         return known.contains(name) ? square(pixels, tint) : QImage();
     }
+    QStringList names() const override { return known; }
 
     QStringList known{QStringLiteral("gearshape.fill")};
 };

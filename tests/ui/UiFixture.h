@@ -2,7 +2,6 @@
 
 #include "browser/MainWindow.h"
 #include "core/ViewServices.h"
-#include "platform/linux/desktop/LinuxSymbols.h"
 #include "support/Printers.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
@@ -71,7 +70,7 @@ protected:
 
     QTemporaryDir folder;
     SimulatedPlatform system{folder.path()};
-    SimulatedDesktop desktop{std::make_unique<LinuxSymbols>()};
+    SimulatedDesktop desktop{makeSymbols()};
     Services services{system.platform};
     QStringList pasteboard; // each text that was put there
     ViewServices views{services, desktop.desktop,

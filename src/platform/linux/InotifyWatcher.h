@@ -14,8 +14,8 @@ namespace tessarine {
 // Watches by inotify, which follows the file and not its name, and needs not open it. One thread
 // sleeps on the events of all watches; it starts with the first of them.
 //
-// A write is told of at once, and once more when the file has been still for a moment: SQLite makes
-// a commit visible, in memory that no watch sees, only after the last write to its log.
+// A write is reported at once, and once more when the file has been still for a moment: SQLite
+// makes a commit visible, in memory that no watch sees, only after the last write to its log.
 class InotifyWatcher : public FileWatcher {
 public:
     explicit InotifyWatcher(Scheduler& scheduler);

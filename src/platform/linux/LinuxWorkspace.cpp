@@ -13,7 +13,7 @@ namespace tessarine {
 
 namespace {
 
-// The list of processes is read anew once it is this old: a burst of questions costs one reading.
+// The list of processes is read again once it is this old: a burst of questions costs one reading.
 constexpr double processListLife = 1.0;
 
 // Desktop entries have no folders that a user would know. This one stands for all of theirs.

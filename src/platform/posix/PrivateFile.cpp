@@ -100,7 +100,7 @@ std::error_code replacePrivately(const QString& path, const QByteArray& bytes) {
         return refusal;
     if (isPipeOrDevice(target))
         return {EOPNOTSUPP, std::generic_category()};
-    // Its name owes nothing to the target's, which may be as long as names can be.
+    // Its name does not contain the target's, which may be as long as names can be.
     QByteArray temporary = folderOf(target) + ".tessarine-XXXXXX";
     Descriptor file(mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.isOpen())

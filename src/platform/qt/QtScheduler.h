@@ -30,8 +30,8 @@ public:
 private:
     // Takes one task from the hand-over list for each event it is sent. The list has a standard
     // mutex: Qt's own queue would hide the hand-over from ThreadSanitizer. Tasks that have used up
-    // their share of a turn of the event loop leave the others owed, and input and drawing come
-    // first.
+    // their share of a turn of the event loop leave the others for a later one, and input and
+    // drawing come first.
     class MainThread : public QObject {
     public:
         MainThread();

@@ -1,7 +1,7 @@
 #include "platform/posix/FileLock.h"
 
+#include "platform/linux/NoFileLocks.h"
 #include "support/ChildRun.h"
-#include "support/NoFileLocks.h"
 #include "support/OrdinaryUser.h"
 #include "support/Printers.h"
 

@@ -98,7 +98,7 @@ std::optional<QString> replacement(QChar code, const DesktopEntry& entry) {
     case u'F':
     case u'u':
     case u'U':
-    case u'd': // from here on: of old, to be left out
+    case u'd': // from here on: deprecated, to be left out
     case u'D':
     case u'n':
     case u'N':

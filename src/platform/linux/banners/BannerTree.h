@@ -47,7 +47,7 @@ public:
     // The banner with this id is gone from the screen: its id stands for no banner any more.
     void closed(const BannerId& id);
 
-    // Another process serves and gives its ids anew.
+    // Another process serves and gives its ids from the start.
     void forgetIds(NotificationService service);
 
     // What wasn't taken yet, in the order of announcing.

@@ -103,7 +103,7 @@ void BusMonitor::run() {
 // All that concerns the owners of the names is asked on the connection that then becomes the
 // monitor: so answers, changes and calls come in one order, and none is missed in between.
 bool BusMonitor::attach() {
-    senderNames_.clear(); // another bus gives them anew
+    senderNames_.clear(); // another bus gives out names of its own
     questions_ = BusQuestions::open(address_, stop_);
     stream_ = questions_ ? BusConnection::open(address_, stop_) : nullptr;
     if (!stream_)

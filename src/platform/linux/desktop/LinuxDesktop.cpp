@@ -5,7 +5,6 @@
 #include "platform/linux/desktop/LinuxFileViewer.h"
 #include "platform/linux/desktop/LinuxSavePanel.h"
 #include "platform/linux/desktop/LinuxStatusItem.h"
-#include "platform/linux/desktop/LinuxSymbols.h"
 #include "platform/linux/desktop/LinuxSystemAppearance.h"
 
 #include <QDBusConnection>
@@ -20,7 +19,7 @@ void LinuxApplicationControl::activate(QWindow& window) {
 
 std::unique_ptr<Desktop> makeDesktop() {
     auto desktop = std::make_unique<Desktop>();
-    desktop->symbols = std::make_unique<LinuxSymbols>();
+    desktop->symbols = makeSymbols();
     desktop->applicationIcons = std::make_unique<LinuxApplicationIcons>();
     desktop->appearance = std::make_unique<LinuxSystemAppearance>(QDBusConnection::sessionBus());
     desktop->application = std::make_unique<LinuxApplicationControl>();

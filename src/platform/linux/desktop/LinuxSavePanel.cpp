@@ -19,8 +19,8 @@ QString firstFolder() {
     return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
-// Icons and types by names alone. The dialog would else look into each file of a folder for its
-// kind, and wait for ever for one that has nothing to read.
+// Icons and types by names alone. The dialog would otherwise look into each file of a folder for
+// its kind, and wait for ever for one that has nothing to read.
 class FileIcons : public QFileIconProvider {
 public:
     using QFileIconProvider::icon;

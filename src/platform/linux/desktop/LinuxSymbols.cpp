@@ -105,8 +105,12 @@ QImage LinuxSymbols::image(const QString& name, int pixels, const QColor& tint) 
     return image;
 }
 
-QStringList LinuxSymbols::names() {
+QStringList LinuxSymbols::names() const {
     return table().keys();
+}
+
+std::unique_ptr<Symbols> makeSymbols() {
+    return std::make_unique<LinuxSymbols>();
 }
 
 } // namespace tessarine

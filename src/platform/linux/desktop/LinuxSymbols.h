@@ -2,8 +2,6 @@
 
 #include "platform/Symbols.h"
 
-#include <QStringList>
-
 namespace tessarine {
 
 // Symbols from the Adwaita icon theme, whatever theme the desktop has, so that they belong
@@ -11,9 +9,7 @@ namespace tessarine {
 class LinuxSymbols : public Symbols {
 public:
     QImage image(const QString& name, int pixels, const QColor& tint) const override;
-
-    // All names that the table has.
-    static QStringList names();
+    QStringList names() const override;
 };
 
 } // namespace tessarine

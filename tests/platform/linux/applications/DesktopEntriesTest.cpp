@@ -172,7 +172,7 @@ TEST_F(DesktopEntryFile, StartsAQuotedProgramWithBlanks) {
 }
 
 TEST_F(DesktopEntryFile, ResolvesTheEscapesInsideQuotes) {
-    // A backslash is escaped as in every text of the file, and quotes anew as in a command.
+    // A backslash is escaped as in every text of the file, and quotes once more as in a command.
     EXPECT_EQ(executable(R"("/opt/a\\"b/\\$c/\\`d/e\\\\f" x)"), uR"(/opt/a"b/$c/`d/e\f)"_qs);
 }
 

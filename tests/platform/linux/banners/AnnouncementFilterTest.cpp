@@ -40,7 +40,7 @@ struct AnnouncementFilterTest : ::testing::Test {
     const std::shared_ptr<void> terminations = process->onTermination(
         [this](qint32 pid) { told.push_back(u"-"_qs + QString::number(pid)); });
 
-    // With what is told of that already told.
+    // With these changes already reported.
     void start(const NameOwner& first, const NameOwner& second) {
         filter.connected(first, second);
         scheduler.settle();

@@ -43,7 +43,7 @@ TEST_P(SymbolTest, IsDrawnInItsColourAtTheSizeAskedFor) {
 
 std::vector<std::string> allSymbols() {
     std::vector<std::string> names;
-    for (const QString& name : LinuxSymbols::names())
+    for (const QString& name : LinuxSymbols().names())
         names.push_back(name.toStdString());
     return names;
 }
