@@ -112,7 +112,7 @@ void typing(int count) {
     for (int i = 0; i < repetitions; ++i) {
         for (const char* text : {"m", "me", "mes", "message 1", "message 12", ""}) {
             keys.measure([&] {
-                browser.window.content().setSearchText(QString::fromLatin1(text));
+                browser.window.content().list()->setSearchText(QString::fromLatin1(text));
                 browser.window.window()->grabWindow();
             });
         }
@@ -179,7 +179,7 @@ void loadingOlder(qint64 count) {
     Times statement;
     for (int limit = 1000; limit <= 3500; limit += 500) {
         ours.measure([&] {
-            browser.window.content().loadOlder();
+            browser.window.content().list()->loadOlder();
             browser.window.window()->grabWindow();
         });
         statement.measure([&] { bareFetch(bare, limit); });

@@ -8,16 +8,18 @@ import Tessarine.Theme
 Item {
     id: head
 
-    required property ContentViewState view
+    required property BrowserList list
+    required property ListSelection selection
+    required property Overlays overlays
 
     readonly property int sidePadding: Metrics.spacingLarge
 
-    readonly property bool selecting: view.selectionMode
+    readonly property bool selecting: selection.selectionMode
 
     // A keyboard that is where things leave goes on in the selection bar.
     function enterSelectionMode() {
         focusKeeper.remember(head);
-        head.view.enterSelectionMode();
+        head.selection.enterSelectionMode();
         focusKeeper.moveOn(actions, selectionBar.firstStop);
         focusKeeper.moveOn(toolbar, selectionBar.firstStop);
     }
@@ -38,8 +40,8 @@ Item {
         y: Metrics.spacingLarge - 1
         placeholderText: qsTrId("toolbar.search.placeholder")
         clearLabel: qsTrId("toolbar.search.clear")
-        text: head.view.searchText
-        onTextEdited: head.view.searchText = text
+        text: head.list.searchText
+        onTextEdited: head.list.searchText = text
     }
 
     Row {
@@ -49,14 +51,14 @@ Item {
         anchors.rightMargin: head.sidePadding - Metrics.spacingSmall
         anchors.verticalCenter: search.verticalCenter
         spacing: Metrics.spacingSmall
-        visible: head.view.hasNotifications && !head.view.selectionMode
+        visible: head.list.hasNotifications && !head.selecting
 
         IconButton {
             objectName: "export"
             symbol: "square.and.arrow.up"
             accessibleName: qsTrId("toolbar.export.help")
             toolTipText: qsTrId("toolbar.export.help")
-            onClicked: head.view.showExportSheet = true
+            onClicked: head.overlays.showExportSheet = true
         }
 
         IconButton {
@@ -74,10 +76,10 @@ Item {
         id: toolbar
 
         anchors.fill: bars
-        z: head.view.selectionMode ? 0 : 2
-        view: head.view
-        opacity: head.view.selectionMode ? 0 : 1
-        visible: opacity > 0 || !head.view.selectionMode
+        z: head.selecting ? 0 : 2
+        list: head.list
+        opacity: head.selecting ? 0 : 1
+        visible: opacity > 0 || !head.selecting
 
         Behavior on opacity {
             NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }
@@ -103,10 +105,10 @@ Item {
         id: selectionBar
 
         anchors.fill: bars
-        z: head.view.selectionMode ? 2 : 0
-        view: head.view
-        opacity: head.view.selectionMode ? 1 : 0
-        visible: opacity > 0 || head.view.selectionMode
+        z: head.selecting ? 2 : 0
+        selection: head.selection
+        opacity: head.selecting ? 1 : 0
+        visible: opacity > 0 || head.selecting
 
         Behavior on opacity {
             NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }

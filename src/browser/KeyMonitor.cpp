@@ -1,6 +1,7 @@
 #include "browser/KeyMonitor.h"
 
-#include "browser/ContentView.h"
+#include "browser/rows/RowActions.h"
+#include "browser/selection/ListSelection.h"
 
 #include <QKeyEvent>
 #include <QQuickItem>
@@ -24,8 +25,10 @@ bool hasSelectedText(const QQuickItem* item) {
 
 } // namespace
 
-KeyMonitor::KeyMonitor(ContentView& view, QQuickWindow& window, QQuickItem& root)
-    : view_(view)
+KeyMonitor::KeyMonitor(RowActions& actions, const ListSelection& selection, QQuickWindow& window,
+                       QQuickItem& root)
+    : actions_(actions)
+    , selection_(selection)
     , window_(window)
     , root_(root) {
     window.installEventFilter(this);
@@ -39,7 +42,7 @@ bool KeyMonitor::eventFilter(QObject*, QEvent* event) {
 
 bool KeyMonitor::keysAreOurs() const {
     const QQuickItem* const focused = window_.activeFocusItem();
-    return view_.isPreviewing() || !focused || focused == window_.contentItem() ||
+    return actions_.isPreviewing() || !focused || focused == window_.contentItem() ||
            focused == &root_ || root_.isAncestorOf(focused);
 }
 
@@ -53,27 +56,27 @@ bool KeyMonitor::takesKey(const QKeyEvent& event) {
 
 // A key that is held down opens once.
 bool KeyMonitor::takesSpace(const QKeyEvent& event) {
-    if (!view_.focusedNotification())
+    if (!actions_.focusedNotification())
         return false;
     if (!event.isAutoRepeat())
-        view_.setShowPreview(!view_.isPreviewing());
+        actions_.setShowPreview(!actions_.isPreviewing());
     return true;
 }
 
 bool KeyMonitor::takesEscape() {
-    if (view_.selectionMode())
+    if (selection_.selectionMode())
         return false;
-    view_.clearFocus();
+    actions_.clearFocus();
     return true;
 }
 
 bool KeyMonitor::takesCopy() {
-    if (!view_.focusedNotification() || hasSelectedText(window_.activeFocusItem()))
+    if (!actions_.focusedNotification() || hasSelectedText(window_.activeFocusItem()))
         return false;
-    if (view_.isPreviewing())
-        view_.copyPreview();
+    if (actions_.isPreviewing())
+        actions_.copyPreview();
     else
-        view_.copyToPasteboard(view_.focusedNotifId());
+        actions_.copyToPasteboard(actions_.focusedNotifId());
     return true;
 }
 

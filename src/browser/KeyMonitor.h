@@ -8,7 +8,8 @@ class QQuickWindow;
 
 namespace tessarine {
 
-class ContentView;
+class ListSelection;
+class RowActions;
 
 // Sees the keys of the main window before the control that has the focus: Space opens and closes
 // the preview of the focused row, Escape takes the focus away, the copy shortcut copies the row.
@@ -18,8 +19,9 @@ class KeyMonitor : public QObject {
     Q_OBJECT
 
 public:
-    // All three outlive the monitor. The root is the item that the main view fills.
-    KeyMonitor(ContentView& view, QQuickWindow& window, QQuickItem& root);
+    // All four outlive the monitor. The root is the item that the main view fills.
+    KeyMonitor(RowActions& actions, const ListSelection& selection, QQuickWindow& window,
+               QQuickItem& root);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -30,7 +32,8 @@ private:
     bool takesEscape();
     bool takesCopy();
 
-    ContentView& view_;
+    RowActions& actions_;
+    const ListSelection& selection_;
     QQuickWindow& window_;
     QQuickItem& root_;
 };

@@ -28,7 +28,7 @@ ViewWindow::Description description(ContentView& content) {
     [[maybe_unused]] const volatile auto icons = &qml_register_types_Tessarine_Apps;
     [[maybe_unused]] const volatile auto types = &qml_register_types_Tessarine_Browser;
     return {QStringLiteral("Tessarine"),
-            QStringLiteral("Tessarine/Browser/ContentView"),
+            QStringLiteral("Tessarine/Browser/BrowserView"),
             {{QStringLiteral("view"), QVariant::fromValue(&content)}},
             WindowFeature::closable | WindowFeature::miniaturizable | WindowFeature::resizable,
             minimumSize};
@@ -44,7 +44,8 @@ QSize firstSize(const QQuickItem& root) {
 MainWindow::MainWindow(ContentView::Services services, UserDefaults& defaults, QQmlEngine& engine)
     : content_(std::move(services))
     , window_(description(content_), engine)
-    , keyMonitor_(std::make_unique<KeyMonitor>(content_, window_.window(), window_.root())) {
+    , keyMonitor_(std::make_unique<KeyMonitor>(*content_.actions(), *content_.selection(),
+                                               window_.window(), window_.root())) {
     QObject::connect(&window_, &ViewWindow::shown, &content_, &ContentView::appear);
     QObject::connect(&window_, &ViewWindow::hidden, &content_, &ContentView::disappear);
     window_.restoreSize(frameName, defaults, firstSize(window_.root()));

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A question, or a message, with its answers. Return gives the default answer, Escape the one that

@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
 import Tessarine.Controls
-import Tessarine.Theme
 
 // Room for something that may be longer than it. A finger drags it; a mouse scrolls by its wheel and
 // the scroll bar.

@@ -1,6 +1,5 @@
 import QtQuick
 import Tessarine.Controls
-import Tessarine.Theme
 
 // A list whose rows may be more than it has room for. A finger drags it; a mouse scrolls by its wheel
 // and the scroll bar. What else its keys do, it is given.

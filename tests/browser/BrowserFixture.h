@@ -73,7 +73,7 @@ protected:
 
     QStringList shown() const {
         QStringList titles;
-        for (const CapturedNotification& row : view->filteredNotifications())
+        for (const CapturedNotification& row : view->list()->filteredNotifications())
             titles << row.title;
         return titles;
     }

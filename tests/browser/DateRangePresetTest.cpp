@@ -1,4 +1,4 @@
-#include "browser/DateRangePreset.h"
+#include "browser/selection/DateRangePreset.h"
 
 #include "support/Printers.h"
 #include "support/TimeZoneScope.h"

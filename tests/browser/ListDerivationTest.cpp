@@ -1,4 +1,4 @@
-#include "browser/ListDerivation.h"
+#include "browser/list/ListDerivation.h"
 
 #include "support/Printers.h"
 #include "support/TimeZoneScope.h"

@@ -1,4 +1,4 @@
-#include "browser/ListDifference.h"
+#include "browser/list/ListDifference.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "browser/NotificationListModel.h"
+#include "browser/list/NotificationListModel.h"
 
 #include "support/DateLocaleScope.h"
 #include "support/Printers.h"
@@ -84,8 +84,8 @@ protected:
 
     void setRows(const NotificationList& list) { model_.setEntries(ungroupedEntries(list)); }
 
-    NotificationListModel::Marks marks_;
-    NotificationListModel model_{marks_};
+    QString private_ = u"nobody"_qs; // the bundle id whose rows are private
+    NotificationListModel model_{[this](const QString& bundleId) { return bundleId == private_; }};
     QAbstractItemModelTester tester_{&model_,
                                      QAbstractItemModelTester::FailureReportingMode::Fatal};
     Mirror mirror_{model_};
@@ -198,20 +198,34 @@ TEST_F(ModelTest, MarksFollowTheIdsInMemory) {
     const NotificationList list = rows({2, 1});
     setRows(list);
     changed_.clear();
-    marks_.selected = {list[0].id};
-    marks_.focused = list[1].id;
-    marks_.isPrivate = [](const QString& bundleId) { return bundleId == u"secret"_qs; };
-    model_.marksChanged();
+    model_.setSelected({list[0].id});
     EXPECT_EQ(changed_.count(), 1);
+    model_.setFocused(list[1].id);
+    EXPECT_EQ(changed_.count(), 2);
+    model_.setSelected({list[0].id}); // as they are already
+    model_.setFocused(list[1].id);
+    EXPECT_EQ(changed_.count(), 2);
     EXPECT_TRUE(at(0, Role::IsSelected).toBool());
     EXPECT_FALSE(at(0, Role::IsFocused).toBool());
     EXPECT_FALSE(at(1, Role::IsSelected).toBool());
     EXPECT_TRUE(at(1, Role::IsFocused).toBool());
-    EXPECT_FALSE(at(0, Role::IsPrivate).toBool());
 
     setRows(rows({2, 1})); // the same rows under fresh ids
     EXPECT_FALSE(at(0, Role::IsSelected).toBool());
     EXPECT_FALSE(at(1, Role::IsFocused).toBool());
+}
+
+TEST_F(ModelTest, AsksAnewWhatIsPrivateWhenItIsToldThatThisHasChanged) {
+    NotificationList list = rows({2, 1});
+    list[0].appBundleId = u"secret"_qs;
+    setRows(list);
+    EXPECT_FALSE(at(0, Role::IsPrivate).toBool());
+    changed_.clear();
+    private_ = u"secret"_qs;
+    model_.privacyChanged();
+    EXPECT_EQ(changed_.count(), 1);
+    EXPECT_TRUE(at(0, Role::IsPrivate).toBool());
+    EXPECT_FALSE(at(1, Role::IsPrivate).toBool());
 }
 
 // Groups
@@ -276,7 +290,7 @@ TEST_F(GroupedModelTest, ACollapsedGroupIsItsHeaderAlone) {
 }
 
 TEST_F(GroupedModelTest, AHeaderCountsTheSelectedRowsOfItsGroupAlsoWhileItIsCollapsed) {
-    marks_.selected = {list_[1].id, list_[2].id};
+    model_.setSelected({list_[1].id, list_[2].id});
     EXPECT_EQ(model_.header(0).selectedCount, 1);
     group({u"Zoom"_qs});
     EXPECT_EQ(model_.header(0).selectedCount, 1);
@@ -288,7 +302,7 @@ TEST_F(GroupedModelTest, AHeaderIsToldOfOtherRowsOfTheSameNumberBehindTheSameFir
     const NotificationList all = list_;
     list_ = {all[0], all[1], all[2]};
     group({u"Zoom"_qs});
-    marks_.selected = {all[0].id, all[1].id};
+    model_.setSelected({all[0].id, all[1].id});
     EXPECT_EQ(model_.header(0).selectedCount, 2);
     changed_.clear();
 
@@ -303,6 +317,14 @@ TEST_F(GroupedModelTest, TheVerySameGroupsTellNothingAtAll) {
     changed_.clear();
     group({});
     EXPECT_EQ(changed_.count(), 0);
+}
+
+TEST_F(GroupedModelTest, KnowsTheRowsOfAGroupAlsoWhileItIsCollapsed) {
+    const QSet<QUuid> zoom{list_[0].id, list_[1].id};
+    EXPECT_EQ(model_.idsOfGroup(u"Zoom"_qs), zoom);
+    group({u"Zoom"_qs});
+    EXPECT_EQ(model_.idsOfGroup(u"Zoom"_qs), zoom);
+    EXPECT_TRUE(model_.idsOfGroup(u"zoom"_qs).isEmpty());
 }
 
 TEST_F(GroupedModelTest, KnowsTheHeadersAroundALine) {

@@ -1,4 +1,4 @@
-#include "browser/NotificationRow.h"
+#include "browser/rows/NotificationRow.h"
 
 #include <QSignalSpy>
 

@@ -1,4 +1,4 @@
-#include "browser/PopoverDays.h"
+#include "browser/selection/PopoverDays.h"
 
 #include "support/Printers.h"
 #include "support/TimeZoneScope.h"
@@ -27,7 +27,7 @@ TEST_F(PopoverDaysTest, DaysInTheLongFormComeByMonth) {
     const auto months = popoverMonths({second, first, before}, {{second, 3}, {before, 1}});
     ASSERT_EQ(months.size(), 2U);
     EXPECT_EQ(months[0].title, u"Giugno 2026"_qs);
-    ASSERT_EQ(months[0].days.size(), 2U);
+    ASSERT_EQ(months[0].days.size(), 2);
     EXPECT_EQ(months[0].days[0], (PopoverDay{second, u"Mar 2 Giu"_qs, 3}));
     EXPECT_EQ(months[0].days[1], (PopoverDay{first, u"Lun 1 Giu"_qs, std::nullopt}));
     EXPECT_EQ(months[1].title, u"Maggio 2026"_qs);
@@ -49,7 +49,7 @@ TEST_F(PopoverDaysTest, WhatIsNoDayFallsOut) {
                                        u"lunedì 31 giugno 2026"_qs, u"Monday 1 June 2026"_qs},
                                       {});
     ASSERT_EQ(months.size(), 1U);
-    ASSERT_EQ(months[0].days.size(), 1U);
+    ASSERT_EQ(months[0].days.size(), 1);
     EXPECT_EQ(months[0].days[0].text, day);
 }
 

@@ -1,4 +1,4 @@
-#include "browser/RowTimeFormatter.h"
+#include "browser/list/RowTimeFormatter.h"
 
 #include "support/DateLocaleScope.h"
 #include "support/Printers.h"

@@ -136,7 +136,7 @@ TEST_F(AppDelegateTest, GoesOnCapturingWithItsWindowClosed) {
     EXPECT_EQ(desktop.statusItem.title, u" 1"_qs);
     delegate->showMainWindow();
     EXPECT_TRUE(window()->isVisible());
-    EXPECT_EQ(delegate->mainWindow()->content().filteredNotifications().size(), 1U);
+    EXPECT_EQ(delegate->mainWindow()->content().list()->filteredNotifications().size(), 1U);
 }
 
 TEST_F(AppDelegateTest, FollowsTheModeThatItIsTold) {

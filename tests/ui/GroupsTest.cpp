@@ -18,7 +18,7 @@ protected:
         for (std::size_t i = 0; i < rows.size(); ++i)
             rows[i].appName = i % 2 == 0 ? u"Alpha"_qs : u"Beta"_qs;
         showHoard(rows);
-        view().setGroupMode(GroupMode::app);
+        view().list()->setGroupMode(GroupMode::app);
         draw();
     }
 
@@ -138,7 +138,7 @@ TEST_F(GroupsTest, AListToggledInTheMiddleOfItsFadesComesToRest) {
     std::minstd_rand random(7); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same every time
     for (int round = 0; round < 12; ++round) {
         for (int toggle = 0; toggle < 4; ++toggle) {
-            view().toggleGroup(random() % 2 == 0 ? u"Alpha"_qs : u"Beta"_qs);
+            view().list()->toggleGroup(random() % 2 == 0 ? u"Alpha"_qs : u"Beta"_qs);
             turnFor(int(random() % 150));
             system.scheduler.advance(double(random() % 3) / 10);
             draw();
@@ -177,14 +177,14 @@ TEST_F(GroupsTest, ThePinnedHeaderHidesTheRowsBelowItFromThePointer) {
     const QPointF place(pinned.width() / 2, pinned.height() / 2);
     clickAt(pinned, place); // over a masked row, that would be revealed, and then focused
     clickAt(pinned, place);
-    EXPECT_FALSE(view().focusedNotification());
+    EXPECT_FALSE(view().actions()->focusedNotification());
     for (const QQuickItem* line : itemsInSight())
         EXPECT_NE(line->property("masked"), QVariant(false));
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     draw();
     clickAt(pinned, place);
     clickAt(pinned, place, Qt::RightButton);
-    EXPECT_EQ(view().selectedCount(), 0);
+    EXPECT_EQ(view().selection()->selectedCount(), 0);
     EXPECT_FALSE(isShown(u"rowMenu"_qs));
 }
 
@@ -198,14 +198,14 @@ TEST_F(GroupsTest, AHeadersMenuDeletesTheGroup) {
 }
 
 TEST_F(GroupsTest, SelectionModeSelectsAGroupByItsButton) {
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     draw();
     QQuickItem* group = header(u"Alpha"_qs);
     clickAt(*group, {group->width() - 40, group->height() / 2});
-    EXPECT_EQ(view().selectedCount(), 40);
+    EXPECT_EQ(view().selection()->selectedCount(), 40);
     EXPECT_TRUE(textsIn(*group).contains(u"Deselect All"_qs));
     clickAt(*group, {group->width() - 40, group->height() / 2});
-    EXPECT_EQ(view().selectedCount(), 0);
+    EXPECT_EQ(view().selection()->selectedCount(), 0);
     click(*group, Qt::RightButton); // no menu now
     EXPECT_FALSE(isShown(u"groupMenu"_qs));
 }
@@ -216,19 +216,19 @@ TEST_F(GroupsTest, AnotherSearchTellsAGroupThatKeepsItsSizeAndItsFirstRow) {
     rows[1].body = u"red"_qs;
     rows[2].body = u"blue"_qs;
     publish(rows);
-    view().enterSelectionMode();
-    view().setSearchText(u"red"_qs);
+    view().selection()->enterSelectionMode();
+    view().list()->setSearchText(u"red"_qs);
     draw();
     QQuickItem* group = header(u"Mail"_qs);
     clickAt(*group, {group->width() - 40, group->height() / 2});
     EXPECT_TRUE(textsIn(*group).contains(u"Deselect All"_qs));
 
-    view().setSearchText(u"blue"_qs);
+    view().list()->setSearchText(u"blue"_qs);
     draw();
     EXPECT_EQ(header(u"Mail"_qs), group);
     EXPECT_TRUE(textsIn(*group).contains(u"Select All"_qs));
     clickAt(*group, {group->width() - 40, group->height() / 2});
-    EXPECT_EQ(view().selectedCount(), 3);
+    EXPECT_EQ(view().selection()->selectedCount(), 3);
 }
 
 TEST_F(GroupsTest, AMouseThatDragsAHeaderScrollsNothing) {
@@ -271,14 +271,14 @@ protected:
     // One group, closed before its rows came, so that no row asks for an icon.
     void showClosedGroup(GroupMode mode) {
         makeWindow();
-        view().setGroupMode(mode);
-        view().toggleGroup(mode == GroupMode::app ? u"Mail"_qs : u"2025-11-16"_qs);
+        view().list()->setGroupMode(mode);
+        view().list()->toggleGroup(mode == GroupMode::app ? u"Mail"_qs : u"2025-11-16"_qs);
         system.scheduler.advance(0.2);
         publish(numbered(3));
         window->window()->resize(720, 520);
         show();
         draw();
-        ASSERT_EQ(view().lines()->rowCount(), 1);
+        ASSERT_EQ(view().list()->lines()->rowCount(), 1);
         system.scheduler.settle();
         draw();
     }

@@ -44,12 +44,12 @@ protected:
 
     void expectNothingHappened() {
         EXPECT_EQ(hoard.totalCount(), 6);
-        EXPECT_EQ(view().selectedCount(), 0);
-        EXPECT_EQ(view().selectedApp(), u"All"_qs);
-        EXPECT_EQ(view().sortMode(), SortMode::newest);
+        EXPECT_EQ(view().selection()->selectedCount(), 0);
+        EXPECT_EQ(view().list()->selectedApp(), u"All"_qs);
+        EXPECT_EQ(view().list()->sortMode(), SortMode::newest);
         EXPECT_TRUE(pasteboard.isEmpty());
-        EXPECT_FALSE(view().hasInlineBanner());
-        for (const CapturedNotification& row : view().filteredNotifications())
+        EXPECT_FALSE(view().overlays()->hasInlineBanner());
+        for (const CapturedNotification& row : view().list()->filteredNotifications())
             EXPECT_FALSE(row.pinned);
     }
 };
@@ -67,9 +67,9 @@ protected:
 
     void SetUp() override {
         if (GetParam().needsSelection)
-            view().enterSelectionMode();
+            view().selection()->enterSelectionMode();
         if (name_ == u"groupMenu")
-            view().setGroupMode(GroupMode::app);
+            view().list()->setGroupMode(GroupMode::app);
         draw();
     }
 
@@ -145,13 +145,13 @@ INSTANTIATE_TEST_SUITE_P(Menus, EachMenuTest,
                          [](const auto& test) { return std::string(test.param.name); });
 
 TEST_F(MenusTest, TheDatePopoverOpensForTheSecondTimeAsForTheFirst) {
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     draw();
     for (int round = 0; round < 2; ++round) {
         click(item(u"selectByDate"_qs));
         ASSERT_TRUE(turnsUntil([&] { return isShown(u"datePopover"_qs); })) << round;
         press(Qt::Key_Return);
-        EXPECT_TRUE(view().showDatePickerPopover()) << round;
+        EXPECT_TRUE(view().selection()->dates()->showDatePickerPopover()) << round;
         press(Qt::Key_Tab);
         const QQuickItem* focused = window->window()->activeFocusItem();
         EXPECT_EQ(focused->property("text").toString(), u"Today"_qs) << round;
@@ -169,7 +169,7 @@ TEST_F(MenusTest, ThePreviewOpensForTheSecondTimeAsForTheFirst) {
         ASSERT_TRUE(turnsUntil([&] { return isShown(u"preview"_qs); })) << round;
         press(Qt::Key_Return);
         expectNothingHappened();
-        EXPECT_TRUE(view().isPreviewing()) << round;
+        EXPECT_TRUE(view().actions()->isPreviewing()) << round;
         press(Qt::Key_Tab);
         press(Qt::Key_Tab);
         press(Qt::Key_Space); // closes it, wherever its keyboard is
@@ -224,7 +224,7 @@ TEST_F(OpenMenuTest, AnOpenPickerKeepsItsPlaceWhenACaptureBringsANewApplication)
     EXPECT_EQ(entry(u"Program 47"_qs), aimedAt);
     QTest::mouseClick(window->window(), Qt::LeftButton, {}, middle);
     draw();
-    EXPECT_EQ(view().selectedApp(), u"Program 47"_qs);
+    EXPECT_EQ(view().list()->selectedApp(), u"Program 47"_qs);
     EXPECT_EQ(list().property("count").toInt(), 1);
 
     click(item(u"appPicker"_qs));
@@ -233,7 +233,7 @@ TEST_F(OpenMenuTest, AnOpenPickerKeepsItsPlaceWhenACaptureBringsANewApplication)
 }
 
 TEST_F(OpenMenuTest, TheMenuOfApplicationsStaysAsItOpenedToo) {
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     draw();
     click(item(u"selectByApp"_qs));
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"appMenu"_qs); }));
@@ -245,7 +245,7 @@ TEST_F(OpenMenuTest, TheMenuOfApplicationsStaysAsItOpenedToo) {
     EXPECT_EQ(lit(), before);
     EXPECT_EQ(entry(u"Aardvark"_qs), nullptr);
     press(Qt::Key_Return);
-    EXPECT_EQ(view().selectedCount(), 4);
+    EXPECT_EQ(view().selection()->selectedCount(), 4);
     click(item(u"selectByApp"_qs));
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"appMenu"_qs); }));
     draw();

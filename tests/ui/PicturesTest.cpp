@@ -20,7 +20,7 @@ enum class Scene {
     RightToLeft,
     Emoji,
     LongTexts,
-    Fruitless,
+    NoResults,
     GroupedByApp,
     GroupedByDate,
     ScrolledGroups,
@@ -58,8 +58,8 @@ constexpr const char* nameOf(Scene scene) {
         return "emoji";
     case Scene::LongTexts:
         return "longTexts";
-    case Scene::Fruitless:
-        return "fruitless";
+    case Scene::NoResults:
+        return "noResults";
     case Scene::GroupedByApp:
         return "groupedByApp";
     case Scene::GroupedByDate:
@@ -232,19 +232,19 @@ protected:
     void bringAbout(Scene scene) {
         ContentView& browser = view();
         switch (scene) {
-        case Scene::Fruitless:
-            browser.setSearchText(u"nowhere to be found"_qs);
+        case Scene::NoResults:
+            browser.list()->setSearchText(u"nowhere to be found"_qs);
             break;
         case Scene::GroupedByApp:
-            browser.setGroupMode(GroupMode::app);
-            browser.toggleGroup(u"Mail"_qs);
+            browser.list()->setGroupMode(GroupMode::app);
+            browser.list()->toggleGroup(u"Mail"_qs);
             system.scheduler.advance(1);
             break;
         case Scene::GroupedByDate:
-            browser.setGroupMode(GroupMode::date);
+            browser.list()->setGroupMode(GroupMode::date);
             break;
         case Scene::ScrolledGroups:
-            browser.setGroupMode(GroupMode::app);
+            browser.list()->setGroupMode(GroupMode::app);
             draw();
             list().setProperty("contentY", 700.0);
             break;
@@ -254,32 +254,32 @@ protected:
             browser.appear();
             break;
         case Scene::Focused:
-            browser.onSingleTap(idAt(1));
+            browser.actions()->onSingleTap(idAt(1));
             break;
         case Scene::Selection:
         case Scene::DatePopover:
         case Scene::DeleteSelected:
         case Scene::DeleteAll:
-            browser.enterSelectionMode();
-            browser.toggleSelection(idAt(0));
-            browser.toggleSelection(idAt(2));
-            browser.setShowDatePickerPopover(scene == Scene::DatePopover);
-            browser.setShowDeleteSelectedConfirm(scene == Scene::DeleteSelected);
-            browser.setShowDeleteAllConfirm(scene == Scene::DeleteAll);
+            browser.selection()->enterSelectionMode();
+            browser.selection()->toggleSelection(idAt(0));
+            browser.selection()->toggleSelection(idAt(2));
+            browser.selection()->dates()->setShowDatePickerPopover(scene == Scene::DatePopover);
+            browser.selection()->setShowDeleteSelectedConfirm(scene == Scene::DeleteSelected);
+            browser.selection()->setShowDeleteAllConfirm(scene == Scene::DeleteAll);
             break;
         case Scene::Masked:
             preferences.setGlobalPrivacyMode(true);
             break;
         case Scene::Preview:
         case Scene::EmptyPreview:
-            browser.onSingleTap(idAt(scene == Scene::Preview ? 0 : 2));
-            browser.setShowPreview(true);
+            browser.actions()->onSingleTap(idAt(scene == Scene::Preview ? 0 : 2));
+            browser.actions()->setShowPreview(true);
             break;
         case Scene::InfoBanner:
-            browser.showBanner(deepLinkBanner(u"Calendar"_qs));
+            browser.overlays()->showBanner(deepLinkBanner(u"Calendar"_qs));
             break;
         case Scene::WarningBanner:
-            browser.openInApp(idAt(0));
+            browser.actions()->openInApp(idAt(0));
             break;
         case Scene::RowMenu:
             click(*row(u"Dentist"_qs), Qt::RightButton);
@@ -288,7 +288,7 @@ protected:
             click(item(u"appPicker"_qs));
             break;
         case Scene::Export:
-            browser.setShowExportSheet(true);
+            browser.overlays()->setShowExportSheet(true);
             break;
         default:
             break;
@@ -350,7 +350,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Combine(
         ::testing::Values(Scene::Loading, Scene::Empty, Scene::Five, Scene::FiveHundred,
                           Scene::LongWords, Scene::RightToLeft, Scene::Emoji, Scene::LongTexts,
-                          Scene::Fruitless, Scene::GroupedByApp, Scene::GroupedByDate,
+                          Scene::NoResults, Scene::GroupedByApp, Scene::GroupedByDate,
                           Scene::ScrolledGroups, Scene::LoadOlder, Scene::Focused, Scene::Selection,
                           Scene::DatePopover, Scene::DeleteSelected, Scene::DeleteAll,
                           Scene::Masked, Scene::Preview, Scene::EmptyPreview, Scene::InfoBanner,

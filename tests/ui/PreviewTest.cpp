@@ -53,7 +53,8 @@ protected:
     }
 
     bool closes() {
-        return turnsUntil([&] { return !view().isPreviewing() && isGone(u"preview"_qs); });
+        return turnsUntil(
+            [&] { return !view().actions()->isPreviewing() && isGone(u"preview"_qs); });
     }
 
     QString preview(const QString& name) const { return item(name).property("text").toString(); }
@@ -65,7 +66,7 @@ TEST_F(PreviewTest, SpaceOpensItOnTheFocusedRowAndClosesIt) {
     EXPECT_EQ(preview(u"previewBody"_qs), u"Body 3"_qs);
     press(Qt::Key_Space);
     EXPECT_TRUE(closes());
-    EXPECT_TRUE(view().focusedNotification());
+    EXPECT_TRUE(view().actions()->focusedNotification());
 }
 
 TEST_F(PreviewTest, HasItsIdealSizeInTheMiddleOfTheWindow) {
@@ -114,36 +115,36 @@ TEST_F(PreviewTest, TheMouseMarksTextAndDragsNothing) {
 TEST_F(PreviewTest, WithoutAFocusedRowSpaceGoesToTheField) {
     click(item(u"searchField"_qs));
     type(u"a b"_qs);
-    EXPECT_EQ(view().searchText(), u"a b"_qs);
-    EXPECT_FALSE(view().isPreviewing());
+    EXPECT_EQ(view().list()->searchText(), u"a b"_qs);
+    EXPECT_FALSE(view().actions()->isPreviewing());
 }
 
 TEST_F(PreviewTest, WithAFocusedRowABlankInTheFieldOpensIt) {
     click(*row(u"Title 3"_qs));
     click(item(u"searchField"_qs));
     press(Qt::Key_Space);
-    EXPECT_TRUE(view().isPreviewing());
-    EXPECT_EQ(view().searchText(), QString());
+    EXPECT_TRUE(view().actions()->isPreviewing());
+    EXPECT_EQ(view().list()->searchText(), QString());
 }
 
 TEST_F(PreviewTest, ShiftSpacePassesThrough) {
     click(*row(u"Title 3"_qs));
     press(Qt::Key_Space, Qt::ShiftModifier);
-    EXPECT_FALSE(view().isPreviewing());
+    EXPECT_FALSE(view().actions()->isPreviewing());
 }
 
 TEST_F(PreviewTest, EscapeClosesItAndTakesTheFocus) {
     openOn(u"Title 3"_qs);
     press(Qt::Key_Escape);
     EXPECT_TRUE(closes());
-    EXPECT_FALSE(view().focusedNotification());
+    EXPECT_FALSE(view().actions()->focusedNotification());
 }
 
 TEST_F(PreviewTest, ItsButtonCloses) {
     openOn(u"Title 3"_qs);
     click(item(u"closePreview"_qs));
     EXPECT_TRUE(closes());
-    EXPECT_TRUE(view().focusedNotification());
+    EXPECT_TRUE(view().actions()->focusedNotification());
 }
 
 TEST_F(PreviewTest, CopyCopiesAndCloses) {
@@ -165,7 +166,7 @@ TEST_F(PreviewTest, WithoutATextItSaysSoAndCopyStays) {
     EXPECT_TRUE(textsInWindow(*window).contains(u"This notification has no text."_qs));
     click(item(u"copyPreview"_qs));
     EXPECT_TRUE(pasteboard.isEmpty());
-    EXPECT_TRUE(view().isPreviewing());
+    EXPECT_TRUE(view().actions()->isPreviewing());
     EXPECT_FALSE(item(u"openPreviewed"_qs).isEnabled()); // it has no id either
 }
 
@@ -175,7 +176,7 @@ TEST_F(PreviewTest, OpenStartsTheAppAndClosesWithoutABanner) {
     click(item(u"openPreviewed"_qs));
     EXPECT_TRUE(closes());
     EXPECT_EQ(system.workspace.openedApplications, QStringList(u"/Applications/Mail.app"_qs));
-    EXPECT_FALSE(view().hasInlineBanner());
+    EXPECT_FALSE(view().overlays()->hasInlineBanner());
 }
 
 TEST_F(PreviewTest, ShowsAMaskedRowInClear) {

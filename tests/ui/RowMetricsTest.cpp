@@ -231,7 +231,7 @@ TEST_P(RowMetricsTest, AMaskedRowSaysHowToSeeMoreInThePlaceOfTheTime) {
 }
 
 TEST_P(RowMetricsTest, BadgesStandInTheCornersOfTheIcon) {
-    view().togglePinned(view().lines()->entries()[2].notification.id);
+    view().actions()->togglePinned(view().list()->lines()->entries()[2].notification.id);
     mask();
     const QRectF icon = place(part("AppIconView"));
     const QQuickItem& lock = symbol(u"lock.fill"_qs);
@@ -250,7 +250,7 @@ TEST_P(RowMetricsTest, BadgesStandInTheCornersOfTheIcon) {
 }
 
 TEST_P(RowMetricsTest, InSelectionModeACircleStandsBeforeTheIcon) {
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     EXPECT_TRUE(turnsUntil([&] {
         draw();
         return place(part("AppIconView")).left() == 18 + 24 + 10;
@@ -294,7 +294,7 @@ TEST_P(RowMetricsTest, FocusedItHasAStrokeOfOneAndAHalfOnEverySide) {
 }
 
 TEST_P(RowMetricsTest, SelectedItHasAStrokeOfOneOnEverySide) {
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     click(rowItem());
     expectGround(colours().accent, 0.08);
     expectOutline(1, 0.25);
@@ -326,7 +326,7 @@ TEST_P(RowMetricsTest, ItsTipTellsWhatAClickDoes) {
     EXPECT_EQ(tip(), u"Click to reveal"_qs);
     click(rowItem());
     EXPECT_EQ(tip(), u"Click to select, double-click to open Mail"_qs);
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     EXPECT_EQ(tip(), u"Select"_qs);
     click(rowItem());
     EXPECT_EQ(tip(), u"Deselect"_qs);

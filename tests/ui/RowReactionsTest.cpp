@@ -16,7 +16,7 @@ protected:
     RowReactionsTest() { showHoard(5); }
 
     bool isFocused(const QString& title) const {
-        const auto focused = view().focusedNotification();
+        const auto focused = view().actions()->focusedNotification();
         return focused && focused->title == title;
     }
 
@@ -49,7 +49,7 @@ TEST_F(RowReactionsTest, AClickFocusesARowAndEscapeTakesTheFocusAway) {
     EXPECT_TRUE(isFocused(u"Title 3"_qs));
     EXPECT_TRUE(rowOf(u"Title 3"_qs).property("drawnFocused").toBool());
     press(Qt::Key_Escape);
-    EXPECT_FALSE(view().focusedNotification());
+    EXPECT_FALSE(view().actions()->focusedNotification());
 }
 
 TEST_F(RowReactionsTest, EscapeInTheSearchFieldClearsTheFocusAndLeavesTheText) {
@@ -57,8 +57,8 @@ TEST_F(RowReactionsTest, EscapeInTheSearchFieldClearsTheFocusAndLeavesTheText) {
     click(item(u"searchField"_qs));
     type(u"Title"_qs);
     press(Qt::Key_Escape);
-    EXPECT_FALSE(view().focusedNotification());
-    EXPECT_EQ(view().searchText(), u"Title"_qs);
+    EXPECT_FALSE(view().actions()->focusedNotification());
+    EXPECT_EQ(view().list()->searchText(), u"Title"_qs);
 }
 
 TEST_F(RowReactionsTest, TheCopyShortcutCopiesTheFocusedRow) {
@@ -81,7 +81,7 @@ TEST_F(RowReactionsTest, ACaptureEndsTheFocusSilently) {
 TEST_F(RowReactionsTest, ADoubleClickOnTheRowOfAnUnknownAppFocusesItAndShowsTheBanner) {
     doubleClick(rowOf(u"Title 2"_qs));
     EXPECT_TRUE(isFocused(u"Title 2"_qs));
-    EXPECT_TRUE(view().hasInlineBanner());
+    EXPECT_TRUE(view().overlays()->hasInlineBanner());
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"inlineBanner"_qs); }));
     EXPECT_TRUE(turnsUntil([&] {
         draw();
@@ -96,7 +96,7 @@ TEST_F(RowReactionsTest, TheBannerGoesByItsButton) {
     ASSERT_TRUE(turnsUntil([&] { return banner.mapToScene(QPointF(0, 0)).y() >= 82; }));
     draw();
     click(item(u"dismissBanner"_qs));
-    EXPECT_FALSE(view().hasInlineBanner());
+    EXPECT_FALSE(view().overlays()->hasInlineBanner());
     EXPECT_TRUE(turnsUntil([&] { return !isShown(u"inlineBanner"_qs); }));
 }
 
@@ -107,7 +107,7 @@ TEST_F(RowReactionsTest, TheBannersButtonTakesItAwayAtOnceAndItsTimeByAndBy) {
         draw();
         return list().mapToScene(QPointF(0, 0)).y();
     };
-    view().showBanner(deepLinkBanner(u"Mail"_qs));
+    view().overlays()->showBanner(deepLinkBanner(u"Mail"_qs));
     clock.turnOn(100);
     const double halfOpen = roomTop();
     EXPECT_GT(halfOpen, listTop);
@@ -118,7 +118,7 @@ TEST_F(RowReactionsTest, TheBannersButtonTakesItAwayAtOnceAndItsTimeByAndBy) {
     EXPECT_EQ(roomTop(), listTop);
     EXPECT_FALSE(isShown(u"inlineBanner"_qs));
 
-    view().showBanner(deepLinkBanner(u"Mail"_qs));
+    view().overlays()->showBanner(deepLinkBanner(u"Mail"_qs));
     clock.turnOn(100); // in the middle of its coming
     draw();
     QTest::mouseClick(window->window(), Qt::LeftButton, {},
@@ -126,7 +126,7 @@ TEST_F(RowReactionsTest, TheBannersButtonTakesItAwayAtOnceAndItsTimeByAndBy) {
     clock.turnOn(20);
     EXPECT_EQ(roomTop(), listTop);
 
-    view().showBanner(deepLinkBanner(u"Mail"_qs));
+    view().overlays()->showBanner(deepLinkBanner(u"Mail"_qs));
     clock.turnOn(200);
     const double open = roomTop();
     system.scheduler.advance(4);
@@ -143,9 +143,9 @@ TEST_F(RowReactionsTest, TheBannerGoesByItselfAfterFourSeconds) {
     system.scheduler.advance(2);
     doubleClick(rowOf(u"Title 3"_qs)); // replaces it
     system.scheduler.advance(3);
-    EXPECT_TRUE(view().hasInlineBanner());
+    EXPECT_TRUE(view().overlays()->hasInlineBanner());
     system.scheduler.advance(1.1);
-    EXPECT_FALSE(view().hasInlineBanner());
+    EXPECT_FALSE(view().overlays()->hasInlineBanner());
 }
 
 // Masks
@@ -165,7 +165,7 @@ TEST_F(RowReactionsTest, AClickRevealsTheNextOneFocuses) {
     draw();
     click(rowOf(u"Title 3"_qs));
     EXPECT_TRUE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
-    EXPECT_FALSE(view().focusedNotification());
+    EXPECT_FALSE(view().actions()->focusedNotification());
     click(rowOf(u"Title 3"_qs));
     EXPECT_TRUE(isFocused(u"Title 3"_qs));
 }
@@ -181,7 +181,7 @@ TEST_F(RowReactionsTest, WhatIsRevealedComesOutByAndBy) {
 }
 
 TEST_F(RowReactionsTest, APinnedRowKeepsItsBadgeUnderTheMask) {
-    view().togglePinned(view().lines()->entries()[2].notification.id);
+    view().actions()->togglePinned(view().list()->lines()->entries()[2].notification.id);
     preferences.setGlobalPrivacyMode(true);
     draw();
     QStringList badges;
@@ -198,15 +198,15 @@ TEST_F(RowReactionsTest, ADoubleClickOnAMaskedRowRevealsAndOpensNothing) {
     draw();
     doubleClick(rowOf(u"Title 3"_qs));
     EXPECT_TRUE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
-    EXPECT_FALSE(view().hasInlineBanner());
+    EXPECT_FALSE(view().overlays()->hasInlineBanner());
 }
 
 TEST_F(RowReactionsTest, SelectionModeLiftsTheMaskAndACaptureBringsItBack) {
     preferences.setGlobalPrivacyMode(true);
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     draw();
     EXPECT_TRUE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
-    view().exitSelectionMode();
+    view().selection()->exitSelectionMode();
     click(rowOf(u"Title 2"_qs));
     reload(); // in the middle of what may become a double click
     EXPECT_TRUE(turnsUntil([&] {
@@ -219,7 +219,7 @@ TEST_F(RowReactionsTest, OneAppsPrivacyMasksItsRowsAlone) {
     preferences.setPrivacyApps({u"com.example.other"_qs});
     draw();
     EXPECT_TRUE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
-    preferences.setPrivacyApps({view().filteredNotifications()[0].appBundleId});
+    preferences.setPrivacyApps({view().list()->filteredNotifications()[0].appBundleId});
     draw();
     EXPECT_FALSE(textsIn(rowOf(u"Title 3"_qs)).contains(u"Body 3"_qs));
 }
@@ -262,8 +262,8 @@ TEST_F(InterruptedDoubleClickTest, RevealsAMaskedRowOnceAndOpensNothing) {
         EXPECT_TRUE(shows(u"Title 3"_qs)); // not masked again under the pointer
     });
     EXPECT_TRUE(shows(u"Title 3"_qs));
-    EXPECT_FALSE(view().hasInlineBanner());
-    EXPECT_FALSE(view().focusedNotification());
+    EXPECT_FALSE(view().overlays()->hasInlineBanner());
+    EXPECT_FALSE(view().actions()->focusedNotification());
     clock_.turnOn(1000);
     EXPECT_TRUE(shows(u"Title 3"_qs)); // the second click revealed it after the capture
     reload();
@@ -286,13 +286,13 @@ TEST_F(InterruptedDoubleClickTest, ASingleClickIsMaskedAgainWhenNoSecondOneComes
 TEST_F(InterruptedDoubleClickTest, OpensARowThatWasSeen) {
     doubleClickAround(u"Title 3"_qs, [this] { reload(); });
     EXPECT_TRUE(isFocused(u"Title 3"_qs));
-    EXPECT_TRUE(view().hasInlineBanner());
+    EXPECT_TRUE(view().overlays()->hasInlineBanner());
 }
 
 TEST_F(InterruptedDoubleClickTest, DoesNothingToARowThatCameUnderThePointerMeanwhile) {
     doubleClickAround(u"Title 5"_qs, [this] { captureAbove(); });
     ASSERT_EQ(row(u"Title 6"_qs)->mapToItem(&list(), QPointF(0, 0)).y(), 4);
-    EXPECT_FALSE(view().hasInlineBanner());
+    EXPECT_FALSE(view().overlays()->hasInlineBanner());
     EXPECT_FALSE(isFocused(u"Title 6"_qs));
 }
 
@@ -329,10 +329,10 @@ TEST_F(RowReactionsTest, NoTipLiesOverTheMenu) {
 TEST_F(RowReactionsTest, TheMenuPinsAndUnpins) {
     openMenu(u"Title 2"_qs);
     choose(u"Pin"_qs);
-    EXPECT_TRUE(view().filteredNotifications()[3].pinned);
+    EXPECT_TRUE(view().list()->filteredNotifications()[3].pinned);
     openMenu(u"Title 2"_qs);
     choose(u"Unpin"_qs);
-    EXPECT_FALSE(view().filteredNotifications()[3].pinned);
+    EXPECT_FALSE(view().list()->filteredNotifications()[3].pinned);
 }
 
 TEST_F(RowReactionsTest, TheMenuCopies) {
@@ -345,7 +345,7 @@ TEST_F(RowReactionsTest, TheMenuOpensWithoutTouchingTheFocus) {
     click(rowOf(u"Title 1"_qs));
     openMenu(u"Title 2"_qs);
     choose(u"Open Mail"_qs);
-    EXPECT_TRUE(view().hasInlineBanner());
+    EXPECT_TRUE(view().overlays()->hasInlineBanner());
     EXPECT_TRUE(isFocused(u"Title 1"_qs));
 }
 
@@ -408,7 +408,7 @@ TEST_F(RowReactionsTest, ACornerOfTheMenuLiesAtThePointerTheFirstTimeToo) {
 }
 
 TEST_F(RowReactionsTest, ThereIsNoMenuInSelectionMode) {
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     draw();
     click(rowOf(u"Title 2"_qs), Qt::RightButton);
     QTest::qWait(50);

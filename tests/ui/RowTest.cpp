@@ -150,7 +150,7 @@ TEST_F(RowTest, RowsScrollUnderAFingerAndByTheWheelAndNotUnderTheMouse) {
     dragByFinger(*window->window(), middle, middle - QPoint(0, 150));
     const double dragged = top();
     EXPECT_GT(dragged, first);
-    EXPECT_FALSE(view().focusedNotification());
+    EXPECT_FALSE(view().actions()->focusedNotification());
     ASSERT_TRUE(turnsUntil([&] {
         draw();
         return !list().property("moving").toBool();
@@ -167,8 +167,8 @@ TEST_F(RowTest, AClickThatTheMouseDragsALittleIsStillAClick) {
     showList(numbered(50));
     const QPoint from = row(u"Title 48"_qs)->mapToScene(QPointF(300, 20)).toPoint();
     dragByMouse(*window->window(), from, from + QPoint(30, 12));
-    ASSERT_TRUE(view().focusedNotification());
-    EXPECT_EQ(view().focusedNotification()->title, u"Title 48"_qs);
+    ASSERT_TRUE(view().actions()->focusedNotification());
+    EXPECT_EQ(view().actions()->focusedNotification()->title, u"Title 48"_qs);
 }
 
 TEST_F(RowTest, RowsOutOfSightAreNotBuilt) {

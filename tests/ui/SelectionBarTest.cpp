@@ -70,7 +70,7 @@ TEST_F(SelectionBarTest, TakesThePlaceOfTheToolbarAndGivesItBack) {
     EXPECT_FALSE(item(u"deleteSelected"_qs).isEnabled());
     click(item(u"cancelSelection"_qs));
     EXPECT_TRUE(turnsUntil([&] { return isShown(u"appPicker"_qs) && !isShown(u"selectAll"_qs); }));
-    EXPECT_FALSE(view().selectionMode());
+    EXPECT_FALSE(view().selection()->selectionMode());
 }
 
 TEST_F(SelectionBarTest, AClickTogglesARow) {
@@ -154,7 +154,7 @@ TEST_F(SelectionBarTest, ThePopoverIs240WideAndHangsFromItsButton) {
 }
 
 TEST_F(SelectionBarTest, TheDaysOfThePopoverScrollBeyond260) {
-    view().setShowDatePickerPopover(true);
+    view().selection()->dates()->setShowDatePickerPopover(true);
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"datePopover"_qs); }));
     QQuickItem& days = item(u"days"_qs);
     EXPECT_EQ(days.height(), 0);
@@ -172,9 +172,9 @@ TEST_F(SelectionBarTest, EscapeClosesThePopoverAndNothingElse) {
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"datePopover"_qs); }));
     press(Qt::Key_Escape);
     EXPECT_TRUE(turnsUntil([&] { return isGone(u"datePopover"_qs); }));
-    EXPECT_TRUE(view().selectionMode());
+    EXPECT_TRUE(view().selection()->selectionMode());
     press(Qt::Key_Escape); // passed on
-    EXPECT_TRUE(view().selectionMode());
+    EXPECT_TRUE(view().selection()->selectionMode());
 }
 
 TEST_F(SelectionBarTest, DeleteSelectedAsksAndThenDeletes) {
@@ -186,7 +186,7 @@ TEST_F(SelectionBarTest, DeleteSelectedAsksAndThenDeletes) {
     EXPECT_TRUE(textsInWindow(*window).contains(u"Delete 2 notifications?"_qs));
     answer(u"deleteSelectedConfirm"_qs, u"Delete"_qs);
     EXPECT_EQ(hoard.totalCount(), 8);
-    EXPECT_FALSE(view().selectionMode());
+    EXPECT_FALSE(view().selection()->selectionMode());
     EXPECT_EQ(list().property("count").toInt(), 8);
 }
 
@@ -197,7 +197,7 @@ TEST_F(SelectionBarTest, CancelDeletesNothing) {
     press(Qt::Key_Escape);
     EXPECT_TRUE(turnsUntil([&] { return isGone(u"deleteSelectedConfirm"_qs); }));
     EXPECT_EQ(hoard.totalCount(), 10);
-    EXPECT_TRUE(view().selectionMode());
+    EXPECT_TRUE(view().selection()->selectionMode());
     EXPECT_EQ(count(), u"1 selected"_qs);
 }
 
@@ -209,7 +209,7 @@ TEST_F(SelectionBarTest, DeleteAllAsksAndThenEmptiesTheHoard) {
     press(Qt::Key_Escape);
     ASSERT_TRUE(turnsUntil([&] { return isGone(u"deleteAllConfirm"_qs); }));
     EXPECT_EQ(hoard.totalCount(), 10);
-    EXPECT_TRUE(view().selectionMode());
+    EXPECT_TRUE(view().selection()->selectionMode());
 
     click(item(u"deleteAll"_qs));
     answer(u"deleteAllConfirm"_qs, u"Cancel"_qs);
@@ -218,8 +218,8 @@ TEST_F(SelectionBarTest, DeleteAllAsksAndThenEmptiesTheHoard) {
     click(item(u"deleteAll"_qs));
     answer(u"deleteAllConfirm"_qs, u"Delete All"_qs);
     EXPECT_EQ(hoard.totalCount(), 0);
-    EXPECT_EQ(view().face(), ContentView::Face::Waiting);
-    EXPECT_FALSE(view().selectionMode());
+    EXPECT_EQ(view().list()->face(), BrowserList::Face::Waiting);
+    EXPECT_FALSE(view().selection()->selectionMode());
 }
 
 TEST_F(SelectionBarTest, TheQuestionsKeepTheirNumbersWhileTheyFade) {
@@ -235,7 +235,7 @@ TEST_F(SelectionBarTest, TheQuestionsKeepTheirNumbersWhileTheyFade) {
     EXPECT_TRUE(textsInWindow(*window).contains(u"Delete 2 notifications?"_qs));
     clock.turnOn(1000);
 
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     clock.turnOn(1000);
     click(item(u"deleteAll"_qs));
     clock.turnOn(1000);
@@ -270,7 +270,7 @@ TEST_F(SelectionBarTest, ACaptureInTheMiddleLeavesTheCountAndDeletesNothing) {
     click(item(u"deleteSelected"_qs));
     answer(u"deleteSelectedConfirm"_qs, u"Delete"_qs);
     EXPECT_EQ(hoard.totalCount(), 10);
-    EXPECT_FALSE(view().selectionMode());
+    EXPECT_FALSE(view().selection()->selectionMode());
 }
 
 } // namespace

@@ -27,7 +27,7 @@ protected:
     void enterByKey() {
         focus(u"enterSelection"_qs);
         press(Qt::Key_Return);
-        ASSERT_TRUE(view().selectionMode());
+        ASSERT_TRUE(view().selection()->selectionMode());
     }
 
     // The button with this text below an item.
@@ -55,21 +55,21 @@ TEST_F(SelectionModeTest, TheKeyboardGoesIntoTheSelectionBarAndComesBackToTheTra
     ASSERT_TRUE(barsAreAtRest());
     EXPECT_EQ(focusName(), u"cancelSelection"_qs);
     press(Qt::Key_Return);
-    EXPECT_FALSE(view().selectionMode());
+    EXPECT_FALSE(view().selection()->selectionMode());
     EXPECT_EQ(focusName(), u"enterSelection"_qs);
     EXPECT_TRUE(showsRing());
     ASSERT_TRUE(barsAreAtRest());
     EXPECT_EQ(focusName(), u"enterSelection"_qs);
     EXPECT_TRUE(showsRing());
     press(Qt::Key_Space); // and on it goes
-    EXPECT_TRUE(view().selectionMode());
+    EXPECT_TRUE(view().selection()->selectionMode());
 }
 
 TEST_F(SelectionModeTest, TheKeyboardComesBackFromWhereverInTheBarItIs) {
     enterByKey();
     ASSERT_TRUE(barsAreAtRest());
     focus(u"selectAll"_qs);
-    view().exitSelectionMode();
+    view().selection()->exitSelectionMode();
     ASSERT_TRUE(barsAreAtRest());
     EXPECT_EQ(focusName(), u"enterSelection"_qs);
 }
@@ -78,7 +78,7 @@ TEST_F(SelectionModeTest, AKeyboardThatHasLeftTheBarStaysWhereItWent) {
     enterByKey();
     ASSERT_TRUE(barsAreAtRest());
     focus(u"searchField"_qs);
-    view().exitSelectionMode();
+    view().selection()->exitSelectionMode();
     ASSERT_TRUE(barsAreAtRest());
     EXPECT_EQ(focusName(), u"searchField"_qs);
 }
@@ -137,21 +137,21 @@ TEST_F(SelectionModeTest, WithNothingLeftTheKeyboardGoesToTheSearch) {
 TEST_F(SelectionModeTest, AToolbarThatFadesTakesNoClicks) {
     AnimationClock clock;
     const QQuickItem& segments = item(u"groupButtons"_qs);
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     clock.turnOn(100);
     ASSERT_TRUE(segments.isVisible());
     ASSERT_TRUE(isShown(u"selectAll"_qs));
     // Beside the buttons of the selection bar, and through one that is disabled.
     for (const QString& part : {u"App"_qs, u"Date"_qs})
         click(*firstBelow(segments, part));
-    EXPECT_EQ(view().groupMode(), GroupMode::none);
+    EXPECT_EQ(view().list()->groupMode(), GroupMode::none);
 }
 
 TEST_F(SelectionModeTest, ASelectionBarThatFadesTakesNoClicksAndTheToolbarDoes) {
     AnimationClock clock;
-    view().enterSelectionMode();
+    view().selection()->enterSelectionMode();
     clock.turnOn(1000);
-    view().exitSelectionMode();
+    view().selection()->exitSelectionMode();
     clock.turnOn(100);
     ASSERT_TRUE(isShown(u"deleteAll"_qs));
     for (const QString& button :
@@ -160,11 +160,11 @@ TEST_F(SelectionModeTest, ASelectionBarThatFadesTakesNoClicksAndTheToolbarDoes) 
         EXPECT_FALSE(isShown(u"appMenu"_qs)) << button.toStdString();
         press(Qt::Key_Escape); // closes the picker of the toolbar that is there by now
     }
-    EXPECT_FALSE(view().showDeleteAllConfirm());
-    EXPECT_FALSE(view().showDatePickerPopover());
-    EXPECT_EQ(view().selectedCount(), 0);
+    EXPECT_FALSE(view().selection()->showDeleteAllConfirm());
+    EXPECT_FALSE(view().selection()->dates()->showDatePickerPopover());
+    EXPECT_EQ(view().selection()->selectedCount(), 0);
     click(*firstBelow(item(u"groupButtons"_qs), u"Date"_qs));
-    EXPECT_EQ(view().groupMode(), GroupMode::date);
+    EXPECT_EQ(view().list()->groupMode(), GroupMode::date);
 }
 
 } // namespace

@@ -35,7 +35,7 @@ TEST_F(ToolbarTest, ATypedSearchNarrowsTheListAndTheCounter) {
     EXPECT_EQ(counter(), u"6 notifications"_qs);
     click(item(u"searchField"_qs));
     type(u"caf"_qs);
-    EXPECT_EQ(view().searchText(), u"caf"_qs);
+    EXPECT_EQ(view().list()->searchText(), u"caf"_qs);
     EXPECT_EQ(list().property("count").toInt(), 1);
     EXPECT_EQ(counter(), u"1 notification"_qs);
 }
@@ -46,32 +46,32 @@ TEST_F(ToolbarTest, TheClearButtonEmptiesTheSearch) {
     EXPECT_TRUE(textsInWindow(*window).contains(u"No matches"_qs));
     QQuickItem& field = item(u"searchField"_qs);
     clickAt(field, {field.width() - 10, field.height() / 2});
-    EXPECT_EQ(view().searchText(), QString());
+    EXPECT_EQ(view().list()->searchText(), QString());
     EXPECT_EQ(list().property("count").toInt(), 6);
 }
 
 TEST_F(ToolbarTest, AnAppIsPicked) {
     pick(u"appPicker"_qs, u"Chat"_qs);
-    EXPECT_EQ(view().selectedApp(), u"Chat"_qs);
+    EXPECT_EQ(view().list()->selectedApp(), u"Chat"_qs);
     EXPECT_EQ(list().property("count").toInt(), 2);
     pick(u"appPicker"_qs, u"All Apps"_qs);
-    EXPECT_EQ(view().selectedApp(), u"All"_qs);
+    EXPECT_EQ(view().list()->selectedApp(), u"All"_qs);
 }
 
 TEST_F(ToolbarTest, TheOrderIsPicked) {
     pick(u"sortPicker"_qs, u"Oldest First"_qs);
-    EXPECT_EQ(view().sortMode(), SortMode::oldest);
+    EXPECT_EQ(view().list()->sortMode(), SortMode::oldest);
     ASSERT_NE(row(u"Title 1"_qs), nullptr);
     EXPECT_LT(row(u"Title 1"_qs)->y(), row(u"Title 6"_qs)->y());
 }
 
 TEST_F(ToolbarTest, TheGroupingIsPickedAtOnce) {
     click(*entry(u"Date"_qs));
-    EXPECT_EQ(view().groupMode(), GroupMode::date);
+    EXPECT_EQ(view().list()->groupMode(), GroupMode::date);
     click(*entry(u"App"_qs));
-    EXPECT_EQ(view().groupMode(), GroupMode::app);
+    EXPECT_EQ(view().list()->groupMode(), GroupMode::app);
     click(*entry(u"None"_qs));
-    EXPECT_EQ(view().groupMode(), GroupMode::none);
+    EXPECT_EQ(view().list()->groupMode(), GroupMode::none);
 }
 
 TEST_F(ToolbarTest, ExportAndDeleteAreThereOnlyWhileThereAreRows) {
@@ -88,7 +88,8 @@ TEST_F(ToolbarTest, TheExportSheetOpensAndCancelGivesTheKeyboardBack) {
     ASSERT_TRUE(turnsUntil([&] { return isShown(u"exportSheet"_qs); }));
     draw();
     press(Qt::Key_Escape);
-    EXPECT_TRUE(turnsUntil([&] { return !view().showExportSheet() && list().hasActiveFocus(); }));
+    EXPECT_TRUE(turnsUntil(
+        [&] { return !view().overlays()->showExportSheet() && list().hasActiveFocus(); }));
 }
 
 // Export
@@ -155,14 +156,14 @@ TEST_F(ToolbarExportTest, RunsAgainAndAgainInEveryFormatWhileItSaysThatItIsDone)
         }
     }
     system.scheduler.advance(1.4);
-    EXPECT_TRUE(view().showExportSheet());
+    EXPECT_TRUE(view().overlays()->showExportSheet());
     system.scheduler.advance(0.2);
-    EXPECT_FALSE(view().showExportSheet());
+    EXPECT_FALSE(view().overlays()->showExportSheet());
 }
 
 TEST_F(ToolbarExportTest, ASheetThatGoesWhileItsPanelIsOpenTakesNothingDownWithIt) {
     openSheet();
-    meanwhile = [this] { view().setShowExportSheet(false); };
+    meanwhile = [this] { view().overlays()->setShowExportSheet(false); };
     pressExport(u"file"_qs);
     EXPECT_EQ(savePanel.requests.size(), 1U);
     EXPECT_FALSE(QFile::exists(folder.filePath(u"file"_qs)));
@@ -189,7 +190,7 @@ TEST_F(ToolbarTest, ACaptureInTheMiddleOfTypingLeavesTheSearch) {
     draw();
     EXPECT_TRUE(item(u"searchField"_qs).hasActiveFocus());
     type(u"f"_qs);
-    EXPECT_EQ(view().searchText(), u"caf"_qs);
+    EXPECT_EQ(view().list()->searchText(), u"caf"_qs);
 }
 
 TEST_F(ToolbarTest, AnotherListBeginsAtItsTop) {
@@ -229,9 +230,9 @@ TEST_F(ToolbarTest, OlderRowsAreLoadedFromTheEndOfTheList) {
     reload();
     draw();
     EXPECT_EQ(counter(), u"500 of 526"_qs);
-    view().setSearchText(u"Older 1"_qs); // 1, 10 to 19 and 100 to 199 of those loaded
+    view().list()->setSearchText(u"Older 1"_qs); // 1, 10 to 19 and 100 to 199 of those loaded
     EXPECT_EQ(counter(), u"111 of 526"_qs);
-    view().setSearchText({});
+    view().list()->setSearchText({});
     draw();
     list().forceActiveFocus();
     press(Qt::Key_End);

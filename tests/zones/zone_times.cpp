@@ -15,9 +15,9 @@
 //   leaves
 
 #include "apps/EventDate.h"
-#include "browser/DateRangePreset.h"
-#include "browser/ListEntry.h"
-#include "browser/RowTimeFormatter.h"
+#include "browser/list/ListEntry.h"
+#include "browser/list/RowTimeFormatter.h"
+#include "browser/selection/DateRangePreset.h"
 #include "capture/BannerParsing.h"
 #include "export/CsvDocument.h"
 #include "export/TextDocument.h"

@@ -1,0 +1,94 @@
+#include "browser/list/ListDifference.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <deque>
+#include <optional>
+
+namespace tessarine {
+
+namespace {
+
+// A row's key in the hoard and no text, or a group's key. No row of the hoard has the number 0, and
+// a header's number is below all.
+using LineKey = std::pair<qint64, QString>;
+
+LineKey keyOf(const ListEntry& line) {
+    if (line.kind == ListEntry::Kind::header)
+        return {-1, line.groupKey};
+    return {line.notification.dbId, {}};
+}
+
+// What both lists begin and end with is found without any bookkeeping: a reload mostly adds a few
+// rows at the front.
+std::size_t commonPrefix(const ListEntries& before, const ListEntries& after) {
+    const auto end =
+        std::mismatch(before.begin(), before.end(), after.begin(), after.end(), looksTheSame);
+    return std::size_t(end.first - before.begin());
+}
+
+std::size_t commonSuffix(const ListEntries& before, const ListEntries& after, std::size_t prefix) {
+    const auto limit = std::ptrdiff_t(std::min(before.size(), after.size()) - prefix);
+    const auto end =
+        std::mismatch(before.rbegin(), before.rbegin() + limit, after.rbegin(), looksTheSame);
+    return std::size_t(end.first - before.rbegin());
+}
+
+// For each old line between prefix and suffix its place in the new list. Rows that share a key
+// (those that no hoard has stored) pair up in their order.
+KeptRows pairsByKey(const ListEntries& before, const ListEntries& after, std::size_t prefix,
+                    std::size_t suffix) {
+    QHash<LineKey, std::deque<std::size_t>> places;
+    for (std::size_t i = prefix; i < after.size() - suffix; ++i)
+        places[keyOf(after[i])].push_back(i);
+    KeptRows pairs;
+    for (std::size_t i = prefix; i < before.size() - suffix; ++i) {
+        const auto found = places.find(keyOf(before[i]));
+        if (found == places.end() || found->empty())
+            continue;
+        pairs.emplace_back(i, found->front());
+        found->pop_front();
+    }
+    return pairs;
+}
+
+// The longest part of the pairs whose new places ascend, by patience sorting.
+KeptRows longestAscending(const KeptRows& pairs) {
+    std::vector<std::size_t> tails; // of the best run of each length, as positions in pairs
+    std::vector<std::optional<std::size_t>> previous(pairs.size());
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        const auto place = std::lower_bound(
+            tails.begin(), tails.end(), pairs[i].second,
+            [&](std::size_t tail, std::size_t value) { return pairs[tail].second < value; });
+        if (place != tails.begin())
+            previous[i] = *(place - 1);
+        if (place == tails.end())
+            tails.push_back(i);
+        else
+            *place = i;
+    }
+    KeptRows run;
+    for (std::optional<std::size_t> i = tails.empty() ? std::nullopt : std::optional(tails.back());
+         i; i = previous[*i])
+        run.push_back(pairs[*i]);
+    std::reverse(run.begin(), run.end());
+    return run;
+}
+
+} // namespace
+
+KeptRows keptRows(const ListEntries& before, const ListEntries& after) {
+    const std::size_t prefix = commonPrefix(before, after);
+    const std::size_t suffix = commonSuffix(before, after, prefix);
+    KeptRows kept;
+    for (std::size_t i = 0; i < prefix; ++i)
+        kept.emplace_back(i, i);
+    const KeptRows middle = longestAscending(pairsByKey(before, after, prefix, suffix));
+    kept.insert(kept.end(), middle.begin(), middle.end());
+    for (std::size_t i = suffix; i > 0; --i)
+        kept.emplace_back(before.size() - i, after.size() - i);
+    return kept;
+}
+
+} // namespace tessarine

@@ -1,0 +1,160 @@
+import QtQuick
+import QtQuick.Templates as T
+import Qt.labs.qmlmodels
+import Tessarine.Browser
+import Tessarine.Controls
+import Tessarine.Theme
+
+// The notifications, grouped or not. The header of the group in sight stays at the top while its
+// rows scroll, until the next header pushes it out.
+FocusScope {
+    id: root
+
+    required property BrowserList list
+    required property ListSelection selection
+    required property RowActions actions
+    property NotificationRowView pressedRow: null // by the left button, last
+
+    clip: true
+
+    function showBeginning() {
+        listView.positionViewAtBeginning();
+        listView.contentY = listView.originY - listView.topMargin;
+    }
+
+    ScrollList {
+        id: listView
+
+        objectName: "list"
+        anchors.fill: parent
+        focus: true
+        activeFocusOnTab: true
+        // A current row would have the keyboard and read as focused, and its highlight, though unseen,
+        // would move for a dozen frames at each capture.
+        currentIndex: -1
+        model: root.list.lines
+        spacing: Metrics.spacingSmall
+        topMargin: Metrics.spacingSmall
+        bottomMargin: Metrics.spacingSmall
+        Accessible.role: Accessible.List
+        Accessible.name: qsTrId("hoard.list")
+
+        onContentYChanged: pinned.update()
+        onContentHeightChanged: pinned.update()
+        onOriginYChanged: pinned.update()
+
+        // Components bound to this file would have qualified names, but a list makes no footer of one.
+        // qmllint disable unqualified
+        delegate: DelegateChooser {
+            role: "kind"
+
+            DelegateChoice {
+                roleValue: "header"
+
+                SectionHeader {
+                    width: listView.width
+                    selectionMode: root.selection.selectionMode
+                    onToggled: key => root.list.toggleGroup(key)
+                    onSelectAll: key => root.selection.selectGroup(key)
+                    onDeselectAll: key => root.selection.deselectGroup(key)
+                    onMenuRequested: (key, count, place) => groupMenu.openFor(key, count, place)
+                }
+            }
+
+            DelegateChoice {
+                roleValue: "row"
+
+                NotificationRowView {
+                    id: row
+
+                    width: listView.width
+                    selectionMode: root.selection.selectionMode
+                    menuOpen: rowMenu.visible
+                    onPressed: root.notePress(row)
+                    onSingleTap: id => root.tapRow(id)
+                    onDoubleTap: id => root.actions.onDoubleTap(id)
+                    onToggleSelection: id => root.selection.toggleSelection(id)
+                    onMenuRequested: (id, place) => rowMenu.openFor(id, place)
+                }
+            }
+        }
+
+        footer: LoadOlderFooter {
+            width: listView.width
+            shown: root.list.canLoadOlder
+            onClicked: root.list.loadOlder()
+        }
+        // qmllint enable unqualified
+
+        KeyboardScroller {
+            view: listView
+        }
+
+        // Over the pinned header as well.
+        T.ScrollBar.vertical: ThinScrollBar {
+            parent: root
+            z: 1
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
+            anchors.right: parent.right
+        }
+    }
+
+    function notePress(row: NotificationRowView) {
+        if (pressedRow !== row)
+            pressedRow?.forgetPress();
+        pressedRow = row;
+    }
+
+    function tapRow(id: uuid) {
+        listView.forceActiveFocus(Qt.MouseFocusReason);
+        root.actions.onSingleTap(id);
+    }
+
+    PinnedHeader {
+        id: pinned
+
+        view: listView
+        list: root.list
+        height: pinnedHeader.height
+    }
+
+    SectionHeader {
+        id: pinnedHeader
+
+        objectName: "pinnedHeader"
+        width: listView.width
+        y: pinned.top
+        header: pinned.header
+        selectionMode: root.selection.selectionMode
+        visible: pinned.isPinned
+        Accessible.ignored: true
+        onToggled: key => {
+            listView.positionViewAtIndex(pinned.line, ListView.Beginning);
+            root.list.toggleGroup(key);
+        }
+        onSelectAll: key => root.selection.selectGroup(key)
+        onDeselectAll: key => root.selection.deselectGroup(key)
+        onMenuRequested: (key, count, place) => groupMenu.openFor(key, count, place)
+    }
+
+    RowMenu {
+        id: rowMenu
+
+        actions: root.actions
+    }
+
+    GroupMenu {
+        id: groupMenu
+
+        onDeleteRequested: key => root.actions.deleteGroup(key)
+    }
+
+    Connections {
+        target: root.list
+
+        function onDerivationChanged() {
+            root.showBeginning();
+        }
+    }
+}
