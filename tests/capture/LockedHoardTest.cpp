@@ -19,6 +19,7 @@ class LockedHoard : public testing::ListenerFixture {
 protected:
     // Another program begins to write.
     void takeLock() {
+        hoard().open();
         other_.emplace(hoard().path(), SqliteConnection::Mode::ownFile);
         ASSERT_TRUE(other_->execute("BEGIN IMMEDIATE"));
     }
