@@ -35,8 +35,21 @@ CaptureSink::CaptureSink(Services services)
     : services_(std::move(services))
     , retryDelay_(firstRetry) {}
 
-// While another program holds the hoard, each try would keep the main thread waiting.
 bool CaptureSink::store(CaptureOrigin origin, const CapturedNotification& notification) {
+    const bool isAdded = storeOrKeep(origin, notification);
+    if (isAdded)
+        services_.requestPublication();
+    return isAdded;
+}
+
+void CaptureSink::storeReading(CaptureOrigin origin, const NotificationList& notifications) {
+    for (const CapturedNotification& notification : notifications)
+        storeOrKeep(origin, notification);
+    services_.requestPublication();
+}
+
+// While another program holds the hoard, each try would keep the main thread waiting.
+bool CaptureSink::storeOrKeep(CaptureOrigin origin, const CapturedNotification& notification) {
     Capture capture{origin, notification};
     const Insertion result = isLocked_ ? Insertion::locked : tryToStore(capture);
     if (!isAnswer(result))
@@ -104,10 +117,7 @@ void CaptureSink::giveUpOldest() {
 void CaptureSink::retryAfter(double seconds) {
     if (pending_.empty() || std::exchange(isRetryScheduled_, true))
         return;
-    services_.scheduler.onMainAfter(seconds, [weak = weak_from_this()] {
-        if (const std::shared_ptr<CaptureSink> self = weak.lock())
-            self->retry();
-    });
+    services_.scheduler.onMainAfter(seconds, alive_.guard([this] { retry(); }));
 }
 
 void CaptureSink::retry() {
@@ -115,7 +125,7 @@ void CaptureSink::retry() {
     const qint64 storedBefore = storedAfterWaiting_;
     const bool isProgress = retrySome();
     if (storedAfterWaiting_ > storedBefore)
-        services_.onRowsAdded();
+        services_.requestPublication();
     if (pending_.empty())
         services_.diagnostics.log(
             QStringLiteral("Hoard writable again — %1 waiting notification(s) stored")

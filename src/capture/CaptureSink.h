@@ -2,11 +2,11 @@
 
 #include "diagnostics/DiagnosticsStore.h"
 #include "platform/Scheduler.h"
+#include "shared/AliveGuard.h"
 #include "store/HoardStore.h"
 
 #include <deque>
 #include <functional>
-#include <memory>
 
 namespace tessarine {
 
@@ -16,14 +16,14 @@ enum class CaptureOrigin { banner, usernoted, legacy, recovery };
 // Brings captures into the hoard, counts them, and logs each that was added; those of the recovery
 // without a count and a line. What the hoard does not take at the moment is kept, in its order, and
 // tried again as long as the program runs. There is a bound to that: what is given up is logged.
-// Main thread; tasks hold it weakly, so it is always made shared.
-class CaptureSink : public std::enable_shared_from_this<CaptureSink> {
+// Main thread.
+class CaptureSink {
 public:
     struct Services {
         HoardStore& hoard;
         DiagnosticsStore& diagnostics;
         Scheduler& scheduler;
-        std::function<void()> onRowsAdded; // after captures that had to wait were stored
+        std::function<void()> requestPublication; // called when the hoard has new rows
     };
 
     // How much may wait: notifications, and characters of their texts.
@@ -32,8 +32,12 @@ public:
 
     explicit CaptureSink(Services services);
 
-    // True when a row was added.
+    // True when a row was added. Then publication is requested.
     bool store(CaptureOrigin origin, const CapturedNotification& notification);
+
+    // Stores what a reading found, in its order, and requests publication once, whether or not a
+    // row was added.
+    void storeReading(CaptureOrigin origin, const NotificationList& notifications);
 
     // For a capture that somebody else could not store.
     void storeLater(CaptureOrigin origin, const CapturedNotification& notification);
@@ -46,6 +50,7 @@ private:
         CapturedNotification notification;
     };
 
+    bool storeOrKeep(CaptureOrigin origin, const CapturedNotification& notification);
     Insertion tryToStore(const Capture& capture);
     void tellOfStored(const Capture& capture);
     void keep(Capture capture);
@@ -61,6 +66,7 @@ private:
     bool isLocked_ = false;         // another program held the hoard at the last try
     bool isRetryScheduled_ = false;
     double retryDelay_; // seconds
+    AliveGuard alive_;
 };
 
 } // namespace tessarine

@@ -1,40 +1,34 @@
-// The layer that reads the notification database of older systems, when there is one: at start and
-// whenever the file is written. It says nothing but what it captured.
+#include "capture/LegacyLayer.h"
 
-#include "capture/NotificationListener.h"
+#include "capture/ApplicationDisplayName.h"
 
 #include <algorithm>
 
 namespace tessarine {
 
-void NotificationListener::loadLegacyAppNames() {
-    legacyAppNameCache_ = readLegacyAppNames(legacyDbPath_, NullBundleId::fatal);
+LegacyLayer::LegacyLayer(const QString& folder, const Services& services)
+    : path_(findLegacyDatabase(folder))
+    , appNames_(readLegacyAppNames(path_, NullBundleId::fatal))
+    , services_(services) {}
+
+void LegacyLayer::startWatcher() {
+    watchSource_ = services_.fileWatcher.watchWrites(path_, alive_.guard([this] { poll(); }));
 }
 
-void NotificationListener::startLegacyWatcher() {
-    legacyWatchSource_ =
-        services_.platform.fileWatcher->watchWrites(legacyDbPath_, [weak = weak_from_this()] {
-            if (const std::shared_ptr<NotificationListener> self = weak.lock())
-                self->pollLegacy();
-        });
-}
-
-void NotificationListener::pollLegacy() {
-    const NotificationList records = fetchNewLegacyRecords();
+void LegacyLayer::poll() {
+    const NotificationList records = fetchNewRecords();
     if (records.empty())
         return;
     // Not always the last one: the ids are read as 32 bits, but ordered by all they have.
     lastSeenNoteId_ = std::ranges::max_element(records, {}, &CapturedNotification::noteId)->noteId;
-    hoard().saveLastSeenSystemNoteId(lastSeenNoteId_);
-    for (const CapturedNotification& record : records)
-        sink_->store(CaptureOrigin::legacy, record);
-    publishSoon();
+    services_.hoard.saveLastSeenSystemNoteId(lastSeenNoteId_);
+    services_.sink.storeReading(CaptureOrigin::legacy, records);
 }
 
-NotificationList NotificationListener::fetchNewLegacyRecords() {
-    return readLegacyDatabase(legacyDbPath_, lastSeenNoteId_, legacyAppNameCache_,
-                              scheduler().now(),
-                              [this](const QString& bundleId) { return displayName(bundleId); });
+NotificationList LegacyLayer::fetchNewRecords() const {
+    return readLegacyDatabase(
+        path_, lastSeenNoteId_, appNames_, services_.scheduler.now(),
+        [this](const QString& bundleId) { return displayName(services_.workspace, bundleId); });
 }
 
 } // namespace tessarine

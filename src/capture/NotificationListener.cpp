@@ -14,31 +14,30 @@ const QString legacyFolder = QStringLiteral("~/Library/Application Support/Notif
 
 } // namespace
 
-NotificationListener::NotificationListener(Services services)
-    : services_(std::move(services))
-    , usernotedDbPath_(services_.platform.fileSystem->expandingTilde(usernotedDatabase))
-    , legacyDbPath_(
-          findLegacyDatabase(services_.platform.fileSystem->expandingTilde(legacyFolder))) {
-    loadLegacyAppNames();
-}
+// From a layer through the sink into the hoard, and from there into the published list.
+NotificationListener::NotificationListener(const Services& services)
+    : services_(services)
+    , sink_({services.hoard, services.diagnostics, *services.platform.scheduler,
+             [this] { publishSoon(); }})
+    , banners_({*services.platform.accessibility, *services.platform.workspace,
+                *services.platform.scheduler, services.diagnostics, sink_})
+    , usernoted_(services.platform.fileSystem->expandingTilde(usernotedDatabase),
+                 {services.hoard, services.diagnostics, *services.platform.scheduler,
+                  *services.platform.fileWatcher, *services.platform.workspace, sink_})
+    , legacy_(services.platform.fileSystem->expandingTilde(legacyFolder),
+              {services.hoard, *services.platform.scheduler, *services.platform.fileWatcher,
+               *services.platform.workspace, sink_}) {}
 
 NotificationListener::~NotificationListener() = default;
 
-std::shared_ptr<NotificationListener> NotificationListener::create(Services services) {
-    std::shared_ptr<NotificationListener> listener(new NotificationListener(std::move(services)));
-    listener->sink_ = std::make_shared<CaptureSink>(CaptureSink::Services{
-        listener->services_.hoard, listener->diagnostics(), listener->scheduler(),
-        [weak = std::weak_ptr(listener)] {
-            if (const std::shared_ptr<NotificationListener> self = weak.lock())
-                self->publishSoon();
-        }});
-    return listener;
+std::shared_ptr<NotificationListener> NotificationListener::create(const Services& services) {
+    return std::make_shared<NotificationListener>(services);
 }
 
-// Whoever sets the list has just read it: nothing newer is due.
+// Whoever sets the list has just read it: nothing newer is waiting to be published.
 void NotificationListener::setNotifications(NotificationList notifications) {
     notifications_ = std::move(notifications);
-    isPublicationDue_ = false;
+    isPublicationPending_ = false;
     Q_EMIT notificationsChanged();
 }
 
@@ -46,51 +45,40 @@ void NotificationListener::start() {
     if (isStarted_)
         return;
     isStarted_ = true;
-    if (!services_.platform.accessibility->isProcessTrusted()) {
-        diagnostics().log(QStringLiteral("AXObserver deferred — Accessibility not yet granted"),
-                          Level::warning, Category::ax);
-        diagnostics().setAxStatus(QStringLiteral("Waiting for Accessibility permission"));
-    } else {
-        startAXObserver();
-    }
-    installLifecycleObservers();
-    scheduler().onMain([weak = weak_from_this()] {
-        const std::shared_ptr<NotificationListener> self = weak.lock();
-        if (!self)
-            return;
-        self->recoverAtStartup();
-        self->startUsernotedWatcher();
-        self->startLegacyWatcher();
-    });
+    banners_.start();
+    services_.platform.scheduler->onMain(alive_.guard([this] {
+        recoverAtStartup();
+        usernoted_.startWatcher();
+        legacy_.startWatcher();
+    }));
 }
 
 void NotificationListener::recoverAtStartup() {
-    scheduler().onGlobalQueue(
-        QualityOfService::utility,
-        [recovery = StartupRecovery(shared_from_this())]() mutable { recovery.run(); });
+    Scheduler& scheduler = *services_.platform.scheduler;
+    StartupRecovery recovery({services_.hoard, scheduler, services_.diagnostics, sink_, usernoted_,
+                              legacy_, publishedLimit, services_.preferences.retentionDays(),
+                              [this] {
+                                  publishRecent();
+                                  return notifications_.size();
+                              }},
+                             alive_.token());
+    scheduler.onGlobalQueue(QualityOfService::utility,
+                            [recovery = std::move(recovery)]() mutable { recovery.run(); });
 }
 
 void NotificationListener::publishRecent() {
-    setNotifications(hoard().fetchRecent(publishedLimit));
+    setNotifications(services_.hoard.fetchRecent(publishedLimit));
 }
 
-// A burst of captures has its tasks on the main thread in one row: the list is published behind
-// them, once.
+// The tasks of a burst of captures stand in one row on the main thread: the list is published
+// behind them, once.
 void NotificationListener::publishSoon() {
-    if (std::exchange(isPublicationDue_, true))
+    if (std::exchange(isPublicationPending_, true))
         return;
-    scheduler().onMain([weak = weak_from_this()] {
-        const std::shared_ptr<NotificationListener> self = weak.lock();
-        if (self && self->isPublicationDue_)
-            self->publishRecent();
-    });
-}
-
-QString NotificationListener::displayName(const QString& bundleId) const {
-    const auto running = services_.platform.workspace->runningApplications(bundleId);
-    if (!running.empty() && running.front().localizedName)
-        return *running.front().localizedName;
-    return lastBundleComponent(bundleId);
+    services_.platform.scheduler->onMain(alive_.guard([this] {
+        if (isPublicationPending_)
+            publishRecent();
+    }));
 }
 
 } // namespace tessarine

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace tessarine {
 
@@ -15,10 +16,7 @@ namespace {
 constexpr double firstReading = 30 * secondsPerDay;
 
 qint64 greatestNoteId(const NotificationList& records) {
-    qint64 greatest = records.front().noteId;
-    for (const CapturedNotification& record : records)
-        greatest = std::max(greatest, record.noteId);
-    return greatest;
+    return std::ranges::max_element(records, {}, &CapturedNotification::noteId)->noteId;
 }
 
 // The greatest finite date of the records, with the keys at it. A date without end is stored like
@@ -37,46 +35,42 @@ UsernotedCursor newestOf(const NotificationList& records, const UsernotedCursor&
 
 } // namespace
 
-StartupRecovery::StartupRecovery(const std::shared_ptr<NotificationListener>& listener)
-    : listener_(listener)
-    , hoard_(listener->services_.hoard)
-    , scheduler_(listener->scheduler())
-    , usernotedDbPath_(listener->usernotedDbPath_)
-    , legacyDbPath_(listener->legacyDbPath_)
-    , retentionDays_(listener->services_.preferences.retentionDays()) {}
+StartupRecovery::StartupRecovery(Services services, AliveGuard::Token owner)
+    : services_(std::move(services))
+    , owner_(std::move(owner))
+    , usernotedDbPath_(services_.usernoted.path())
+    , legacyDbPath_(services_.legacy.path()) {}
 
 void StartupRecovery::run() {
-    if (listener_.expired())
+    if (!owner_.isAlive())
         return;
     loadHoard();
-    if (retentionDays_ >= 1)
-        cutOff_ = scheduler_.now() - static_cast<double>(retentionDays_) * secondsPerDay;
+    if (services_.retentionDays >= 1)
+        cutOff_ = services_.scheduler.now() -
+                  static_cast<double>(services_.retentionDays) * secondsPerDay;
     recoverUsernoted();
     recoverLegacy();
 }
 
+// The list is read here first, since that may take long. On the main thread the hoard then knows
+// it, together with what was captured meanwhile.
 void StartupRecovery::loadHoard() {
-    publishRecent([](NotificationListener& listener) {
-        const auto count = static_cast<qint64>(listener.notifications().size());
-        listener.diagnostics().setCapturedTotal(count);
-        listener.diagnostics().log(QStringLiteral("Hoard loaded — %1 notifications").arg(count),
-                                   Level::success, Category::hoard);
+    services_.hoard.fetchRecent(services_.publishedLimit);
+    onMain([this] {
+        const auto count = static_cast<qint64>(services_.publishRecent());
+        services_.diagnostics.setCapturedTotal(count);
+        services_.diagnostics.log(QStringLiteral("Hoard loaded — %1 notifications").arg(count),
+                                  Level::success, Category::hoard);
     });
 }
 
 void StartupRecovery::recoverUsernoted() {
-    const qint64 recId = hoard_.lastSeenUsernotedRecId();
-    const double stored = hoard_.lastSeenUsernotedTimestamp();
-    const UsernotedCursor cursor{stored > 0 ? stored : scheduler_.now() - firstReading,
-                                 hoard_.lastSeenUsernotedRecIds()};
-    onMain([&](NotificationListener& listener) {
-        listener.lastSeenRecId_ = recId;
-        listener.usernotedCursor_ = cursor;
-        listener.diagnostics().setLastSeenRecId(recId);
-        listener.diagnostics().log(QStringLiteral("Resuming from timestamp ") +
-                                       decimalText(cursor.timestamp),
-                                   Level::info, Category::usernoted);
-    });
+    HoardStore& hoard = services_.hoard;
+    const qint64 recId = hoard.lastSeenUsernotedRecId();
+    const double stored = hoard.lastSeenUsernotedTimestamp();
+    const UsernotedCursor cursor{stored > 0 ? stored : services_.scheduler.now() - firstReading,
+                                 hoard.lastSeenUsernotedRecIds()};
+    resumeUsernoted(cursor, recId);
     const NotificationList found =
         readUsernotedDatabase(usernotedDbPath_, cursor, DecoderVariant::startUp,
                               lastBundleComponent)
@@ -85,7 +79,16 @@ void StartupRecovery::recoverUsernoted() {
         return;
     saveUsernotedCursor(found, cursor);
     store(kept(found));
-    publishRecent([](NotificationListener&) {});
+    publishRecent();
+}
+
+void StartupRecovery::resumeUsernoted(const UsernotedCursor& cursor, qint64 recId) {
+    onMain([&] {
+        services_.usernoted.setCursor(cursor, recId);
+        services_.diagnostics.log(QStringLiteral("Resuming from timestamp ") +
+                                      decimalText(cursor.timestamp),
+                                  Level::info, Category::usernoted);
+    });
 }
 
 void StartupRecovery::saveUsernotedCursor(const NotificationList& found,
@@ -94,31 +97,27 @@ void StartupRecovery::saveUsernotedCursor(const NotificationList& found,
     if (newest.timestamp <= cursor.timestamp)
         return;
     const qint64 recId = greatestNoteId(found);
-    hoard_.saveLastSeenUsernotedState(newest.recIds, newest.timestamp);
-    hoard_.saveLastSeenUsernotedRecId(recId);
-    onMain([&](NotificationListener& listener) {
-        listener.usernotedCursor_ = newest;
-        listener.lastSeenRecId_ = recId;
-        listener.diagnostics().setLastSeenRecId(recId);
-    });
+    services_.hoard.saveLastSeenUsernotedState(newest.recIds, newest.timestamp);
+    services_.hoard.saveLastSeenUsernotedRecId(recId);
+    onMain([&] { services_.usernoted.setCursor(newest, recId); });
 }
 
 void StartupRecovery::recoverLegacy() {
-    const qint64 noteId = hoard_.lastSeenSystemNoteId();
-    onMain([&](NotificationListener& listener) { listener.lastSeenNoteId_ = noteId; });
+    const qint64 noteId = services_.hoard.lastSeenSystemNoteId();
+    onMain([&] { services_.legacy.setLastSeenNoteId(noteId); });
     const LegacyAppNames names = readLegacyAppNames(legacyDbPath_, NullBundleId::skipped);
-    const NotificationList found =
-        readLegacyDatabase(legacyDbPath_, noteId, names, scheduler_.now(), lastBundleComponent);
+    const NotificationList found = readLegacyDatabase(
+        legacyDbPath_, noteId, names, services_.scheduler.now(), lastBundleComponent);
     if (found.empty())
         return;
     const qint64 newest = greatestNoteId(found);
-    onMain([&](NotificationListener& listener) { listener.lastSeenNoteId_ = newest; });
-    hoard_.saveLastSeenSystemNoteId(newest);
+    onMain([&] { services_.legacy.setLastSeenNoteId(newest); });
+    services_.hoard.saveLastSeenSystemNoteId(newest);
     const NotificationList keptRecords = kept(found);
     if (keptRecords.empty())
         return;
     store(keptRecords);
-    publishRecent([](NotificationListener&) {});
+    publishRecent();
 }
 
 NotificationList StartupRecovery::kept(const NotificationList& found) const {
@@ -134,32 +133,28 @@ NotificationList StartupRecovery::kept(const NotificationList& found) const {
 // hold up the main thread, which uses the hoard as well.
 void StartupRecovery::store(const NotificationList& records) {
     const auto notTaken = std::find_if(records.begin(), records.end(), [this](const auto& record) {
-        const Insertion result = hoard_.tryInsert(record);
+        const Insertion result = services_.hoard.tryInsert(record);
         return result == Insertion::locked || result == Insertion::failed;
     });
     if (notTaken == records.end())
         return;
-    onMain([&](NotificationListener& listener) {
-        std::for_each(notTaken, records.end(), [&](const CapturedNotification& record) {
-            listener.sink_->storeLater(CaptureOrigin::recovery, record);
+    onMain([&] {
+        std::for_each(notTaken, records.end(), [this](const CapturedNotification& record) {
+            services_.sink.storeLater(CaptureOrigin::recovery, record);
         });
     });
 }
 
-// The list is read here first, since that may take long. On the main thread the hoard then knows
-// it, together with what was captured meanwhile.
-void StartupRecovery::publishRecent(const std::function<void(NotificationListener&)>& afterwards) {
-    hoard_.fetchRecent(NotificationListener::publishedLimit);
-    onMain([&](NotificationListener& listener) {
-        listener.publishRecent();
-        afterwards(listener);
-    });
+// Read here first, as in loadHoard.
+void StartupRecovery::publishRecent() {
+    services_.hoard.fetchRecent(services_.publishedLimit);
+    onMain([this] { services_.publishRecent(); });
 }
 
-void StartupRecovery::onMain(const std::function<void(NotificationListener&)>& work) {
-    scheduler_.onMainAndWait([&] {
-        if (const std::shared_ptr<NotificationListener> listener = listener_.lock())
-            work(*listener);
+void StartupRecovery::onMain(const Task& work) {
+    services_.scheduler.onMainAndWait([&] {
+        if (owner_.isAlive())
+            work();
     });
 }
 

@@ -1,8 +1,14 @@
 #pragma once
 
-#include "capture/NotificationListener.h"
+#include "capture/CaptureSink.h"
+#include "capture/LegacyLayer.h"
+#include "capture/UsernotedLayer.h"
+#include "diagnostics/DiagnosticsStore.h"
+#include "platform/Scheduler.h"
+#include "shared/AliveGuard.h"
+#include "store/HoardStore.h"
 
-#include <memory>
+#include <functional>
 #include <optional>
 
 namespace tessarine {
@@ -11,31 +17,51 @@ namespace tessarine {
 // of the time while the program was not running. It neither counts nor logs its rows.
 class StartupRecovery {
 public:
-    // Built on the main thread, from which it takes the settings that it needs.
-    explicit StartupRecovery(const std::shared_ptr<NotificationListener>& listener);
+    struct Services {
+        // For any thread.
+        HoardStore& hoard;
+        Scheduler& scheduler;
 
-    // Runs to the end on the calling worker. Does nothing when the listener is gone.
+        // For the main thread.
+        DiagnosticsStore& diagnostics;
+        CaptureSink& sink;
+        UsernotedLayer& usernoted;
+        LegacyLayer& legacy;
+
+        qint64 publishedLimit; // rows of the published list
+        qint64 retentionDays;
+
+        // Publishes the list on the main thread. Gives its length.
+        std::function<std::size_t()> publishRecent;
+    };
+
+    // Built on the main thread. The owner is that of the services for the main thread: once it is
+    // gone they are left alone.
+    StartupRecovery(Services services, AliveGuard::Token owner);
+
+    // Runs to the end on the calling worker. Does nothing when the owner is gone.
     void run();
 
 private:
     void loadHoard();
     void recoverUsernoted();
-    void recoverLegacy();
+    void resumeUsernoted(const UsernotedCursor& cursor, qint64 recId);
     void saveUsernotedCursor(const NotificationList& found, const UsernotedCursor& cursor);
+    void recoverLegacy();
 
     void store(const NotificationList& records);
+    void publishRecent();
 
     // The records that retention would keep.
     NotificationList kept(const NotificationList& found) const;
-    void publishRecent(const std::function<void(NotificationListener&)>& afterwards);
-    void onMain(const std::function<void(NotificationListener&)>& work);
 
-    std::weak_ptr<NotificationListener> listener_;
-    HoardStore& hoard_;
-    Scheduler& scheduler_;
+    // Runs the work on the main thread, if the owner still lives, and waits for it.
+    void onMain(const Task& work);
+
+    Services services_;
+    AliveGuard::Token owner_;
     QString usernotedDbPath_;
     QString legacyDbPath_;
-    qint64 retentionDays_;
     std::optional<double> cutOff_; // reference-date seconds
 };
 

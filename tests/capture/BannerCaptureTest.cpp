@@ -1,4 +1,4 @@
-#include "capture/AccessibilityFixture.h"
+#include "capture/BannerLayerFixture.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +14,7 @@ using ::testing::IsEmpty;
 using namespace testing;
 
 // From an event to the hoard.
-class BannerCaptureTest : public AccessibilityFixture {};
+class BannerCaptureTest : public BannerLayerFixture {};
 
 // The watchdog
 

@@ -24,6 +24,7 @@ class CaptureSinkTest : public ::testing::Test {
 protected:
     CaptureSinkTest()
         : system_(folder_.path()) {
+        hoard_.open(); // tests lock the file and put triggers into it
         diagnostics_.emplace(system_.scheduler, hoard_);
         sink_ = std::make_shared<CaptureSink>(CaptureSink::Services{
             hoard_, *diagnostics_, system_.scheduler, [this] { ++timesAdded_; }});

@@ -55,9 +55,9 @@ inline Line launched(qint32 as) {
 
 // A listener in a session whose banner process runs, with the permission granted. Nothing is
 // started.
-class AccessibilityFixture : public ::testing::Test {
+class BannerLayerFixture : public ::testing::Test {
 protected:
-    AccessibilityFixture()
+    BannerLayerFixture()
         : system_(folder_.path()) {
         system_.accessibility.trusted = true;
         runBannerProcess(pid);

@@ -1,4 +1,4 @@
-#include "capture/AccessibilityFixture.h"
+#include "capture/BannerLayerFixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,11 +11,11 @@ using ::testing::IsEmpty;
 using namespace testing;
 
 // Attaching to the banner process, and its events.
-class AccessibilityLayerTest : public AccessibilityFixture {};
+class BannerLayerTest : public BannerLayerFixture {};
 
 // Attaching
 
-TEST_F(AccessibilityLayerTest, AttachesAtStart) {
+TEST_F(BannerLayerTest, AttachesAtStart) {
     launch();
     EXPECT_TRUE(listener_->hasAXObserver());
     EXPECT_EQ(listener_->observedPid(), pid);
@@ -24,7 +24,7 @@ TEST_F(AccessibilityLayerTest, AttachesAtStart) {
     EXPECT_THAT(logged(), ElementsAre(attached()));
 }
 
-TEST_F(AccessibilityLayerTest, RegistersTheFourEventsOnTheRootInTheirOrder) {
+TEST_F(BannerLayerTest, RegistersTheFourEventsOnTheRootInTheirOrder) {
     launch();
     const AXElementRef root = system_.accessibility.application(pid);
     using Registration = SimulatedAccessibility::Registration;
@@ -35,21 +35,21 @@ TEST_F(AccessibilityLayerTest, RegistersTheFourEventsOnTheRootInTheirOrder) {
                             Registration{pid, root, u"AXFocusedUIElementChanged"_qs}));
 }
 
-TEST_F(AccessibilityLayerTest, TakesABannerThatIsAlreadyShown) {
+TEST_F(BannerLayerTest, TakesABannerThatIsAlreadyShown) {
     show(u"Mail"_qs, {u"Hello"_qs});
     launch();
     EXPECT_EQ(scans(), 1);
     EXPECT_THAT(stored(), ElementsAre(u"Hello"_qs));
 }
 
-TEST_F(AccessibilityLayerTest, ObservesTheFirstOfTwoBannerProcesses) {
+TEST_F(BannerLayerTest, ObservesTheFirstOfTwoBannerProcesses) {
     system_.workspace.running = {
         {7, u"com.example.mail"_qs, std::nullopt}, process(502), process(501)};
     launch();
     EXPECT_EQ(listener_->observedPid(), 502);
 }
 
-TEST_F(AccessibilityLayerTest, ASecondStartAddsNoObserver) {
+TEST_F(BannerLayerTest, ASecondStartAddsNoObserver) {
     launch();
     listener_->start();
     system_.scheduler.settle();
@@ -59,7 +59,7 @@ TEST_F(AccessibilityLayerTest, ASecondStartAddsNoObserver) {
     EXPECT_THAT(logged(), ElementsAre(attached()));
 }
 
-TEST_F(AccessibilityLayerTest, ASecondAttachTakesTheFirstObserverDown) {
+TEST_F(BannerLayerTest, ASecondAttachTakesTheFirstObserverDown) {
     launch();
     listener_->startAXObserver();
     system_.scheduler.settle();
@@ -71,7 +71,7 @@ TEST_F(AccessibilityLayerTest, ASecondAttachTakesTheFirstObserverDown) {
 
 // The permission
 
-TEST_F(AccessibilityLayerTest, WithoutThePermissionStartWaits) {
+TEST_F(BannerLayerTest, WithoutThePermissionStartWaits) {
     system_.accessibility.trusted = false;
     launch();
     advance(60);
@@ -82,7 +82,7 @@ TEST_F(AccessibilityLayerTest, WithoutThePermissionStartWaits) {
     EXPECT_THAT(logged(), ElementsAre(deferred));
 }
 
-TEST_F(AccessibilityLayerTest, AGrantedPermissionAloneAttachesNothing) {
+TEST_F(BannerLayerTest, AGrantedPermissionAloneAttachesNothing) {
     system_.accessibility.trusted = false;
     launch();
     system_.accessibility.trusted = true;
@@ -90,7 +90,7 @@ TEST_F(AccessibilityLayerTest, AGrantedPermissionAloneAttachesNothing) {
     EXPECT_FALSE(listener_->hasAXObserver());
 }
 
-TEST_F(AccessibilityLayerTest, ACallAfterThePermissionAttaches) {
+TEST_F(BannerLayerTest, ACallAfterThePermissionAttaches) {
     system_.accessibility.trusted = false;
     launch();
     system_.accessibility.trusted = true;
@@ -99,7 +99,7 @@ TEST_F(AccessibilityLayerTest, ACallAfterThePermissionAttaches) {
     EXPECT_THAT(logged(), ElementsAre(deferred, attached()));
 }
 
-TEST_F(AccessibilityLayerTest, ACallWithoutThePermissionIsSkipped) {
+TEST_F(BannerLayerTest, ACallWithoutThePermissionIsSkipped) {
     system_.accessibility.trusted = false;
     launch();
     listener_->startAXObserver();
@@ -109,7 +109,7 @@ TEST_F(AccessibilityLayerTest, ACallWithoutThePermissionIsSkipped) {
     EXPECT_THAT(logged(), ElementsAre(deferred, skipped));
 }
 
-TEST_F(AccessibilityLayerTest, ARevokedPermissionLeavesAnAttachedObserver) {
+TEST_F(BannerLayerTest, ARevokedPermissionLeavesAnAttachedObserver) {
     launch();
     system_.accessibility.trusted = false;
     listener_->startAXObserver();
@@ -120,7 +120,7 @@ TEST_F(AccessibilityLayerTest, ARevokedPermissionLeavesAnAttachedObserver) {
 
 // The search for the banner process
 
-TEST_F(AccessibilityLayerTest, WithoutABannerProcessNothingIsSaid) {
+TEST_F(BannerLayerTest, WithoutABannerProcessNothingIsSaid) {
     endBannerProcess();
     launch();
     advance(60);
@@ -129,7 +129,7 @@ TEST_F(AccessibilityLayerTest, WithoutABannerProcessNothingIsSaid) {
     EXPECT_THAT(logged(), IsEmpty());
 }
 
-TEST_F(AccessibilityLayerTest, ABannerProcessIsFoundWithinThreeSeconds) {
+TEST_F(BannerLayerTest, ABannerProcessIsFoundWithinThreeSeconds) {
     endBannerProcess();
     launch();
     advance(0.5);
@@ -141,7 +141,7 @@ TEST_F(AccessibilityLayerTest, ABannerProcessIsFoundWithinThreeSeconds) {
     EXPECT_THAT(logged(), ElementsAre(attached()));
 }
 
-TEST_F(AccessibilityLayerTest, TheSearchGoesOnUntilTheProcessIsThereAndThenEnds) {
+TEST_F(BannerLayerTest, TheSearchGoesOnUntilTheProcessIsThereAndThenEnds) {
     endBannerProcess();
     launch();
     advance(301);
@@ -152,14 +152,14 @@ TEST_F(AccessibilityLayerTest, TheSearchGoesOnUntilTheProcessIsThereAndThenEnds)
     EXPECT_EQ(scans(), 1);
 }
 
-TEST_F(AccessibilityLayerTest, OnlyTheExactIdIsTheBannerProcess) {
+TEST_F(BannerLayerTest, OnlyTheExactIdIsTheBannerProcess) {
     system_.workspace.running = {{pid, u"com.apple.NotificationCenterUI"_qs, std::nullopt}};
     launch();
     advance(60);
     EXPECT_FALSE(listener_->hasAXObserver());
 }
 
-TEST_F(AccessibilityLayerTest, APermissionRevokedDuringTheSearchEndsIt) {
+TEST_F(BannerLayerTest, APermissionRevokedDuringTheSearchEndsIt) {
     endBannerProcess();
     launch();
     system_.accessibility.trusted = false;
@@ -171,7 +171,7 @@ TEST_F(AccessibilityLayerTest, APermissionRevokedDuringTheSearchEndsIt) {
     EXPECT_THAT(logged(), ElementsAre(skipped));
 }
 
-TEST_F(AccessibilityLayerTest, TheSearchEndsWithTheListener) {
+TEST_F(BannerLayerTest, TheSearchEndsWithTheListener) {
     endBannerProcess();
     launch();
     listener_.reset();
@@ -183,7 +183,7 @@ TEST_F(AccessibilityLayerTest, TheSearchEndsWithTheListener) {
 
 // An observer that can't be made
 
-TEST_F(AccessibilityLayerTest, AFailedCreationSaysNothingAndIsNotRepeated) {
+TEST_F(BannerLayerTest, AFailedCreationSaysNothingAndIsNotRepeated) {
     system_.accessibility.refusesObservers = true;
     launch();
     system_.accessibility.refusesObservers = false;
@@ -194,7 +194,7 @@ TEST_F(AccessibilityLayerTest, AFailedCreationSaysNothingAndIsNotRepeated) {
     EXPECT_THAT(logged(), IsEmpty());
 }
 
-TEST_F(AccessibilityLayerTest, AfterAFailedCreationALaunchWithTheNotedPidDoesNothing) {
+TEST_F(BannerLayerTest, AfterAFailedCreationALaunchWithTheNotedPidDoesNothing) {
     system_.accessibility.refusesObservers = true;
     launch();
     EXPECT_EQ(listener_->observedPid(), pid);
@@ -205,7 +205,7 @@ TEST_F(AccessibilityLayerTest, AfterAFailedCreationALaunchWithTheNotedPidDoesNot
     EXPECT_THAT(logged(), IsEmpty());
 }
 
-TEST_F(AccessibilityLayerTest, AfterAFailedCreationALaunchWithAnotherPidAttaches) {
+TEST_F(BannerLayerTest, AfterAFailedCreationALaunchWithAnotherPidAttaches) {
     system_.accessibility.refusesObservers = true;
     launch();
     system_.accessibility.refusesObservers = false;
@@ -215,7 +215,7 @@ TEST_F(AccessibilityLayerTest, AfterAFailedCreationALaunchWithAnotherPidAttaches
     EXPECT_THAT(logged(), ElementsAre(launched(502), attached(502)));
 }
 
-TEST_F(AccessibilityLayerTest, AfterAFailedCreationAWakeAttaches) {
+TEST_F(BannerLayerTest, AfterAFailedCreationAWakeAttaches) {
     system_.accessibility.refusesObservers = true;
     launch();
     system_.accessibility.refusesObservers = false;
@@ -224,7 +224,7 @@ TEST_F(AccessibilityLayerTest, AfterAFailedCreationAWakeAttaches) {
     EXPECT_THAT(logged(), ElementsAre(woken, attached()));
 }
 
-TEST_F(AccessibilityLayerTest, AFailedCreationLeavesTheEarlierObserverButNotesTheNewPid) {
+TEST_F(BannerLayerTest, AFailedCreationLeavesTheEarlierObserverButNotesTheNewPid) {
     launch();
     system_.accessibility.refusesObservers = true;
     runBannerProcess(502);
@@ -239,8 +239,7 @@ TEST_F(AccessibilityLayerTest, AFailedCreationLeavesTheEarlierObserverButNotesTh
 
 // Events and the throttle
 
-class EachEvent : public AccessibilityLayerTest,
-                  public ::testing::WithParamInterface<const char*> {};
+class EachEvent : public BannerLayerTest, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(EachEvent, LeadsToAScan) {
     launch();
@@ -253,14 +252,14 @@ INSTANTIATE_TEST_SUITE_P(Names, EachEvent,
                                            "AXValueChanged", "AXFocusedUIElementChanged"),
                          [](const auto& info) { return std::string(info.param); });
 
-TEST_F(AccessibilityLayerTest, ABannerThatAppearsIsStored) {
+TEST_F(BannerLayerTest, ABannerThatAppearsIsStored) {
     launch();
     show(u"Mail, Hello, World"_qs, {u"Hello"_qs, u"World"_qs, u"5m ago"_qs});
     send(ax::windowCreated);
     EXPECT_THAT(stored(), ElementsAre(u"Hello"_qs));
 }
 
-TEST_F(AccessibilityLayerTest, AnEventIsHandledInATaskOfItsOwn) {
+TEST_F(BannerLayerTest, AnEventIsHandledInATaskOfItsOwn) {
     launch();
     system_.accessibility.send(system_.accessibility.application(pid), ax::windowCreated);
     EXPECT_EQ(system_.scheduler.waitingGlobalTasks(), 0U);
@@ -268,7 +267,7 @@ TEST_F(AccessibilityLayerTest, AnEventIsHandledInATaskOfItsOwn) {
     EXPECT_EQ(system_.scheduler.waitingGlobalTasks(), 1U);
 }
 
-TEST_F(AccessibilityLayerTest, AScanRunsOnAWorker) {
+TEST_F(BannerLayerTest, AScanRunsOnAWorker) {
     launch();
     system_.scheduler.holdGlobalQueues(true);
     send();
@@ -278,13 +277,13 @@ TEST_F(AccessibilityLayerTest, AScanRunsOnAWorker) {
     EXPECT_EQ(scans(), 2);
 }
 
-TEST_F(AccessibilityLayerTest, TheScanAtAttachingThrottlesNothing) {
+TEST_F(BannerLayerTest, TheScanAtAttachingThrottlesNothing) {
     launch();
     send();
     EXPECT_EQ(scans(), 2);
 }
 
-TEST_F(AccessibilityLayerTest, AnEventHalfASecondAfterAScanIsDropped) {
+TEST_F(BannerLayerTest, AnEventHalfASecondAfterAScanIsDropped) {
     launch();
     send();
     advance(0.5);
@@ -292,7 +291,7 @@ TEST_F(AccessibilityLayerTest, AnEventHalfASecondAfterAScanIsDropped) {
     EXPECT_EQ(scans(), 2);
 }
 
-TEST_F(AccessibilityLayerTest, AnEventExactlyOneSecondAfterAScanLeadsToAScan) {
+TEST_F(BannerLayerTest, AnEventExactlyOneSecondAfterAScanLeadsToAScan) {
     launch();
     send();
     advance(1.0);
@@ -300,7 +299,7 @@ TEST_F(AccessibilityLayerTest, AnEventExactlyOneSecondAfterAScanLeadsToAScan) {
     EXPECT_EQ(scans(), 3);
 }
 
-TEST_F(AccessibilityLayerTest, AnEventJustUnderOneSecondAfterAScanIsDropped) {
+TEST_F(BannerLayerTest, AnEventJustUnderOneSecondAfterAScanIsDropped) {
     launch();
     send();
     advance(1.0 - 0x1p-20);
@@ -308,7 +307,7 @@ TEST_F(AccessibilityLayerTest, AnEventJustUnderOneSecondAfterAScanIsDropped) {
     EXPECT_EQ(scans(), 2);
 }
 
-TEST_F(AccessibilityLayerTest, ADroppedEventDoesNotProlongTheThrottle) {
+TEST_F(BannerLayerTest, ADroppedEventDoesNotProlongTheThrottle) {
     launch();
     send();
     advance(0.75);
@@ -318,7 +317,7 @@ TEST_F(AccessibilityLayerTest, ADroppedEventDoesNotProlongTheThrottle) {
     EXPECT_EQ(scans(), 3);
 }
 
-TEST_F(AccessibilityLayerTest, ADroppedEventIsNotMadeUpFor) {
+TEST_F(BannerLayerTest, ADroppedEventIsNotMadeUpFor) {
     launch();
     send();
     advance(0.5);
@@ -327,7 +326,7 @@ TEST_F(AccessibilityLayerTest, ADroppedEventIsNotMadeUpFor) {
     EXPECT_EQ(scans(), 2);
 }
 
-TEST_F(AccessibilityLayerTest, AWallClockSetBackDoesNotBlindTheLayer) {
+TEST_F(BannerLayerTest, AWallClockSetBackDoesNotBlindTheLayer) {
     launch();
     send();
     system_.scheduler.setWallClock(ManualScheduler::startOfTime - 86400);
@@ -336,7 +335,7 @@ TEST_F(AccessibilityLayerTest, AWallClockSetBackDoesNotBlindTheLayer) {
     EXPECT_EQ(scans(), 3);
 }
 
-TEST_F(AccessibilityLayerTest, AWallClockSetForwardDoesNotOpenTheThrottle) {
+TEST_F(BannerLayerTest, AWallClockSetForwardDoesNotOpenTheThrottle) {
     launch();
     send();
     system_.scheduler.setWallClock(ManualScheduler::startOfTime + 86400);
@@ -345,7 +344,7 @@ TEST_F(AccessibilityLayerTest, AWallClockSetForwardDoesNotOpenTheThrottle) {
     EXPECT_EQ(scans(), 2);
 }
 
-TEST_F(AccessibilityLayerTest, AnEventOfAnotherProcessStartsNoScanButSetsTheThrottle) {
+TEST_F(BannerLayerTest, AnEventOfAnotherProcessStartsNoScanButSetsTheThrottle) {
     launch();
     send(std::make_shared<testing::SimulatedElement>(999));
     EXPECT_EQ(scans(), 1);
@@ -357,7 +356,7 @@ TEST_F(AccessibilityLayerTest, AnEventOfAnotherProcessStartsNoScanButSetsTheThro
     EXPECT_EQ(scans(), 2);
 }
 
-TEST_F(AccessibilityLayerTest, AnEventOfAnElementThatIsGoneStartsNoScanButSetsTheThrottle) {
+TEST_F(BannerLayerTest, AnEventOfAnElementThatIsGoneStartsNoScanButSetsTheThrottle) {
     launch();
     const ElementPtr gone = testing::makeElement(pid, u"AXWindow"_qs);
     gone->gone = true;
@@ -367,7 +366,7 @@ TEST_F(AccessibilityLayerTest, AnEventOfAnElementThatIsGoneStartsNoScanButSetsTh
     EXPECT_EQ(scans(), 1);
 }
 
-TEST_F(AccessibilityLayerTest, TheFirstEventAfterANewAttachIsNotThrottled) {
+TEST_F(BannerLayerTest, TheFirstEventAfterANewAttachIsNotThrottled) {
     launch();
     send();
     listener_->startAXObserver();
@@ -377,14 +376,14 @@ TEST_F(AccessibilityLayerTest, TheFirstEventAfterANewAttachIsNotThrottled) {
     EXPECT_EQ(scans(), 4);
 }
 
-TEST_F(AccessibilityLayerTest, AnEventThatArrivesWhileTheObserverGoesStartsNoScan) {
+TEST_F(BannerLayerTest, AnEventThatArrivesWhileTheObserverGoesStartsNoScan) {
     launch();
     system_.workspace.post(WorkspaceEvent::willSleep);
     send(); // its task comes behind the sleep's
     EXPECT_EQ(scans(), 1);
 }
 
-TEST_F(AccessibilityLayerTest, AnEventForAListenerThatIsGoneDoesNothing) {
+TEST_F(BannerLayerTest, AnEventForAListenerThatIsGoneDoesNothing) {
     launch();
     system_.accessibility.send(system_.accessibility.application(pid), ax::windowCreated);
     listener_.reset();

@@ -1,4 +1,4 @@
-#include "capture/AccessibilityFixture.h"
+#include "capture/BannerLayerFixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,11 +13,11 @@ using ::testing::IsEmpty;
 using namespace testing;
 
 // What keeps the observer attached.
-class AccessibilityLifecycleTest : public AccessibilityFixture {};
+class BannerAttachmentTest : public BannerLayerFixture {};
 
 // Sleep and wake
 
-TEST_F(AccessibilityLifecycleTest, SleepDetaches) {
+TEST_F(BannerAttachmentTest, SleepDetaches) {
     launch();
     post(WorkspaceEvent::willSleep);
     EXPECT_FALSE(listener_->hasAXObserver());
@@ -27,7 +27,7 @@ TEST_F(AccessibilityLifecycleTest, SleepDetaches) {
     EXPECT_THAT(logged(), ElementsAre(attached(), sleeping));
 }
 
-TEST_F(AccessibilityLifecycleTest, AReactionIsATaskOfItsOwn) {
+TEST_F(BannerAttachmentTest, AReactionIsATaskOfItsOwn) {
     launch();
     system_.workspace.post(WorkspaceEvent::willSleep);
     EXPECT_TRUE(listener_->hasAXObserver());
@@ -35,7 +35,7 @@ TEST_F(AccessibilityLifecycleTest, AReactionIsATaskOfItsOwn) {
     EXPECT_FALSE(listener_->hasAXObserver());
 }
 
-TEST_F(AccessibilityLifecycleTest, WakeAttachesAfterTwoSeconds) {
+TEST_F(BannerAttachmentTest, WakeAttachesAfterTwoSeconds) {
     launch();
     post(WorkspaceEvent::willSleep);
     post(WorkspaceEvent::didWake);
@@ -49,7 +49,7 @@ TEST_F(AccessibilityLifecycleTest, WakeAttachesAfterTwoSeconds) {
     EXPECT_THAT(logged(), ElementsAre(attached(), sleeping, woken, attached()));
 }
 
-TEST_F(AccessibilityLifecycleTest, WakeWithoutASleepKeepsTheObserverUntilTheNewOneComes) {
+TEST_F(BannerAttachmentTest, WakeWithoutASleepKeepsTheObserverUntilTheNewOneComes) {
     launch();
     post(WorkspaceEvent::didWake);
     EXPECT_TRUE(listener_->hasAXObserver());
@@ -59,7 +59,7 @@ TEST_F(AccessibilityLifecycleTest, WakeWithoutASleepKeepsTheObserverUntilTheNewO
     EXPECT_EQ(status(), u"Active (pid 501)"_qs);
 }
 
-TEST_F(AccessibilityLifecycleTest, WakeWithThePermissionRevokedStaysRestarting) {
+TEST_F(BannerAttachmentTest, WakeWithThePermissionRevokedStaysRestarting) {
     launch();
     post(WorkspaceEvent::willSleep);
     system_.accessibility.trusted = false;
@@ -70,7 +70,7 @@ TEST_F(AccessibilityLifecycleTest, WakeWithThePermissionRevokedStaysRestarting) 
     EXPECT_THAT(logged(), ElementsAre(attached(), sleeping, woken, skipped));
 }
 
-TEST_F(AccessibilityLifecycleTest, WakeWithoutABannerProcessSearchesForIt) {
+TEST_F(BannerAttachmentTest, WakeWithoutABannerProcessSearchesForIt) {
     launch();
     post(WorkspaceEvent::willSleep);
     endBannerProcess();
@@ -83,7 +83,7 @@ TEST_F(AccessibilityLifecycleTest, WakeWithoutABannerProcessSearchesForIt) {
     EXPECT_THAT(logged(), ElementsAre(attached(), sleeping, woken, attached(502)));
 }
 
-TEST_F(AccessibilityLifecycleTest, WakeDoesNothingForAListenerThatIsGoneMeanwhile) {
+TEST_F(BannerAttachmentTest, WakeDoesNothingForAListenerThatIsGoneMeanwhile) {
     launch();
     post(WorkspaceEvent::didWake);
     listener_.reset();
@@ -92,7 +92,7 @@ TEST_F(AccessibilityLifecycleTest, WakeDoesNothingForAListenerThatIsGoneMeanwhil
     EXPECT_THAT(logged(), ElementsAre(attached(), woken));
 }
 
-TEST_F(AccessibilityLifecycleTest, TheDatabaseLayersSleepThroughASleep) {
+TEST_F(BannerAttachmentTest, TheDatabaseLayersSleepThroughASleep) {
     launch();
     post(WorkspaceEvent::willSleep);
     advance(30);
@@ -105,7 +105,7 @@ TEST_F(AccessibilityLifecycleTest, TheDatabaseLayersSleepThroughASleep) {
 
 // The banner process ending and starting
 
-TEST_F(AccessibilityLifecycleTest, TheEndOfTheBannerProcessDetaches) {
+TEST_F(BannerAttachmentTest, TheEndOfTheBannerProcessDetaches) {
     launch();
     post(WorkspaceEvent::didTerminateApplication, process(pid));
     advance(60);
@@ -115,7 +115,7 @@ TEST_F(AccessibilityLifecycleTest, TheEndOfTheBannerProcessDetaches) {
     EXPECT_THAT(logged(), ElementsAre(attached(), terminated));
 }
 
-TEST_F(AccessibilityLifecycleTest, ALaunchOfTheBannerProcessAttachesAfterOneSecond) {
+TEST_F(BannerAttachmentTest, ALaunchOfTheBannerProcessAttachesAfterOneSecond) {
     launch();
     post(WorkspaceEvent::didTerminateApplication, process(pid));
     runBannerProcess(502);
@@ -129,7 +129,7 @@ TEST_F(AccessibilityLifecycleTest, ALaunchOfTheBannerProcessAttachesAfterOneSeco
     EXPECT_THAT(logged(), ElementsAre(attached(), terminated, launched(502), attached(502)));
 }
 
-TEST_F(AccessibilityLifecycleTest, AfterARestartTheNewProcessIsScanned) {
+TEST_F(BannerAttachmentTest, AfterARestartTheNewProcessIsScanned) {
     launch();
     post(WorkspaceEvent::didTerminateApplication, process(pid));
     runBannerProcess(502);
@@ -142,7 +142,7 @@ TEST_F(AccessibilityLifecycleTest, AfterARestartTheNewProcessIsScanned) {
     EXPECT_THAT(stored(), ElementsAre(u"new"_qs));
 }
 
-TEST_F(AccessibilityLifecycleTest, ALaunchWithThePidThatIsObservedDoesNothing) {
+TEST_F(BannerAttachmentTest, ALaunchWithThePidThatIsObservedDoesNothing) {
     launch();
     post(WorkspaceEvent::didLaunchApplication, process(pid));
     advance(60);
@@ -150,7 +150,7 @@ TEST_F(AccessibilityLifecycleTest, ALaunchWithThePidThatIsObservedDoesNothing) {
     EXPECT_THAT(logged(), ElementsAre(attached()));
 }
 
-TEST_F(AccessibilityLifecycleTest, ALaunchWithThePermissionRevokedIsSkipped) {
+TEST_F(BannerAttachmentTest, ALaunchWithThePermissionRevokedIsSkipped) {
     launch();
     post(WorkspaceEvent::didTerminateApplication, process(pid));
     system_.accessibility.trusted = false;
@@ -160,7 +160,7 @@ TEST_F(AccessibilityLifecycleTest, ALaunchWithThePermissionRevokedIsSkipped) {
     EXPECT_THAT(logged(), ElementsAre(attached(), terminated, launched(502), skipped));
 }
 
-TEST_F(AccessibilityLifecycleTest, ALaunchDoesNothingForAListenerThatIsGoneMeanwhile) {
+TEST_F(BannerAttachmentTest, ALaunchDoesNothingForAListenerThatIsGoneMeanwhile) {
     launch();
     post(WorkspaceEvent::didLaunchApplication, process(502));
     listener_.reset();
@@ -168,7 +168,7 @@ TEST_F(AccessibilityLifecycleTest, ALaunchDoesNothingForAListenerThatIsGoneMeanw
     EXPECT_EQ(scans(), 1);
 }
 
-TEST_F(AccessibilityLifecycleTest, ALaunchDuringTheSearchLeavesOneObserver) {
+TEST_F(BannerAttachmentTest, ALaunchDuringTheSearchLeavesOneObserver) {
     endBannerProcess();
     launch();
     advance(1);
@@ -188,7 +188,7 @@ void PrintTo(const OtherApplication& other, std::ostream* out) {
     *out << other.name;
 }
 
-class EventsOfOthers : public AccessibilityLifecycleTest,
+class EventsOfOthers : public BannerAttachmentTest,
                        public ::testing::WithParamInterface<OtherApplication> {};
 
 TEST_P(EventsOfOthers, AnEndChangesNothing) {
@@ -226,24 +226,24 @@ INSTANTIATE_TEST_SUITE_P(
 
 // The observations
 
-TEST_F(AccessibilityLifecycleTest, ConstructionObservesNothing) {
+TEST_F(BannerAttachmentTest, ConstructionObservesNothing) {
     EXPECT_EQ(system_.workspace.observers(), 0U);
 }
 
-TEST_F(AccessibilityLifecycleTest, TheWorkspaceIsObservedWithoutThePermissionToo) {
+TEST_F(BannerAttachmentTest, TheWorkspaceIsObservedWithoutThePermissionToo) {
     system_.accessibility.trusted = false;
     launch();
     EXPECT_EQ(system_.workspace.observers(), 4U);
 }
 
-TEST_F(AccessibilityLifecycleTest, TheDestructorRemovesTheFourObservations) {
+TEST_F(BannerAttachmentTest, TheDestructorRemovesTheFourObservations) {
     launch();
     ASSERT_EQ(system_.workspace.observers(), 4U);
     listener_.reset();
     EXPECT_EQ(system_.workspace.observers(), 0U);
 }
 
-TEST_F(AccessibilityLifecycleTest, AnEventOnItsWayToAListenerThatIsGoneSaysNothing) {
+TEST_F(BannerAttachmentTest, AnEventOnItsWayToAListenerThatIsGoneSaysNothing) {
     launch();
     system_.workspace.post(WorkspaceEvent::willSleep);
     listener_.reset();
