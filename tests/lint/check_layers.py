@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that includes point one way, as the documentation shows it, that only a system's own folder
-knows the system, and that one file alone knows the time zone.
+"""Checks that includes point one way, as the documentation shows it, that only a system's own folder knows the system, one folder
+alone SQLite, and one file alone the time zone.
 
 usage: check_layers.py ROOT
 """
@@ -46,6 +46,9 @@ SYSTEM_HEADER = re.compile(
     r"ServiceManagement/)")
 BUS_NAME = re.compile(r"org\.freedesktop\.\w+")
 SYSTEM_LIBRARY = re.compile(r"(Qt6::DBus|PkgConfig::DBUS|-framework)\b")
+
+# One folder alone holds SQLite's handles, so that all of them are closed in one place.
+DATABASE_FOLDER = pathlib.PurePosixPath("src/store")
 
 # Two sources of a zone's rules would disagree about the day of a moment. ICU's calendars are for wall
 # time, which one file makes sure of.
@@ -114,16 +117,28 @@ def cycles(edges):
     return found
 
 
+def unit_of(file):
+    """A header and its source are one unit: what one of them needs, both do."""
+    return file.with_suffix("").as_posix()
+
+
 def check_cycles(root, files):
-    between_files, between_folders = {}, {}
+    between_units, between_folders = {}, {}
     for file in files:
         for _, target in sources.project_includes(root, file):
-            between_files.setdefault(file.as_posix(), set()).add(target.as_posix())
+            if unit_of(file) != unit_of(target):
+                between_units.setdefault(unit_of(file), set()).add(unit_of(target))
             if file.parent != target.parent:
                 between_folders.setdefault(file.parent.as_posix(), set()).add(
                     target.parent.as_posix())
     return [f"{cycle[0]}: a cycle: {' -> '.join(cycle)}"
-            for cycle in cycles(between_files) + cycles(between_folders)]
+            for cycle in cycles(between_units) + cycles(between_folders)]
+
+
+def check_databases(root, files):
+    return [f"{file}:{number}: <sqlite3.h> belongs to src/store; use store/Sqlite.h"
+            for file in files if DATABASE_FOLDER not in file.parents
+            for number, _, name in sources.include_lines(root, file) if name == "sqlite3.h"]
 
 
 def check_systems(root, files):
@@ -187,8 +202,8 @@ def check_documents(root):
 def check(root):
     files = sources.cpp_files(root, ["src"])
     return [*check_includes(root, files), *check_cycles(root, files),
-            *check_systems(root, files), *check_zones(root, files), *check_libraries(root),
-            *check_documents(root)]
+            *check_databases(root, files), *check_systems(root, files),
+            *check_zones(root, files), *check_libraries(root), *check_documents(root)]
 
 
 def main():

@@ -77,8 +77,29 @@ class LayersTest(unittest.TestCase):
     def test_files_must_not_include_each_other(self):
         self.write("src/browser/List.h", '#include "browser/Row.h"')
         self.write("src/browser/Row.h", '#include "browser/List.h"')
-        self.assert_violations("src/browser/List.h: a cycle: src/browser/List.h -> "
-                               "src/browser/Row.h -> src/browser/List.h")
+        self.assert_violations("src/browser/List: a cycle: src/browser/List -> src/browser/Row -> "
+                               "src/browser/List")
+
+    def test_a_header_and_its_source_are_one_unit_of_a_cycle(self):
+        self.write("src/capture/Listener.h")
+        self.write("src/capture/Listener.cpp", '#include "capture/Listener.h"',
+                   '#include "capture/Recovery.h"')
+        self.write("src/capture/Recovery.h")
+        self.write("src/capture/Recovery.cpp", '#include "capture/Recovery.h"',
+                   '#include "capture/Listener.h"')
+        self.assert_violations("src/capture/Listener: a cycle: src/capture/Listener -> "
+                               "src/capture/Recovery -> src/capture/Listener")
+
+    def test_units_of_one_name_in_two_folders_differ(self):
+        self.write("src/store/Database.h")
+        self.write("src/capture/Database.h", '#include "store/Database.h"')
+        self.assert_violations()
+
+    def test_the_store_alone_includes_the_header_of_the_database_library(self):
+        self.write("src/store/Sqlite.cpp", "#include <sqlite3.h>")
+        self.write("src/capture/Database.cpp", "#include <QString>", "#include <sqlite3.h>")
+        self.assert_violations("src/capture/Database.cpp:2: <sqlite3.h> belongs to src/store; use "
+                               "store/Sqlite.h")
 
     def test_folders_of_one_layer_must_not_need_each_other(self):
         self.write("src/apps/Launcher.h")
