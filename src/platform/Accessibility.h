@@ -52,10 +52,10 @@ struct Announcement {
     bool operator==(const Announcement&) const = default;
 };
 
-// An observer acts on an event that comes at least this many seconds after the last one that it
-// acted on, and drops the others: there is no scan for those. So a system that keeps banners until
-// they were taken sends another event after the last change, as soon as one gets through, and goes
-// on with that while any banner is left.
+// The throttle, a promise of both sides. Whoever observes scans for an event that comes at least
+// this many seconds after the last one that it scanned for, and drops the others: no scan makes up
+// for those. So a system that keeps banners until they were taken sends another event after the
+// last change, as soon as one gets through, and goes on with that while any banner is left.
 inline constexpr double axThrottle = 1.0;
 
 // Receives the events of one process, once it is attached to the main run loop. Destroying it

@@ -101,6 +101,20 @@ TEST_F(BannersToHoardTest, StoresTheSecondOfTwoInASecondOnceTheThrottleIsOver) {
     EXPECT_THAT(stored(u"timestamp"_qs), ElementsAre(u"785000000.0"_qs, u"785000000.4"_qs));
 }
 
+// An announcement at this part of the throttle's time, counted from the scan before it.
+struct InTheThrottle : BannersToHoardTest, ::testing::WithParamInterface<double> {};
+
+TEST_P(InTheThrottle, IsStoredOnceTheThrottleIsOver) {
+    announce(u"one"_qs);
+    scheduler.advance(GetParam() * axThrottle);
+    announce(u"two"_qs);
+    EXPECT_THAT(stored(), ElementsAre(u"one"_qs)) << "the throttle is in force";
+    scheduler.advance((1 - GetParam()) * axThrottle + 0.1);
+    EXPECT_THAT(stored(), ElementsAre(u"one"_qs, u"two"_qs));
+}
+
+INSTANTIATE_TEST_SUITE_P(Moments, InTheThrottle, ::testing::Values(0.0, 0.25, 0.5, 0.9, 0.999));
+
 TEST_F(BannersToHoardTest, StoresEachOfASeriesWithinTwoThrottles) {
     for (int i = 0; i < 100; ++i) {
         announce(QString::number(i));
