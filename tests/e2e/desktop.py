@@ -285,6 +285,12 @@ class DesktopTestCase(SessionTestCase):
         with open(f"/proc/{(program or self.program).pid}/statm") as status:
             return int(status.read().split()[1]) * os.sysconf("SC_PAGE_SIZE") / 1e6
 
+    def processor_seconds(self):
+        """Of all threads of the program, which a busy machine does not make more."""
+        with open(f"/proc/{self.program.pid}/stat") as status:
+            fields = status.read().rsplit(")", 1)[1].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
 
 __all__ = ["Application", "Bus", "DesktopTestCase", "NotificationDaemon", "RawConnection", "Session",
            "Shell", "daemon_is_installed", "wait_until"]

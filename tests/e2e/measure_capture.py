@@ -18,7 +18,6 @@ import time
 
 import session as sessions
 from desktop import Application, Bus, NotificationDaemon
-from main_window import MainWindow
 from session import Display, Session, now, wait_until
 
 SENDER = "Application 7"
@@ -44,10 +43,11 @@ class Setting:
 
     def __init__(self, program, rows, shown):
         sessions.PROGRAM = program
-        self.session = Session()
+        # Of its own: programs that are measured in turns must not cover each other's windows.
+        self.display = Display()
+        self.session = Session(display=self.display)
         bus = Bus(self.session)
         NotificationDaemon(self.session, bus, "plain")
-        window = MainWindow(self.session, bus) if shown else None
         first = self.session.start_program()
         wait_until(lambda: self.session.query("SELECT name FROM pragma_table_info('notifications')"
                                               " WHERE name = 'pinned'"), "the schema")
@@ -58,8 +58,8 @@ class Setting:
         self.application = Application(bus, SENDER)
         self.reader = sqlite3.connect(f"file:{self.session.hoard}?mode=ro", uri=True)
         self.sent = 0
-        if window:
-            window.open()
+        if shown:
+            self.session.open_main_window()
         time.sleep(3 + rows / 200000)
         for _ in range(3):
             self.capture()
@@ -84,6 +84,7 @@ class Setting:
     def close(self):
         self.reader.close()
         self.session.close()
+        self.display.close()
 
 
 def measure(options):
@@ -109,4 +110,3 @@ if __name__ == "__main__":
                         type=lambda text: [int(number) for number in text.split(",")])
     parser.add_argument("programs", nargs="*", default=[sessions.PROGRAM])
     measure(parser.parse_args())
-    Display.end()

@@ -69,13 +69,16 @@ class Display:
     @classmethod
     def end(cls):
         if cls._shared is not None:
-            cls._shared.server.terminate()
-            cls._shared.server.wait()
+            cls._shared.close()
             cls._shared = None
+
+    def close(self):
+        self.server.terminate()
+        self.server.wait()
 
 
 class Session:
-    def __init__(self, user=None):
+    def __init__(self, user=None, display=None):
         self.root = pathlib.Path(tempfile.mkdtemp(prefix="tessarine-e2e-"))
         self.home = self.root / "home"
         self.data = self.home / ".local/share"
@@ -90,7 +93,7 @@ class Session:
             "LANG": "C.UTF-8",
             "HOME": str(self.home),
             "XDG_RUNTIME_DIR": str(self.runtime),
-            "DISPLAY": Display.shared().name,
+            "DISPLAY": (display or Display.shared()).name,
             "QT_QUICK_BACKEND": "software",
             "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", ""),
             "UBSAN_OPTIONS": os.environ.get("UBSAN_OPTIONS", ""),

@@ -1,6 +1,7 @@
 #include "platform/linux/banners/BoundedText.h"
 
 #include "support/Printers.h"
+#include "support/ProcessorTime.h"
 
 #include <gtest/gtest.h>
 
@@ -81,13 +82,13 @@ class HugeText : public ::testing::TestWithParam<BoundCase> {};
 
 TEST_P(HugeText, IsReadNoFurtherThanItIsKept) {
     const std::string text = repeated(GetParam().text, 20000000 / int(GetParam().text.size()));
-    const auto start = std::chrono::steady_clock::now();
+    const auto start = testing::processorTime();
     for (int i = 0; i < 20; ++i) {
         const QString kept = boundedText(text, 200);
         EXPECT_LE(kept.size(), 200 * 16 + 1);
         EXPECT_TRUE(kept.endsWith(u'…'));
     }
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+    EXPECT_LT(testing::processorTime() - start, std::chrono::seconds(20));
 }
 
 const BoundCase huge[] = {
