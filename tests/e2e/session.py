@@ -47,14 +47,16 @@ def wait_until(condition, what, seconds=PATIENCE):
 
 
 class Display:
-    """An X server of its own, shared by the tests of a process."""
+    """An X server of its own, shared by the tests of a process. It doesn't begin anew when its last
+    client goes: a program that starts in that moment would find no server."""
 
     _shared = None
 
     def __init__(self):
         reading, writing = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1400x1000x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1400x1000x24", "-nolisten", "tcp",
+             "-noreset"],
             pass_fds=[writing], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as answer:

@@ -43,5 +43,12 @@ class EndOfSession(SessionTestCase):
         self.assert_ends(1)
 
 
+class Screen(SessionTestCase):
+    def test_stays_as_it_is_when_its_last_client_goes(self):
+        """Else a program that starts in that moment would find no display."""
+        self.session.xdotool("mousemove", "7", "9")
+        self.assertIn("x:7 y:9 ", self.session.xdotool("getmouselocation"))
+
+
 if __name__ == "__main__":
     unittest.main(verbosity=2)
