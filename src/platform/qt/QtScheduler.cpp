@@ -8,7 +8,7 @@
 #include <QTimer>
 
 #include <chrono>
-#include <condition_variable>
+#include <future>
 #include <utility>
 
 #include <time.h>
@@ -41,41 +41,15 @@ private:
     QTimer timer_;
 };
 
-// Told by one thread, awaited by another. Also told when its last copy goes without having run.
-class Completion {
-public:
-    void tell() {
-        {
-            const std::lock_guard lock(mutex_);
-            done_ = true;
-        }
-        told_.notify_all();
-    }
-
-    void wait() {
-        std::unique_lock lock(mutex_);
-        told_.wait(lock, [this] { return done_; });
-    }
-
-    bool waitFor(double seconds) {
-        std::unique_lock lock(mutex_);
-        return told_.wait_for(lock, std::chrono::duration<double>(seconds),
-                              [this] { return done_; });
-    }
-
-private:
-    std::mutex mutex_;
-    std::condition_variable told_;
-    bool done_ = false;
-};
-
-// A task that reports its end to a completion, and reports too when it is dropped without running.
-Task reporting(const std::shared_ptr<Completion>& completion, Task task) {
-    std::shared_ptr<void> end(nullptr, [completion](void*) { completion->tell(); });
-    return [task = std::move(task), end = std::move(end)]() mutable {
-        const std::shared_ptr<void> atReturn = std::move(end);
-        task();
-    };
+// A task, and a future that is ready when it has run or was dropped without running: the last copy
+// of the task takes the promise with it.
+std::pair<Task, std::future<void>> withEnd(Task task) {
+    const auto end = std::make_shared<std::promise<void>>();
+    return {[end, task = std::move(task)] {
+                task();
+                end->set_value();
+            },
+            end->get_future()};
 }
 
 } // namespace
@@ -110,9 +84,9 @@ void QtScheduler::onMainAfter(double seconds, Task task) {
 }
 
 void QtScheduler::onMainAndWait(const Task& task) {
-    const auto completion = std::make_shared<Completion>();
-    main_.post(reporting(completion, task));
-    completion->wait();
+    auto [reporting, end] = withEnd(task);
+    main_.post(std::move(reporting));
+    end.wait();
 }
 
 std::unique_ptr<RepeatingTimer> QtScheduler::every(double seconds, Task task) {
@@ -124,9 +98,9 @@ void QtScheduler::onGlobalQueue(QualityOfService quality, Task task) {
 }
 
 bool QtScheduler::completesWithin(double seconds, QualityOfService quality, Task task) {
-    const auto completion = std::make_shared<Completion>();
-    workers_.run(quality, reporting(completion, std::move(task)));
-    return completion->waitFor(seconds);
+    auto [reporting, end] = withEnd(std::move(task));
+    workers_.run(quality, std::move(reporting));
+    return end.wait_for(std::chrono::duration<double>(seconds)) == std::future_status::ready;
 }
 
 QtScheduler::MainThread::MainThread() {
