@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that includes point one way, as the documentation shows it, that only a system's own folder knows the system, one folder
-alone SQLite, and one file alone the time zone.
+"""Checks that includes point one way, as the documentation shows it, that only a system's own folder
+knows the system, one folder alone SQLite, and one file alone the time zone.
 
 usage: check_layers.py ROOT
 """
