@@ -298,6 +298,7 @@ TEST(HoardPlace, MayHoldBlanksAndLettersOfAnyScript) {
     const testing::ManualScheduler clock;
     const testing::SimulatedFileSystem fileSystem(home.filePath(u"Ünïcödé 漢字 %41 ' x"_qs));
     HoardStore store(fileSystem, defaults, clock);
+    store.open();
     EXPECT_TRUE(QFileInfo(store.path()).isFile());
     EXPECT_EQ(store.stats().fileSizeBytes, QFileInfo(store.path()).size());
 }
