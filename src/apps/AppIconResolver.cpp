@@ -23,13 +23,11 @@ void AppIconResolver::resolve(const QString& bundleId, const QString& appName,
     if (inflight_.contains(key))
         return;
     inflight_.insert(key);
-    const auto finish = [weak = weak_from_this(), key,
-                         completion = std::move(completion)](const QImage& icon) {
-        if (const std::shared_ptr<AppIconResolver> self = weak.lock()) {
-            self->keep(key, icon);
+    const auto finish =
+        alive_.guard([this, key, completion = std::move(completion)](const QImage& icon) {
+            keep(key, icon);
             completion(icon);
-        }
-    };
+        });
     scheduler_.onGlobalQueue(
         QualityOfService::utility,
         [&scheduler = scheduler_, sources = sources_, bundleId, appName, finish] {

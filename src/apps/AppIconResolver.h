@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/IconLookup.h"
+#include "shared/AliveGuard.h"
 
 #include <QHash>
 #include <QImage>
@@ -15,7 +16,7 @@ namespace tessarine {
 class Scheduler;
 
 // Gives applications their icons: each is looked up once, on a worker, and kept for as long as the
-// process runs. Main thread.
+// process runs. Views and the engine own it together. Main thread.
 class AppIconResolver : public std::enable_shared_from_this<AppIconResolver> {
 public:
     using Completion = std::function<void(const QImage&)>;
@@ -48,6 +49,7 @@ private:
     const IconSources sources_;
     QHash<QString, QImage> cache_; // only ever grows
     QSet<QString> inflight_;       // keys being looked up
+    AliveGuard alive_;
 };
 
 } // namespace tessarine

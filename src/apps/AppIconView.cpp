@@ -4,7 +4,6 @@
 #include "apps/AppIconResolver.h"
 #include "apps/AppPlaceholder.h"
 
-#include <QPointer>
 #include <QQmlEngine>
 
 #include <utility>
@@ -85,11 +84,10 @@ void AppIconView::updatePolish() {
     if (!isVisible() || hasIcon_ || !icons || startedTask_ == taskId())
         return;
     startedTask_ = taskId();
-    icons->resolve(bundleId_, appName_,
-                   [view = QPointer(this), key = cacheKey()](const QImage& icon) {
-                       if (view && view->cacheKey() == key)
-                           view->setHasIcon(!icon.isNull());
-                   });
+    icons->resolve(bundleId_, appName_, alive_.guard([this, key = cacheKey()](const QImage& icon) {
+        if (cacheKey() == key)
+            setHasIcon(!icon.isNull());
+    }));
 }
 
 AppIconResolver* AppIconView::resolver() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/AliveGuard.h"
+
 #include <QColor>
 #include <QQuickItem>
 #include <QString>
@@ -64,6 +66,7 @@ private:
     double cornerRadius_ = 0;
     bool hasIcon_ = false;
     QString startedTask_; // the id of the task that asked for the icon last
+    AliveGuard alive_;
 };
 
 // Lets the views of the engine ask this resolver. Once for an engine; without it, views keep their

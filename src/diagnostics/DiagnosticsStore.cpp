@@ -6,8 +6,7 @@ namespace tessarine {
 
 DiagnosticsStore::DiagnosticsStore(Scheduler& scheduler, HoardStore& hoard)
     : scheduler_(scheduler)
-    , hoard_(hoard)
-    , self_(std::make_shared<DiagnosticsStore*>(this)) {}
+    , hoard_(hoard) {}
 
 DiagnosticsStore::~DiagnosticsStore() = default;
 
@@ -60,10 +59,7 @@ void DiagnosticsStore::startPollCountdown() {
     publish(isPolling_, true);
     publish(nextPollIn_, pollInterval);
     const int run = ++countdownRun_;
-    pollCountdown_ = scheduler_.every(1.0, [this, run, weak = std::weak_ptr(self_)] {
-        if (weak.lock())
-            tick(run);
-    });
+    pollCountdown_ = scheduler_.every(1.0, alive_.guard([this, run] { tick(run); }));
 }
 
 void DiagnosticsStore::tick(int run) {
@@ -71,22 +67,20 @@ void DiagnosticsStore::tick(int run) {
     if (nextPollIn_ > 0.0)
         return;
     publish(isPolling_, false);
-    // Let go of outside its own call, unless a restart has replaced it by then.
-    scheduler_.onMain([this, run, weak = std::weak_ptr(self_)] {
-        if (weak.lock() && run == countdownRun_)
+    // A timer must not be destroyed inside its own call. A restart may have replaced it by then.
+    scheduler_.onMain(alive_.guard([this, run] {
+        if (run == countdownRun_)
             pollCountdown_.reset();
-    });
+    }));
 }
 
 void DiagnosticsStore::refreshHoardStats() {
-    scheduler_.onGlobalQueue(QualityOfService::utility, [this, weak = std::weak_ptr(self_),
-                                                         &hoard = hoard_, &main = scheduler_] {
-        const HoardStats stats = hoard.stats();
-        main.onMain([this, weak, stats] {
-            if (weak.lock())
-                publish(hoardStats_, stats);
+    const auto publishStats =
+        alive_.guard([this](const HoardStats& stats) { publish(hoardStats_, stats); });
+    scheduler_.onGlobalQueue(
+        QualityOfService::utility, [publishStats, &hoard = hoard_, &main = scheduler_] {
+            main.onMain([publishStats, stats = hoard.stats()] { publishStats(stats); });
         });
-    });
 }
 
 } // namespace tessarine

@@ -2,6 +2,7 @@
 
 #include "diagnostics/DiagnosticEntry.h"
 #include "platform/Scheduler.h"
+#include "shared/AliveGuard.h"
 #include "store/HoardStore.h"
 
 #include <QList>
@@ -71,8 +72,8 @@ private:
     bool isPolling_ = false;
     HoardStats hoardStats_;
     std::unique_ptr<RepeatingTimer> pollCountdown_;
-    int countdownRun_ = 0;                    // tells a restarted countdown from the one before it
-    std::shared_ptr<DiagnosticsStore*> self_; // weakly held by work that comes back later
+    int countdownRun_ = 0; // tells a restarted countdown from the one before it
+    AliveGuard alive_;
 };
 
 } // namespace tessarine

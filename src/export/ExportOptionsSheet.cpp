@@ -2,8 +2,6 @@
 
 #include "preferences/PreferencesStore.h"
 
-#include <QPointer>
-
 // In the sources that Qt makes for the module. Naming it keeps a static library's types from being
 // left out of the program.
 void qml_register_types_Tessarine_Export();
@@ -21,8 +19,7 @@ ExportOptionsSheet::ExportOptionsSheet(NotificationList notifications,
                                        std::function<void()> onDismiss, const Services& services)
     : services_(services)
     , notifications_(std::move(notifications))
-    , onDismiss_(std::move(onDismiss))
-    , life_(std::make_shared<ExportOptionsSheet*>(this)) {
+    , onDismiss_(std::move(onDismiss)) {
     [[maybe_unused]] const volatile auto types = &qml_register_types_Tessarine_Export;
     connect(&services_.preferences, &PreferencesStore::changed, this,
             &ExportOptionsSheet::onPreferencesChanged);
@@ -83,10 +80,7 @@ void ExportOptionsSheet::keepHidden() {
 
 void ExportOptionsSheet::requestExport() {
     ++dismissal_;
-    services_.scheduler.onMain([self = QPointer(this)] {
-        if (self)
-            self->runExport();
-    });
+    services_.scheduler.onMain(alive_.guard([this] { runExport(); }));
 }
 
 void ExportOptionsSheet::runExport() {
@@ -106,10 +100,10 @@ void ExportOptionsSheet::runExport() {
 
 // Nothing when the user cancelled, and when the sheet has gone meanwhile.
 std::optional<QString> ExportOptionsSheet::askForPath() {
-    const QPointer self(this);
+    const AliveGuard::Token self = alive_.token();
     asksForPath_ = true;
     const std::optional<QString> path = services_.exports.askSaveURL(selectedFormat_);
-    if (!self)
+    if (!self.isAlive())
         return std::nullopt;
     asksForPath_ = false;
     return path;
@@ -118,14 +112,10 @@ std::optional<QString> ExportOptionsSheet::askForPath() {
 void ExportOptionsSheet::dispatch(const QString& path) {
     const auto job = std::make_shared<const Job>(
         Job{services_.exports, notifications_, includePrivateContent_, selectedFormat_, path});
+    const auto finishLater = alive_.guard([this](const ExportResult& result) { finish(result); });
     services_.scheduler.onGlobalQueue(
-        QualityOfService::userInitiated,
-        [job, life = std::weak_ptr(life_), &scheduler = services_.scheduler] {
-            const ExportResult result = job->run();
-            scheduler.onMain([result, life] {
-                if (const auto sheet = life.lock())
-                    (*sheet)->finish(result);
-            });
+        QualityOfService::userInitiated, [job, finishLater, &scheduler = services_.scheduler] {
+            scheduler.onMain([finishLater, result = job->run()] { finishLater(result); });
         });
 }
 
@@ -155,10 +145,10 @@ void ExportOptionsSheet::finish(const ExportResult& result) {
 }
 
 void ExportOptionsSheet::dismissLater() {
-    services_.scheduler.onMainAfter(dismissDelay, [self = QPointer(this), number = ++dismissal_] {
-        if (self && self->dismissal_ == number)
-            self->dismiss();
-    });
+    services_.scheduler.onMainAfter(dismissDelay, alive_.guard([this, number = ++dismissal_] {
+        if (dismissal_ == number)
+            dismiss();
+    }));
 }
 
 void ExportOptionsSheet::cancel() {

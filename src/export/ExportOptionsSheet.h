@@ -4,6 +4,7 @@
 #include "export/ExportManager.h"
 #include "platform/FileViewer.h"
 #include "platform/Scheduler.h"
+#include "shared/AliveGuard.h"
 #include "shared/CapturedNotification.h"
 
 #include <QObject>
@@ -138,9 +139,7 @@ private:
     bool exportDone_ = false;
     bool asksForPath_ = false;
     int dismissal_ = 0; // the number of the last one; only that one may close the sheet
-
-    // What a worker brings back holds this weakly, and ends silently when the sheet is gone.
-    std::shared_ptr<ExportOptionsSheet*> life_;
+    AliveGuard alive_;
 };
 
 } // namespace tessarine
