@@ -10,12 +10,12 @@
 
 namespace tessarine {
 
-// How many levels of a window are looked at for banners, the window itself among them.
+// The maximum depth of the search for banners in a window, the window itself included.
 inline constexpr int axMaxDepth = 12;
 
 // One scan: walks the windows of a process and hands each banner that it can read to the handler,
-// one after the other, on the calling worker. What it hands over the system may have forgotten.
-// Ends early only when it is cancelled from outside.
+// one after the other, on the calling worker. The system may give a banner only once, so the
+// handler must not lose it. Ends early only when it is cancelled from outside.
 void runBannerScan(Accessibility& accessibility, const Scheduler& clock, qint32 pid,
                    const std::function<void(CapturedNotification)>& handler,
                    const std::stop_token& cancelled = {});

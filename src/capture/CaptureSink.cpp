@@ -10,8 +10,8 @@ namespace {
 constexpr double firstRetry = 0.5;    // seconds
 constexpr double longestRetry = 30.0; // seconds
 
-// What one task on the main thread tries to store. A capture may fail for a reason of its own, so
-// the next ones are tried all the same, but not for ever.
+// How many captures one task on the main thread tries to store. One may fail for a reason of its
+// own, so the next ones are tried too, up to this number.
 constexpr std::size_t retriesInOneTask = 50;
 
 qsizetype characters(const CapturedNotification& notification) {
@@ -25,7 +25,7 @@ Insertion insert(HoardStore& hoard, CaptureOrigin origin,
                                            : hoard.tryInsert(notification);
 }
 
-bool isAnswer(Insertion result) {
+bool isFinal(Insertion result) {
     return result == Insertion::stored || result == Insertion::refused;
 }
 
@@ -36,7 +36,7 @@ CaptureSink::CaptureSink(Services services)
     , retryDelay_(firstRetry) {}
 
 bool CaptureSink::store(CaptureOrigin origin, const CapturedNotification& notification) {
-    const bool isAdded = storeOrKeep(origin, notification);
+    const bool isAdded = storeOrRetryLater(origin, notification);
     if (isAdded)
         services_.requestPublication();
     return isAdded;
@@ -44,64 +44,66 @@ bool CaptureSink::store(CaptureOrigin origin, const CapturedNotification& notifi
 
 void CaptureSink::storeReading(CaptureOrigin origin, const NotificationList& notifications) {
     for (const CapturedNotification& notification : notifications)
-        storeOrKeep(origin, notification);
+        storeOrRetryLater(origin, notification);
     services_.requestPublication();
 }
 
 // While another program holds the hoard, each try would keep the main thread waiting.
-bool CaptureSink::storeOrKeep(CaptureOrigin origin, const CapturedNotification& notification) {
+bool CaptureSink::storeOrRetryLater(CaptureOrigin origin,
+                                    const CapturedNotification& notification) {
     Capture capture{origin, notification};
     const Insertion result = isLocked_ ? Insertion::locked : tryToStore(capture);
-    if (!isAnswer(result))
-        keep(std::move(capture));
+    if (!isFinal(result))
+        addPending(std::move(capture));
     return result == Insertion::stored;
 }
 
 void CaptureSink::storeLater(CaptureOrigin origin, const CapturedNotification& notification) {
-    keep({origin, notification});
+    addPending({origin, notification});
 }
 
 Insertion CaptureSink::tryToStore(const Capture& capture) {
     const Insertion result = insert(services_.hoard, capture.origin, capture.notification);
     isLocked_ = result == Insertion::locked;
     if (result == Insertion::stored)
-        tellOfStored(capture);
+        countAndLog(capture);
     return result;
 }
 
-void CaptureSink::tellOfStored(const Capture& capture) {
+void CaptureSink::countAndLog(const Capture& capture) {
     DiagnosticsStore& diagnostics = services_.diagnostics;
-    const auto tell = [&](const QString& message, Category category) {
+    const auto countAndLogAs = [&](const QString& message, Category category) {
         diagnostics.setCapturedTotal(diagnostics.capturedTotal() + 1);
         diagnostics.log(message.arg(capture.notification.appName), Level::success, category);
     };
     switch (capture.origin) {
     case CaptureOrigin::banner:
-        return tell(QStringLiteral("Notification from [%1]"), Category::ax);
+        return countAndLogAs(QStringLiteral("Notification from [%1]"), Category::ax);
     case CaptureOrigin::usernoted:
-        return tell(QStringLiteral("Captured notification from [%1]"), Category::usernoted);
+        return countAndLogAs(QStringLiteral("Captured notification from [%1]"),
+                             Category::usernoted);
     case CaptureOrigin::legacy:
-        return tell(QStringLiteral("Notification from [%1]"), Category::legacy);
+        return countAndLogAs(QStringLiteral("Notification from [%1]"), Category::legacy);
     case CaptureOrigin::recovery:
         return;
     }
 }
 
-void CaptureSink::keep(Capture capture) {
+void CaptureSink::addPending(Capture capture) {
     if (pending_.empty()) {
-        storedAfterWaiting_ = 0;
+        storedFromPending_ = 0;
         services_.diagnostics.log(QStringLiteral("Hoard not writable — captures wait"),
                                   Level::warning, Category::hoard);
     }
     pendingCharacters_ += characters(capture.notification);
     pending_.push_back(std::move(capture));
     if (pending_.size() > maximumPending || pendingCharacters_ > maximumPendingCharacters)
-        giveUpOldest();
+        dropOldest();
     retryAfter(retryDelay_);
 }
 
-// Some at once, so that the log isn't filled with a line for each.
-void CaptureSink::giveUpOldest() {
+// A tenth at once, so that the log doesn't get a line for each.
+void CaptureSink::dropOldest() {
     const std::size_t before = pending_.size();
     const std::size_t goal = before - before / 10;
     while (!pending_.empty() &&
@@ -122,14 +124,14 @@ void CaptureSink::retryAfter(double seconds) {
 
 void CaptureSink::retry() {
     isRetryScheduled_ = false;
-    const qint64 storedBefore = storedAfterWaiting_;
+    const qint64 storedBefore = storedFromPending_;
     const bool isProgress = retrySome();
-    if (storedAfterWaiting_ > storedBefore)
+    if (storedFromPending_ > storedBefore)
         services_.requestPublication();
     if (pending_.empty())
         services_.diagnostics.log(
             QStringLiteral("Hoard writable again — %1 waiting notification(s) stored")
-                .arg(storedAfterWaiting_),
+                .arg(storedFromPending_),
             Level::success, Category::hoard);
     retryDelay_ = isProgress ? firstRetry : std::min(2 * retryDelay_, longestRetry);
     if (isProgress && !isLocked_)
@@ -138,8 +140,8 @@ void CaptureSink::retry() {
         retryAfter(retryDelay_);
 }
 
-// True when the hoard has answered for one at least. What fails goes to the end: the reason may be
-// its own, and must not keep the others from being stored.
+// True when at least one was stored or refused. What fails goes to the end of the queue: the reason
+// may be its own, and must not block the others.
 bool CaptureSink::retrySome() {
     bool isProgress = false;
     for (std::size_t tries = std::min(pending_.size(), retriesInOneTask); tries > 0; --tries) {
@@ -153,7 +155,7 @@ bool CaptureSink::retrySome() {
             continue;
         }
         pendingCharacters_ -= characters(capture.notification);
-        storedAfterWaiting_ += result == Insertion::stored ? 1 : 0;
+        storedFromPending_ += result == Insertion::stored ? 1 : 0;
         isProgress = true;
     }
     return isProgress;

@@ -10,13 +10,13 @@
 
 namespace tessarine {
 
-// Who saw a notification. That decides how it is stored and what is said of it.
+// The reader that found a notification. It decides how the notification is stored and logged.
 enum class CaptureOrigin { banner, usernoted, legacy, recovery };
 
-// Brings captures into the hoard, counts them, and logs each that was added; those of the recovery
-// without a count and a line. What the hoard does not take at the moment is kept, in its order, and
-// tried again as long as the program runs. There is a bound to that: what is given up is logged.
-// Main thread.
+// Stores captures in the hoard, counts them, and logs each that was added; those of the recovery
+// are neither counted nor logged. What can't be stored at the moment stays pending, in its order,
+// and is tried again as long as the program runs. Of too many pending ones the oldest are dropped,
+// which is logged. Main thread.
 class CaptureSink {
 public:
     struct Services {
@@ -26,7 +26,7 @@ public:
         std::function<void()> requestPublication; // called when the hoard has new rows
     };
 
-    // How much may wait: notifications, and characters of their texts.
+    // How much may be pending: notifications, and characters of their texts.
     static constexpr std::size_t maximumPending = 50000;
     static constexpr qsizetype maximumPendingCharacters = 32 * 1024 * 1024;
 
@@ -39,7 +39,7 @@ public:
     // row was added.
     void storeReading(CaptureOrigin origin, const NotificationList& notifications);
 
-    // For a capture that somebody else could not store.
+    // For a capture that the caller could not store: it becomes pending.
     void storeLater(CaptureOrigin origin, const CapturedNotification& notification);
 
     std::size_t pendingCount() const { return pending_.size(); }
@@ -50,11 +50,11 @@ private:
         CapturedNotification notification;
     };
 
-    bool storeOrKeep(CaptureOrigin origin, const CapturedNotification& notification);
+    bool storeOrRetryLater(CaptureOrigin origin, const CapturedNotification& notification);
     Insertion tryToStore(const Capture& capture);
-    void tellOfStored(const Capture& capture);
-    void keep(Capture capture);
-    void giveUpOldest();
+    void countAndLog(const Capture& capture);
+    void addPending(Capture capture);
+    void dropOldest();
     void retryAfter(double seconds);
     void retry();
     bool retrySome();
@@ -62,8 +62,8 @@ private:
     Services services_;
     std::deque<Capture> pending_;
     qsizetype pendingCharacters_ = 0;
-    qint64 storedAfterWaiting_ = 0; // since captures have begun to wait
-    bool isLocked_ = false;         // another program held the hoard at the last try
+    qint64 storedFromPending_ = 0; // since the first one became pending
+    bool isLocked_ = false;        // another program held the hoard at the last try
     bool isRetryScheduled_ = false;
     double retryDelay_; // seconds
     AliveGuard alive_;

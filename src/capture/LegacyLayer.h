@@ -33,7 +33,7 @@ public:
     // Sets up the watch. Once.
     void startWatcher();
 
-    // One reading behind the cursor, which it moves and saves.
+    // Reads the rows after the cursor, moves and saves it, and stores them.
     void poll();
 
     // The folder itself when there is no database in it.

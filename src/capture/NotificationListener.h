@@ -49,10 +49,10 @@ public:
 
     bool isStarted() const { return isStarted_; }
 
-    // Starts the recovery and arms the layers. Only the first call does anything.
+    // Starts the recovery and the layers. Only the first call does anything.
     void start();
 
-    // One reading of a database, as its watch or timer sets off.
+    // Reads one of the databases now, as its watch or timer does.
     void pollUsernoted() { usernoted_.poll(); }
     void pollLegacy() { legacy_.poll(); }
 
@@ -81,7 +81,7 @@ private:
     NotificationList notifications_;
     bool isPublicationPending_ = false; // a task on its way will publish
     bool isStarted_ = false;
-    std::vector<std::pair<QString, double>> recentTitles_; // unused: the hoard tells duplicates
+    std::vector<std::pair<QString, double>> recentTitles_; // unused: the hoard finds duplicates
     CaptureSink sink_;
     BannerLayer banners_;
     UsernotedLayer usernoted_;

@@ -12,15 +12,15 @@ namespace tessarine {
 
 namespace {
 
-// How far back the first reading ever goes.
+// How far back the very first reading goes.
 constexpr double firstReading = 30 * secondsPerDay;
 
 qint64 greatestNoteId(const NotificationList& records) {
     return std::ranges::max_element(records, {}, &CapturedNotification::noteId)->noteId;
 }
 
-// The greatest finite date of the records, with the keys at it. A date without end is stored like
-// any other, but as a cursor it would put every later row behind it.
+// The greatest finite date of the records, with the keys at it. A record with an infinite date is
+// stored like any other, but as a cursor that date would hide every later row.
 UsernotedCursor newestOf(const NotificationList& records, const UsernotedCursor& cursor) {
     UsernotedCursor newest{cursor.timestamp, {}};
     for (const CapturedNotification& record : records) {
@@ -78,7 +78,7 @@ void StartupRecovery::recoverUsernoted() {
     if (found.empty())
         return;
     saveUsernotedCursor(found, cursor);
-    store(kept(found));
+    store(withinRetention(found));
     publishRecent();
 }
 
@@ -113,14 +113,14 @@ void StartupRecovery::recoverLegacy() {
     const qint64 newest = greatestNoteId(found);
     onMain([&] { services_.legacy.setLastSeenNoteId(newest); });
     services_.hoard.saveLastSeenSystemNoteId(newest);
-    const NotificationList keptRecords = kept(found);
-    if (keptRecords.empty())
+    const NotificationList records = withinRetention(found);
+    if (records.empty())
         return;
-    store(keptRecords);
+    store(records);
     publishRecent();
 }
 
-NotificationList StartupRecovery::kept(const NotificationList& found) const {
+NotificationList StartupRecovery::withinRetention(const NotificationList& found) const {
     NotificationList records;
     std::copy_if(found.begin(), found.end(), std::back_inserter(records),
                  [this](const CapturedNotification& record) {
@@ -129,8 +129,8 @@ NotificationList StartupRecovery::kept(const NotificationList& found) const {
     return records;
 }
 
-// What the hoard does not take now is the sink's to try again, and all that follows: each try would
-// hold up the main thread, which uses the hoard as well.
+// The first record that the hoard doesn't take, and all behind it, are left to the sink, which
+// tries again: each attempt here would block the main thread, which uses the hoard as well.
 void StartupRecovery::store(const NotificationList& records) {
     const auto notTaken = std::find_if(records.begin(), records.end(), [this](const auto& record) {
         const Insertion result = services_.hoard.tryInsert(record);

@@ -13,8 +13,8 @@
 
 namespace tessarine {
 
-// The reading that runs once at start, on a worker: takes into the hoard what the databases hold
-// of the time while the program was not running. It neither counts nor logs its rows.
+// Runs once at start, on a worker: reads what the databases have from the time while the program
+// was not running, and stores it in the hoard. Its rows are neither counted nor logged.
 class StartupRecovery {
 public:
     struct Services {
@@ -52,8 +52,8 @@ private:
     void store(const NotificationList& records);
     void publishRecent();
 
-    // The records that retention would keep.
-    NotificationList kept(const NotificationList& found) const;
+    // The records that the retention setting would not delete.
+    NotificationList withinRetention(const NotificationList& found) const;
 
     // Runs the work on the main thread, if the owner still lives, and waits for it.
     void onMain(const Task& work);

@@ -25,9 +25,9 @@ struct UsernotedReading {
     UsernotedCursor newest;
 };
 
-// Reads what lies behind the cursor in the database of the system's notification daemon. It goes
-// back 2 seconds behind the cursor, so that a row which was committed late is not lost; rows that
-// come again so are the store's to refuse. nameOf gives an application's shown name.
+// Reads the rows after the cursor in the database of the system's notification daemon. It starts 2
+// seconds before the cursor, so that a row which was committed late is not lost; the store refuses
+// rows that it has already. nameOf gives an application's shown name.
 //
 // Opens the file anew and closes it. A database that can't be opened or lacks a table gives an
 // empty reading. Any thread.

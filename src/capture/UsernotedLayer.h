@@ -35,7 +35,7 @@ public:
     // Sets up the watch and the timer. Once.
     void startWatcher();
 
-    // One reading behind the cursor, which it moves and saves.
+    // Reads the rows after the cursor, moves and saves it, and stores them.
     void poll();
 
     const QString& path() const { return path_; }

@@ -27,7 +27,7 @@ protected:
         hoard_.open(); // tests lock the file and put triggers into it
         diagnostics_.emplace(system_.scheduler, hoard_);
         sink_ = std::make_shared<CaptureSink>(CaptureSink::Services{
-            hoard_, *diagnostics_, system_.scheduler, [this] { ++timesAdded_; }});
+            hoard_, *diagnostics_, system_.scheduler, [this] { ++publicationRequests_; }});
     }
 
     CapturedNotification record(const QString& title, qint64 noteId = 0) const {
@@ -74,7 +74,7 @@ protected:
     testing::SimulatedPlatform system_;
     HoardStore hoard_{system_.fileSystem, system_.defaults, system_.scheduler};
     std::optional<DiagnosticsStore> diagnostics_;
-    int timesAdded_ = 0;
+    int publicationRequests_ = 0;
     std::shared_ptr<CaptureSink> sink_;
 };
 
@@ -103,14 +103,14 @@ TEST_F(CaptureSinkTest, CountsAndLogsARecordOfTheLegacyDatabase) {
     EXPECT_EQ(diagnostics_->entries().front().category, Category::legacy);
 }
 
-TEST_F(CaptureSinkTest, SaysNothingOfTheRecoverysRows) {
+TEST_F(CaptureSinkTest, NeitherCountsNorLogsTheRecoverysRows) {
     EXPECT_TRUE(sink_->store(CaptureOrigin::recovery, record(u"a"_qs, 1)));
     EXPECT_EQ(diagnostics_->capturedTotal(), 0);
     EXPECT_THAT(logged(), IsEmpty());
     EXPECT_THAT(stored(), ElementsAre(u"a"_qs));
 }
 
-TEST_F(CaptureSinkTest, SaysNothingOfWhatTheHoardHas) {
+TEST_F(CaptureSinkTest, NeitherCountsNorLogsWhatTheHoardHas) {
     storeBanner(u"a"_qs);
     EXPECT_FALSE(sink_->store(CaptureOrigin::banner, record(u"a"_qs)));
     EXPECT_EQ(diagnostics_->capturedTotal(), 1);
@@ -126,14 +126,14 @@ TEST_F(CaptureSinkTest, StoresInTheirOrderWhatCameWhileAnotherProgramHeldTheHoar
     EXPECT_FALSE(sink_->store(CaptureOrigin::banner, record(u"first"_qs)));
     EXPECT_FALSE(sink_->store(CaptureOrigin::usernoted, record(u"second"_qs, 1)));
     EXPECT_FALSE(sink_->store(CaptureOrigin::legacy, record(u"third"_qs, 2)));
-    advance(1.4); // one more try, in vain
+    advance(1.4); // one more attempt, which fails
     EXPECT_THAT(logged(), ElementsAre(waiting));
-    EXPECT_EQ(timesAdded_, 0);
+    EXPECT_EQ(publicationRequests_, 0);
     ASSERT_TRUE(other.execute("COMMIT"));
     advance(0.2);
     EXPECT_THAT(stored(), ElementsAre(u"first"_qs, u"second"_qs, u"third"_qs));
     EXPECT_EQ(diagnostics_->capturedTotal(), 3);
-    EXPECT_EQ(timesAdded_, 1);
+    EXPECT_EQ(publicationRequests_, 1);
     EXPECT_THAT(logged(),
                 ElementsAre(waiting, u"Notification from [Mail]"_qs,
                             u"Captured notification from [Mail]"_qs, u"Notification from [Mail]"_qs,
@@ -141,7 +141,7 @@ TEST_F(CaptureSinkTest, StoresInTheirOrderWhatCameWhileAnotherProgramHeldTheHoar
     EXPECT_TRUE(sink_->store(CaptureOrigin::banner, record(u"fourth"_qs)));
 }
 
-TEST_F(CaptureSinkTest, TriesLessAndLessOftenDownToTwiceAMinute) {
+TEST_F(CaptureSinkTest, TriesAgainAtGrowingIntervalsUpToThirtySeconds) {
     refuse(u"%"_qs);
     storeBanner(u"a"_qs);
     // Tries after 0.5, 1, 2, 4, 8 and 16 seconds, then every 30.
@@ -153,7 +153,7 @@ TEST_F(CaptureSinkTest, TriesLessAndLessOftenDownToTwiceAMinute) {
     EXPECT_THAT(stored(), ElementsAre(u"a"_qs));
 }
 
-TEST_F(CaptureSinkTest, StoresAtOnceWhatDoesNotFail) {
+TEST_F(CaptureSinkTest, StoresWhatDoesNotFailAtOnce) {
     refuse(u"bad%"_qs);
     storeBanner(u"bad"_qs);
     storeBanner(u"good"_qs);
@@ -173,7 +173,7 @@ TEST_F(CaptureSinkTest, LetsNoCaptureKeepOthersFromBeingStored) {
     EXPECT_EQ(sink_->pendingCount(), 120U);
 }
 
-TEST_F(CaptureSinkTest, StoresAllThatWaitsAsSoonAsOneIsTaken) {
+TEST_F(CaptureSinkTest, StoresAllPendingOnesAsSoonAsOneIsStored) {
     refuse(u"%"_qs);
     for (int i = 0; i < 175; ++i)
         storeBanner(QString::number(i));
@@ -184,17 +184,17 @@ TEST_F(CaptureSinkTest, StoresAllThatWaitsAsSoonAsOneIsTaken) {
     EXPECT_EQ(logged().back(), u"Hoard writable again — 175 waiting notification(s) stored"_qs);
 }
 
-TEST_F(CaptureSinkTest, GivesUpTheOldestWhereTooManyWait) {
+TEST_F(CaptureSinkTest, DropsTheOldestWhereTooManyArePending) {
     for (std::size_t i = 0; i <= CaptureSink::maximumPending; ++i)
         sink_->storeLater(CaptureOrigin::recovery, record(QString::number(i), qint64(i)));
     EXPECT_LE(sink_->pendingCount(), CaptureSink::maximumPending);
     EXPECT_GE(sink_->pendingCount(), CaptureSink::maximumPending / 2);
-    const std::size_t givenUp = CaptureSink::maximumPending + 1 - sink_->pendingCount();
+    const std::size_t dropped = CaptureSink::maximumPending + 1 - sink_->pendingCount();
     EXPECT_THAT(logged(), ElementsAre(waiting, u"Hoard not writable — %1 notification(s) given "
-                                               "up"_qs.arg(givenUp)));
+                                               "up"_qs.arg(dropped)));
 }
 
-TEST_F(CaptureSinkTest, GivesUpTheOldestWhereTooMuchTextWaits) {
+TEST_F(CaptureSinkTest, DropsTheOldestWhereTooMuchTextIsPending) {
     refuse(u"%"_qs);
     CapturedNotification huge = record(u"huge"_qs);
     huge.body = QString(CaptureSink::maximumPendingCharacters / 2, u'x');
@@ -207,7 +207,7 @@ TEST_F(CaptureSinkTest, GivesUpTheOldestWhereTooMuchTextWaits) {
     EXPECT_THAT(stored(), ElementsAre(u"next"_qs));
 }
 
-TEST_F(CaptureSinkTest, EndsWithoutAWordWhileCapturesWait) {
+TEST_F(CaptureSinkTest, EndsSilentlyWhileCapturesArePending) {
     refuse(u"%"_qs);
     storeBanner(u"a"_qs);
     sink_.reset();

@@ -24,7 +24,7 @@ protected:
         ASSERT_TRUE(other_->execute("BEGIN IMMEDIATE"));
     }
 
-    void letGo() {
+    void releaseLock() {
         ASSERT_TRUE(other_->execute("COMMIT"));
         system_.scheduler.advance(60);
     }
@@ -41,7 +41,7 @@ TEST_F(LockedHoard, LosesNoRecordOfAPoll) {
     pollNow();
     EXPECT_THAT(stored(), IsEmpty());
     EXPECT_EQ(diagnostics_->capturedTotal(), 0);
-    letGo();
+    releaseLock();
     EXPECT_THAT(stored(), ElementsAre(u"first"_qs, u"second"_qs));
     EXPECT_EQ(diagnostics_->capturedTotal(), 2);
     EXPECT_EQ(listener_->notifications().size(), 2U);
@@ -56,7 +56,7 @@ TEST_F(LockedHoard, LosesNoRecordOfTheRecovery) {
     system_.scheduler.settle();
     EXPECT_THAT(stored(), IsEmpty());
     EXPECT_THAT(logged(), Contains(u"Hoard not writable — captures wait"_qs));
-    letGo();
+    releaseLock();
     EXPECT_THAT(stored(), ElementsAre(u"first"_qs, u"second"_qs));
     EXPECT_EQ(diagnostics_->capturedTotal(), 0) << "the recovery counts nothing";
     EXPECT_EQ(listener_->notifications().size(), 2U);

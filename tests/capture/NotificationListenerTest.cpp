@@ -73,7 +73,7 @@ TEST_F(ListenerTest, WithoutALogFileOnlyTheTimerIsArmed) {
     EXPECT_THAT(logged(), Contains(u"Poll timer active (30s interval)"_qs));
 }
 
-TEST_F(ListenerTest, AListenerThatIsGoneEndsItsTasksWithoutAWord) {
+TEST_F(ListenerTest, AListenerThatIsGoneEndsItsTasksSilently) {
     launch();
     listener_->start();
     listener_.reset();

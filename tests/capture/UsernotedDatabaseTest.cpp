@@ -1,5 +1,6 @@
 #include "capture/UsernotedDatabase.h"
 
+#include "store/Sqlite.h"
 #include "support/HoardFile.h"
 #include "support/PropertyListWriter.h"
 #include "tools/UsernotedDatabase.h"
@@ -333,13 +334,11 @@ TEST_F(BadDatabase, LockedByAnotherConnectionGivesNothingNow) {
     ASSERT_TRUE(writer.createTables());
     ASSERT_TRUE(writer.append(2, 3, payload(u"Hello"_qs), base + 1));
     writer.close();
-    sqlite3* locker = nullptr;
-    ASSERT_EQ(sqlite3_open(path_.toUtf8().constData(), &locker), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(locker, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE", nullptr,
-                           nullptr, nullptr),
-              SQLITE_OK);
-    expectNothingRead();
-    sqlite3_close(locker);
+    {
+        const SqliteConnection locker(path_, SqliteConnection::Mode::ownFile);
+        ASSERT_TRUE(locker.execute("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE"));
+        expectNothingRead();
+    }
     EXPECT_EQ(read().records.size(), 1U);
 }
 
