@@ -1,36 +1,14 @@
 #include "apps/AppPlaceholder.h"
 
+#include "shared/Text.h"
+
 #include <QStringList>
 
-#include <unicode/ubrk.h>
-
 #include <array>
-#include <memory>
 
 namespace tessarine {
 
 namespace {
-
-struct CloseBreaks {
-    void operator()(UBreakIterator* breaks) const { ubrk_close(breaks); }
-};
-
-// The first characters, as a reader counts them.
-QString firstCharacters(const QString& text, int count) {
-    UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<UBreakIterator, CloseBreaks> breaks(
-        ubrk_open(UBRK_CHARACTER, "", QStringView(text).utf16(), int32_t(text.size()), &status));
-    if (U_FAILURE(status))
-        return text.left(count);
-    int32_t end = 0;
-    for (int i = 0; i < count; ++i) {
-        const int32_t next = ubrk_next(breaks.get());
-        if (next == UBRK_DONE)
-            break;
-        end = next;
-    }
-    return text.left(end);
-}
 
 QStringList parts(const QString& name) {
     QStringList result(QString{});
@@ -66,8 +44,10 @@ QColor placeholderColor(const QString& appName) {
 QString placeholderInitials(const QString& appName) {
     const QStringList words = parts(appName);
     if (words.size() < 2)
-        return firstCharacters(appName, 2).toUpper();
-    return (firstCharacters(words[0], 1) + firstCharacters(words[1], 1)).toUpper();
+        return firstCharacters(appName, 2).toString().toUpper();
+    const QString initials =
+        firstCharacters(words[0], 1).toString() + firstCharacters(words[1], 1).toString();
+    return initials.toUpper();
 }
 
 } // namespace tessarine

@@ -12,9 +12,6 @@ namespace tessarine {
 
 namespace {
 
-constexpr double secondsPerMinute = 60;
-constexpr double secondsPerHour = 3600;
-
 // Digits of every script count as digits, letters of every script as letters.
 QRegularExpression pattern(const QString& text) {
     return QRegularExpression(text, QRegularExpression::UseUnicodePropertiesOption);

@@ -4,6 +4,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Symbols.h"
 #include "platform/Workspace.h"
+#include "shared/BundleId.h"
 
 #include <QStringList>
 
@@ -21,7 +22,7 @@ constexpr double substituteSize = 16; // an icon no wider is none
 const QColor symbolColour(0x8e, 0x8e, 0x93);
 
 bool hasRealBundleId(const QString& bundleId) {
-    return !bundleId.isEmpty() && !bundleId.startsWith(QStringLiteral("app_id_"));
+    return !bundleId.isEmpty() && !isUnresolvedBundleId(bundleId);
 }
 
 QImage finished(const QImage& icon) {

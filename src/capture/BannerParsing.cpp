@@ -114,9 +114,9 @@ std::optional<double> ageIn(QStringView token) {
     case u's':
         return amount;
     case u'm':
-        return amount * 60.0;
+        return amount * secondsPerMinute;
     case u'h':
-        return amount * 3600.0;
+        return amount * secondsPerHour;
     case u'd':
         return amount * secondsPerDay;
     default:

@@ -1,6 +1,7 @@
 #include "capture/LegacyDatabase.h"
 
 #include "capture/LegacyDecoding.h"
+#include "shared/BundleId.h"
 #include "shared/Narrowing.h"
 #include "store/Sqlite.h"
 
@@ -17,7 +18,7 @@ constexpr const char* selectNewNotes =
 
 QString bundleIdOf(qint64 appId, const LegacyAppNames& names) {
     const auto found = names.find(appId);
-    return found != names.end() ? found->second : QStringLiteral("app_id_%1").arg(appId);
+    return found != names.end() ? found->second : unresolvedBundleId(appId);
 }
 
 } // namespace

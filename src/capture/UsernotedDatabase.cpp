@@ -1,5 +1,6 @@
 #include "capture/UsernotedDatabase.h"
 
+#include "shared/BundleId.h"
 #include "store/Sqlite.h"
 
 #include <cmath>
@@ -22,10 +23,10 @@ QString resolveBundleId(qint64 appId, const SqliteConnection& connection) {
         if (statement.stepsToRow() && !statement.isNull(0))
             return statement.text(0);
     }
-    return QStringLiteral("app_id_%1").arg(appId);
+    return unresolvedBundleId(appId);
 }
 
-// A date without end would put every later row behind the cursor, so it never becomes one.
+// An infinite date as the cursor would hide every later row, so it never becomes one.
 void advance(UsernotedCursor& newest, double date, qint64 recId) {
     if (!std::isfinite(date) || date < newest.timestamp)
         return;

@@ -1,19 +1,10 @@
 #include "preferences/PreferencesStore.h"
 
+#include "platform/DefaultsKeys.h"
+
 namespace tessarine {
 
 namespace {
-
-const QString retentionDaysKey = QStringLiteral("retentionDays");
-const QString globalPrivacyModeKey = QStringLiteral("globalPrivacyMode");
-const QString privacyAppsKey = QStringLiteral("privacyApps");
-const QString launchLoginPromptSuppressedKey = QStringLiteral("launchLoginPromptSuppressed");
-const QString hasSeenPrivacyNoticeKey = QStringLiteral("hasSeenPrivacyNotice");
-const QString hasAcceptedEULAKey = QStringLiteral("hasAcceptedEULA");
-const QString hasSeenOnboardingKey = QStringLiteral("hasSeenOnboarding");
-const QString otpRetentionHoursKey = QStringLiteral("otpRetentionHours");
-const QString excludedBundleIdsKey = QStringLiteral("excludedBundleIds");
-const QString appearanceModeKey = QStringLiteral("appearanceMode");
 
 const QString followSystem = QStringLiteral("auto");
 
@@ -29,18 +20,18 @@ QStringList asList(const std::set<QString>& set) {
 
 PreferencesStore::PreferencesStore(UserDefaults& defaults)
     : defaults_(defaults)
-    , retentionDays_(defaults.integer(retentionDaysKey))
-    , globalPrivacyMode_(defaults.boolean(globalPrivacyModeKey))
-    , privacyApps_(asSet(defaults.textList(privacyAppsKey)))
-    , launchLoginPromptSuppressed_(defaults.boolean(launchLoginPromptSuppressedKey))
-    , hasSeenPrivacyNotice_(defaults.boolean(hasSeenPrivacyNoticeKey))
-    , hasAcceptedEULA_(defaults.boolean(hasAcceptedEULAKey))
-    , hasSeenOnboarding_(defaults.boolean(hasSeenOnboardingKey))
-    , otpRetentionHours_(defaults.integer(otpRetentionHoursKey))
-    , excludedBundleIds_(asSet(defaults.textList(excludedBundleIdsKey)))
-    , appearanceMode_(defaults.text(appearanceModeKey).value_or(followSystem)) {
+    , retentionDays_(defaults.integer(defaultsKeys::retentionDays))
+    , globalPrivacyMode_(defaults.boolean(defaultsKeys::globalPrivacyMode))
+    , privacyApps_(asSet(defaults.textList(defaultsKeys::privacyApps)))
+    , launchLoginPromptSuppressed_(defaults.boolean(defaultsKeys::launchLoginPromptSuppressed))
+    , hasSeenPrivacyNotice_(defaults.boolean(defaultsKeys::hasSeenPrivacyNotice))
+    , hasAcceptedEULA_(defaults.boolean(defaultsKeys::hasAcceptedEULA))
+    , hasSeenOnboarding_(defaults.boolean(defaultsKeys::hasSeenOnboarding))
+    , otpRetentionHours_(defaults.integer(defaultsKeys::otpRetentionHours))
+    , excludedBundleIds_(asSet(defaults.textList(defaultsKeys::excludedBundleIds)))
+    , appearanceMode_(defaults.text(defaultsKeys::appearanceMode).value_or(followSystem)) {
     // Keeping for ever is the choice of nobody having chosen, whatever a system's getter gives.
-    if (!defaults.contains(retentionDaysKey))
+    if (!defaults.contains(defaultsKeys::retentionDays))
         retentionDays_ = 0;
 }
 
@@ -56,46 +47,52 @@ void PreferencesStore::assign(Field& field, const Value& value, const Write& wri
 }
 
 void PreferencesStore::setRetentionDays(qint64 value) {
-    assign(retentionDays_, value, [&] { defaults_.setInteger(retentionDaysKey, value); });
+    assign(retentionDays_, value,
+           [&] { defaults_.setInteger(defaultsKeys::retentionDays, value); });
 }
 
 void PreferencesStore::setGlobalPrivacyMode(bool value) {
-    assign(globalPrivacyMode_, value, [&] { defaults_.setBoolean(globalPrivacyModeKey, value); });
+    assign(globalPrivacyMode_, value,
+           [&] { defaults_.setBoolean(defaultsKeys::globalPrivacyMode, value); });
 }
 
 void PreferencesStore::setPrivacyApps(const std::set<QString>& value) {
-    assign(privacyApps_, value, [&] { defaults_.setTextList(privacyAppsKey, asList(value)); });
+    assign(privacyApps_, value,
+           [&] { defaults_.setTextList(defaultsKeys::privacyApps, asList(value)); });
 }
 
 void PreferencesStore::setLaunchLoginPromptSuppressed(bool value) {
     assign(launchLoginPromptSuppressed_, value,
-           [&] { defaults_.setBoolean(launchLoginPromptSuppressedKey, value); });
+           [&] { defaults_.setBoolean(defaultsKeys::launchLoginPromptSuppressed, value); });
 }
 
 void PreferencesStore::setHasSeenPrivacyNotice(bool value) {
     assign(hasSeenPrivacyNotice_, value,
-           [&] { defaults_.setBoolean(hasSeenPrivacyNoticeKey, value); });
+           [&] { defaults_.setBoolean(defaultsKeys::hasSeenPrivacyNotice, value); });
 }
 
 void PreferencesStore::setHasAcceptedEULA(bool value) {
-    assign(hasAcceptedEULA_, value, [&] { defaults_.setBoolean(hasAcceptedEULAKey, value); });
+    assign(hasAcceptedEULA_, value,
+           [&] { defaults_.setBoolean(defaultsKeys::hasAcceptedEULA, value); });
 }
 
 void PreferencesStore::setHasSeenOnboarding(bool value) {
-    assign(hasSeenOnboarding_, value, [&] { defaults_.setBoolean(hasSeenOnboardingKey, value); });
+    assign(hasSeenOnboarding_, value,
+           [&] { defaults_.setBoolean(defaultsKeys::hasSeenOnboarding, value); });
 }
 
 void PreferencesStore::setOtpRetentionHours(qint64 value) {
-    assign(otpRetentionHours_, value, [&] { defaults_.setInteger(otpRetentionHoursKey, value); });
+    assign(otpRetentionHours_, value,
+           [&] { defaults_.setInteger(defaultsKeys::otpRetentionHours, value); });
 }
 
 void PreferencesStore::setExcludedBundleIds(const std::set<QString>& value) {
     assign(excludedBundleIds_, value,
-           [&] { defaults_.setTextList(excludedBundleIdsKey, asList(value)); });
+           [&] { defaults_.setTextList(defaultsKeys::excludedBundleIds, asList(value)); });
 }
 
 void PreferencesStore::setAppearanceMode(const QString& value) {
-    assign(appearanceMode_, value, [&] { defaults_.setText(appearanceModeKey, value); });
+    assign(appearanceMode_, value, [&] { defaults_.setText(defaultsKeys::appearanceMode, value); });
 }
 
 bool PreferencesStore::isPrivate(const QString& bundleId) const {

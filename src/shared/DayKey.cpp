@@ -14,8 +14,6 @@ namespace {
 
 constexpr qsizetype keyLength = 10;
 
-constexpr qint64 daySeconds = static_cast<qint64>(secondsPerDay);
-
 constexpr std::chrono::sys_days referenceDay{std::chrono::year(2001) / 1 / 1};
 
 void writeDigits(QChar* end, unsigned value, int count) {
@@ -47,7 +45,7 @@ std::optional<double> startOfDay(const QString& key) {
     const QDate date = QDate::fromString(key, Qt::ISODate);
     if (key.size() != keyLength || !date.isValid() || date.toString(Qt::ISODate) != key)
         return std::nullopt;
-    const double start = firstMoment(QDate(2001, 1, 1).daysTo(date) * daySeconds);
+    const double start = firstMoment(QDate(2001, 1, 1).daysTo(date) * wholeSecondsPerDay);
     return dayKey(start) == key ? std::optional(start) : std::nullopt;
 }
 

@@ -23,7 +23,6 @@ namespace {
 static_assert(sizeof(std::time_t) >= sizeof(qint64), "the C library counts beyond 2038");
 
 constexpr qint64 unixSeconds = static_cast<qint64>(unixSecondsAtReferenceDate);
-constexpr qint64 daySeconds = static_cast<qint64>(secondsPerDay);
 
 // No zone's clock is further from UTC than the C library lets a rule put it.
 constexpr qint64 greatestOffset = 90'000; // seconds: 25 hours
@@ -119,12 +118,12 @@ class LocalClock {
 public:
     qint64 offset(qint64 moment) {
         followZone();
-        const qint64 day = floorDivided(moment, daySeconds);
+        const qint64 day = floorDivided(moment, wholeSecondsPerDay);
         Day& known = days_[static_cast<std::size_t>(day) % days_.size()];
         if (known.number == day)
             return known.offset;
-        const qint64 atStart = askOffset(day * daySeconds);
-        if (atStart != askOffset((day + 1) * daySeconds))
+        const qint64 atStart = askOffset(day * wholeSecondsPerDay);
+        if (atStart != askOffset((day + 1) * wholeSecondsPerDay))
             return askOffset(moment);
         known = {day, atStart};
         return atStart;
@@ -203,8 +202,8 @@ std::optional<double> clockTimeOnDayOf(double moment, qint64 hour, qint64 minute
     constexpr qint64 most = std::numeric_limits<qint32>::max(); // more than there are in all dates
     if (std::clamp(hour, -most, most) != hour || std::clamp(minute, -most, most) != minute)
         return std::nullopt;
-    const qint64 midnight = floorDivided(wallTime(moment), daySeconds) * daySeconds;
-    const qint64 wall = midnight + hour * 3600 + minute * 60;
+    const qint64 midnight = floorDivided(wallTime(moment), wholeSecondsPerDay) * wholeSecondsPerDay;
+    const qint64 wall = midnight + hour * wholeSecondsPerHour + minute * wholeSecondsPerMinute;
     return hasDate(static_cast<double>(wall)) ? std::optional(lastMoment(wall)) : std::nullopt;
 }
 

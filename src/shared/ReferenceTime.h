@@ -11,7 +11,14 @@ namespace tessarine {
 // in the system's own databases. Unix time is this many seconds ahead.
 inline constexpr double unixSecondsAtReferenceDate = 978307200.0;
 
+inline constexpr double secondsPerMinute = 60.0;
+inline constexpr double secondsPerHour = 3600.0;
 inline constexpr double secondsPerDay = 86400.0;
+
+// The same for counts of whole seconds.
+inline constexpr qint64 wholeSecondsPerMinute = 60;
+inline constexpr qint64 wholeSecondsPerHour = 3600;
+inline constexpr qint64 wholeSecondsPerDay = 86400;
 
 // The first and the last second that have a date: 0001-01-01 00:00:00 and 9999-12-31 23:59:59. With
 // a year of four digits dates have their order as texts too.

@@ -19,6 +19,11 @@ qsizetype characterCount(QStringView text);
 // Where the first so many characters end; the text's size when it has no more of them.
 qsizetype endOfCharacters(QStringView text, qsizetype count);
 
+// The first so many characters, or all of the text when it has no more of them.
+inline QStringView firstCharacters(QStringView text, qsizetype count) {
+    return text.first(endOfCharacters(text, count));
+}
+
 // The text without blanks and tabs of any script at its ends. Line breaks stay.
 QStringView trimmedBlanks(QStringView text);
 

@@ -20,7 +20,7 @@ std::size_t hashOf(const ProbedTexts& texts) {
 
 } // namespace
 
-void DuplicateIndex::hold(const std::vector<Row>& rows, double since, double until,
+void DuplicateIndex::fill(const std::vector<Row>& rows, double since, double until,
                           int dataVersion) {
     state_ = State::known;
     since_ = since;
@@ -32,18 +32,18 @@ void DuplicateIndex::hold(const std::vector<Row>& rows, double since, double unt
         rowStored(row);
 }
 
-void DuplicateIndex::forget() {
+void DuplicateIndex::clear() {
     *this = DuplicateIndex();
 }
 
-void DuplicateIndex::giveUp(int dataVersion) {
-    forget();
-    state_ = State::givenUp;
+void DuplicateIndex::markUnusable(int dataVersion) {
+    clear();
+    state_ = State::unusable;
     dataVersion_ = dataVersion;
 }
 
-bool DuplicateIndex::hasGivenUp(int dataVersion) const {
-    return state_ == State::givenUp && dataVersion_ == dataVersion;
+bool DuplicateIndex::isUnusable(int dataVersion) const {
+    return state_ == State::unusable && dataVersion_ == dataVersion;
 }
 
 void DuplicateIndex::rowStored(const Row& row) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/ReferenceTime.h"
+
 #include <QByteArray>
 
 #include <unordered_map>
@@ -14,14 +16,14 @@ struct ProbedTexts {
     QByteArray body;
 };
 
-// Which rows of the last minutes may hold which texts: so that the probe for a duplicate need not
-// read every row that an application ever sent. It names candidates; whether they are still there,
-// and equal, is for SQLite to say. Told of each row that its own connection stores, and trusted
-// only as long as SQLite's data version says that no other connection has written. A value: no SQL,
-// no threads.
+// A cache: which rows of the last minutes may hold which texts, so that the search for a duplicate
+// need not read every row that an application ever sent. It names candidates; the caller asks
+// SQLite whether they still exist and are equal. Updated with each row that its own connection
+// stores, and valid only as long as SQLite's data version shows that no other connection has
+// written. A value: no SQL, no threads.
 class DuplicateIndex {
 public:
-    // How far apart two equal notifications are two: strictly under this many seconds is one.
+    // Two equal notifications are duplicates when they lie less than this many seconds apart.
     static constexpr double reach = 300;
 
     struct Row {
@@ -30,26 +32,27 @@ public:
         double timestamp;
     };
 
-    // How far around a timestamp the rows are read: back, where the duplicates of what comes next
-    // lie, and on, so that an hour passes before they have to be read anew.
+    // The range of rows that is read around a timestamp: back, where the duplicates of the next
+    // captures lie, and on, so that an hour passes before it has to be read again.
     static constexpr double secondsBack = 600;
-    static constexpr double secondsOn = 3600;
+    static constexpr double secondsOn = secondsPerHour;
 
-    // Takes all rows with a timestamp between these two.
-    void hold(const std::vector<Row>& rows, double since, double until, int dataVersion);
-    void forget();
+    // Replaces the content by all rows with a timestamp between these two.
+    void fill(const std::vector<Row>& rows, double since, double until, int dataVersion);
+    void clear();
 
-    // Nothing can be told as long as the data version is this one.
-    void giveUp(int dataVersion);
-    bool hasGivenUp(int dataVersion) const;
+    // For a hoard whose rows can't be indexed: it covers nothing as long as the data version is
+    // this one.
+    void markUnusable(int dataVersion);
+    bool isUnusable(int dataVersion) const;
 
-    // What the connection stored.
+    // The connection has stored this row.
     void rowStored(const Row& row);
 
     bool isKnown() const { return state_ == State::known; }
 
-    // Whether every row that could be a duplicate of one with this timestamp is in here, as of this
-    // data version. False as well once it has grown so much that reading anew is worth it.
+    // Whether it has every row that could be a duplicate of one with this timestamp, as of this
+    // data version. False as well once it has grown so much that reading again is worth it.
     bool covers(double timestamp, int dataVersion) const;
 
     // The rows within reach that may have these texts.
@@ -61,7 +64,7 @@ private:
         double timestamp;
     };
 
-    enum class State { unknown, known, givenUp };
+    enum class State { unknown, known, unusable };
 
     State state_ = State::unknown;
     double since_ = 0;

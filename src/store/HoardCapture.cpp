@@ -1,5 +1,6 @@
-// The two ways by which captures get into the hoard.
+// The two operations that store captures.
 
+#include "platform/DefaultsKeys.h"
 #include "shared/Narrowing.h"
 #include "shared/Text.h"
 #include "store/HoardStore.h"
@@ -24,7 +25,7 @@ constexpr const char* insertWithoutKey =
     R"(INSERT INTO notifications (system_note_id, bundle_id, app_name, title, body, timestamp)
 VALUES (NULL, ?, ?, ?, ?, ?);)";
 
-// The probe above, of one row.
+// The same comparison for one row.
 constexpr const char* compareWithRow = R"(SELECT 1 FROM notifications
 WHERE id = ? AND bundle_id = ? AND title = ? AND body = ?
 AND ABS(timestamp - ?) < 300;)";
@@ -33,15 +34,13 @@ constexpr const char* selectAround =
     R"(SELECT id, bundle_id, title, body, timestamp FROM notifications
 WHERE timestamp > ? AND timestamp < ?;)";
 
-// Texts and blobs come after all numbers.
+// In SQLite's order texts and blobs come after all numbers.
 constexpr const char* selectTimestampThatIsNoNumber =
     "SELECT 1 FROM notifications WHERE timestamp >= '' LIMIT 1;";
 
-// How long a capture waits for another program's lock on the hoard. While that program goes on
-// holding it, the next ones wait but a moment: they come on the main thread.
+// Once a capture has waited for another program's lock in vain, the next ones wait only this long
+// for it: they come on the main thread.
 constexpr int lockTimeoutWhileHeld = 50; // milliseconds
-
-const QString excludedBundleIdsKey = QStringLiteral("excludedBundleIds");
 
 // As far as a text is stored: up to its first NUL.
 QByteArray storedPart(const QString& text) {
@@ -111,7 +110,7 @@ Insertion HoardStore::tryInsertDeduplicated(const CapturedNotification& notifica
 
 // Read from the defaults on the caller's thread: the preferences object belongs to the main one.
 bool HoardStore::isExcluded(const QString& bundleId) const {
-    return defaults_.textList(excludedBundleIdsKey).contains(bundleId);
+    return defaults_.textList(defaultsKeys::excludedBundleIds).contains(bundleId);
 }
 
 Insertion HoardStore::runInsertion(SqliteStatement& statement) {
@@ -122,38 +121,38 @@ Insertion HoardStore::runInsertion(SqliteStatement& statement) {
     isLockHeld_ = result == Insertion::locked;
     db().setLockTimeout(lockTimeout);
     if (!changes)
-        forgetKept();
+        clearCaches();
     else if (*changes > 0 && (recent_.isKnown() || duplicates_.isKnown()))
-        keepStoredRow(*changes);
+        cacheStoredRow(*changes);
     return result;
 }
 
-// Of the call before this one.
+// Why the last statement failed.
 Insertion HoardStore::failure() const {
     return db().wasLocked() ? Insertion::locked : Insertion::failed;
 }
 
-// More than one change is a trigger's work, of which nothing is known here.
-void HoardStore::keepStoredRow(int changes) {
+// More than one change means that a trigger has written too: then the caches are of no use.
+void HoardStore::cacheStoredRow(int changes) {
     std::optional<HoardRow> row = changes == 1 ? readRow(db().lastInsertRowId()) : std::nullopt;
     if (!row)
-        return forgetKept();
+        return clearCaches();
     if (row->timestamp)
         duplicates_.rowStored({row->rowId, probedTexts(row->notification), *row->timestamp});
     recent_.rowStored(std::move(*row));
 }
 
-void HoardStore::forgetKept() {
-    recent_.forget();
-    duplicates_.forget();
+void HoardStore::clearCaches() {
+    recent_.clear();
+    duplicates_.clear();
 }
 
-// A probe that fails answers no: it must never lose a notification. The rows that could be
-// duplicates are known as a rule. The statement reads every row that the application ever sent.
+// A search that fails finds no duplicate: it must never lose a notification. The index usually
+// covers the rows that matter; the statement reads every row that the application ever sent.
 bool HoardStore::isDuplicate(const ProbedTexts& texts, double timestamp) {
     const int version = db().dataVersion();
-    if (!duplicates_.covers(timestamp, version) && !duplicates_.hasGivenUp(version))
-        readDuplicates(timestamp, version);
+    if (!duplicates_.covers(timestamp, version) && !duplicates_.isUnusable(version))
+        fillDuplicateIndex(timestamp, version);
     if (!duplicates_.covers(timestamp, version))
         return probeWholeHoard(texts, timestamp);
     const std::vector<qint64> candidates = duplicates_.candidates(texts, timestamp);
@@ -180,9 +179,9 @@ bool HoardStore::isDuplicateOfRow(qint64 rowId, const ProbedTexts& texts, double
     return comparison.stepsToRow();
 }
 
-// What is not text is never equal to one, and a timestamp that is no number may be taken for one
-// by the probe's arithmetic: then nothing is known.
-void HoardStore::readDuplicates(double timestamp, int version) {
+// Values that are no text never equal one. But the statement's arithmetic takes a timestamp that is
+// no number for one, so that a hoard with such a row can't be indexed.
+void HoardStore::fillDuplicateIndex(double timestamp, int version) {
     if (version < 0 || !std::isfinite(timestamp))
         return;
     const double since = timestamp - DuplicateIndex::secondsBack;
@@ -192,7 +191,7 @@ void HoardStore::readDuplicates(double timestamp, int version) {
     if (!rows.isReady() || !otherTimestamp.isReady())
         return;
     if (otherTimestamp.stepsToRow())
-        return duplicates_.giveUp(version);
+        return duplicates_.markUnusable(version);
     rows.bind(1, since);
     rows.bind(2, until);
     std::vector<DuplicateIndex::Row> found;
@@ -204,7 +203,7 @@ void HoardStore::readDuplicates(double timestamp, int version) {
                  {storedPart(rows.text(1)), storedPart(rows.text(2)), storedPart(rows.text(3))},
                  rows.real(4)});
     }
-    duplicates_.hold(found, since, until, version);
+    duplicates_.fill(found, since, until, version);
 }
 
 } // namespace tessarine

@@ -1,4 +1,4 @@
-// What takes rows out of the hoard. Pinned rows are no exception anywhere.
+// The operations that delete rows. None of them spares pinned rows.
 
 #include "shared/DayKey.h"
 #include "shared/Narrowing.h"
@@ -18,8 +18,8 @@ constexpr const char* deleteSpan =
 constexpr const char* deleteEverything = "DELETE FROM notifications";
 constexpr const char* deleteBefore = "DELETE FROM notifications WHERE timestamp < ?";
 
-// Takes more than its comments say, and that is meant: any four digits in a row, be they a year or
-// a price, and the short keywords also within longer words. LOWER knows ASCII alone.
+// Deliberately takes more than its comments say: any four digits in a row, also of a year or a
+// price, and the short keywords also within longer words. LOWER converts ASCII only.
 constexpr const char* deleteCodesBefore = R"(DELETE FROM notifications
 WHERE timestamp < ?
 AND (
@@ -63,8 +63,6 @@ AND (
     OR LOWER(body)  LIKE '%einmalig%'
 );)";
 
-constexpr double secondsPerHour = 3600.0;
-
 } // namespace
 
 void HoardStore::deleteNotification(qint64 id) {
@@ -76,7 +74,7 @@ void HoardStore::deleteNotification(qint64 id) {
         if (changesBy([&] { return statement.stepsToDone(); }) == 1)
             recent_.rowDeleted(id);
         else
-            recent_.forget();
+            recent_.clear();
     });
 }
 
@@ -87,11 +85,11 @@ void HoardStore::deleteApp(const QString& appName) {
             return;
         statement.bind(1, storedUtf8(appName));
         statement.stepsToDone();
-        keepExistingRows();
+        removeDeletedFromCache();
     });
 }
 
-// The span is 24 hours also where the clock is changed, and the day has 23 or 25.
+// Always 24 hours, also on the days of a clock change, which have 23 or 25.
 void HoardStore::deleteDay(const QString& key) {
     const std::optional<double> start = startOfDay(key);
     if (!start)
@@ -103,14 +101,14 @@ void HoardStore::deleteDay(const QString& key) {
         statement.bind(1, *start);
         statement.bind(2, *start + secondsPerDay);
         statement.stepsToDone();
-        keepExistingRows();
+        removeDeletedFromCache();
     });
 }
 
 void HoardStore::deleteAll() {
     onQueue([&] {
         db().execute(deleteEverything);
-        forgetKept();
+        clearCaches();
     });
 }
 
@@ -128,7 +126,7 @@ qint64 HoardStore::deleteOtpOlderThan(qint64 hours) {
     });
 }
 
-// A step that fails goes unnoticed: the count is then that of the change before it.
+// A step that fails is not detected: the count is then that of the change before it.
 qint64 HoardStore::deletedBefore(double edge, const char* deletion) {
     SqliteStatement statement(db(), deletion);
     if (!statement.isReady())
@@ -136,7 +134,7 @@ qint64 HoardStore::deletedBefore(double edge, const char* deletion) {
     statement.bind(1, edge);
     statement.stepsToDone();
     const int count = db().changes();
-    keepExistingRows();
+    removeDeletedFromCache();
     return count;
 }
 

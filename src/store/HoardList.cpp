@@ -1,4 +1,4 @@
-// The list of the hoard's rows, and how its beginning is kept.
+// The list of the hoard's rows, and the cache of its beginning.
 
 #include "shared/Narrowing.h"
 #include "store/HoardStore.h"
@@ -27,8 +27,8 @@ constexpr const char* selectExistence = "SELECT 1 FROM notifications WHERE id = 
 const QByteArray togglePinWhereId =
     "UPDATE notifications SET pinned = CASE WHEN pinned=1 THEN 0 ELSE 1 END WHERE id = ";
 
-// Rows that are read beyond those that were asked for, so that deletions and a list that grows a
-// little need no sorting of the whole table either.
+// Rows that are read beyond those that were asked for, so that neither deletions nor a list that
+// grows a little sort the whole table again.
 constexpr int rowsInReserve = 500;
 
 int withReserve(int limit) {
@@ -54,7 +54,7 @@ HoardRow rowAt(const SqliteStatement& statement) {
     return row;
 }
 
-// Whether the row's place follows from its numbers. How it orders other values, SQLite knows alone.
+// Whether the row's place follows from its numbers. Only SQLite knows how it orders other values.
 bool hasOrderedValues(const SqliteStatement& statement) {
     const SqliteType timestamp = statement.type(6);
     return (timestamp == SqliteType::real || timestamp == SqliteType::null) &&
@@ -65,7 +65,7 @@ bool hasOrderedValues(const SqliteStatement& statement) {
 
 NotificationList HoardStore::fetchRecent(qint64 limit) {
     return onQueue([&] {
-        return knowRecent(limit) ? recent_.answer(static_cast<int>(limit)) : readRecent(limit);
+        return cacheRecent(limit) ? recent_.first(static_cast<int>(limit)) : readRecent(limit);
     });
 }
 
@@ -82,21 +82,21 @@ ReadingAhead HoardStore::readAhead(qint64 limit) {
     return onQueue([&] {
         Interruption interruption{queue_};
         db().setInterruptTest(interruptIfWaitedFor, &interruption);
-        const bool isKnown = knowRecent(limit);
+        const bool isCached = cacheRecent(limit);
         db().setInterruptTest(nullptr, nullptr);
-        if (isKnown)
+        if (isCached)
             return ReadingAhead::done;
         return interruption.happened ? ReadingAhead::gaveWay : ReadingAhead::impossible;
     });
 }
 
-// Keeps the list up to this limit, if it isn't known. False when it can't be kept: the hoard can't
-// be read to the end, or holds values that nobody but SQLite can put into order.
-bool HoardStore::knowRecent(qint64 limit) {
+// Fills the cache up to this limit, if it doesn't cover it. False when that is impossible: the
+// hoard can't be read to the end, or holds values that only SQLite can put into order.
+bool HoardStore::cacheRecent(qint64 limit) {
     const int version = db().dataVersion();
-    if (std::in_range<int>(limit) && recent_.canAnswer(static_cast<int>(limit), version))
+    if (std::in_range<int>(limit) && recent_.covers(static_cast<int>(limit), version))
         return true;
-    recent_.forget();
+    recent_.clear();
     SqliteStatement statement(db(), selectRecent);
     if (!statement.isReady() || version < 0)
         return false;
@@ -110,11 +110,11 @@ bool HoardStore::knowRecent(qint64 limit) {
     }
     if (!statement.isAtEnd())
         return false;
-    recent_.hold(std::move(rows), bound, version);
+    recent_.fill(std::move(rows), bound, version);
     return true;
 }
 
-// The statement's own answer.
+// Without the cache.
 NotificationList HoardStore::readRecent(qint64 limit) const {
     NotificationList rows;
     SqliteStatement statement(db(), selectRecent);
@@ -138,7 +138,7 @@ std::optional<HoardRow> HoardStore::readRow(qint64 rowId) const {
     return rowAt(statement);
 }
 
-// The id is a number and stands in the text.
+// The id is a number, so it may be part of the statement's text.
 void HoardStore::togglePin(qint64 id) {
     const QByteArray statement = togglePinWhereId + QByteArray::number(id) + ';';
     onQueue([&] {
@@ -149,16 +149,16 @@ void HoardStore::togglePin(qint64 id) {
         if (row)
             recent_.rowChanged(std::move(*row));
         else
-            forgetKept();
+            clearCaches();
     });
 }
 
-// After a deletion of many rows. One by one they are found faster than the table is sorted.
-void HoardStore::keepExistingRows() {
+// After a deletion of many rows. Looking each one up is faster than sorting the table.
+void HoardStore::removeDeletedFromCache() {
     SqliteStatement existence(db(), selectExistence);
     if (!existence.isReady())
-        return recent_.forget();
-    recent_.keepRows([&](qint64 rowId) {
+        return recent_.clear();
+    recent_.removeUnless([&](qint64 rowId) {
         existence.reset();
         existence.bindInt64(1, rowId);
         return existence.stepsToRow();

@@ -1,4 +1,4 @@
-// The hoard as a file: what it holds in all, whether it is sound, and its log.
+// Operations on the hoard as a whole: statistics, integrity check, checkpoint.
 
 #include "store/HoardStore.h"
 #include "store/Sqlite.h"

@@ -1,5 +1,6 @@
 #include "store/HoardStore.h"
 
+#include "platform/DefaultsKeys.h"
 #include "store/Sqlite.h"
 
 #include <QDir>
@@ -37,12 +38,7 @@ ORDER BY app_name COLLATE NOCASE ASC;)";
 constexpr const char* selectMaxNoteId = "SELECT MAX(system_note_id) FROM notifications";
 constexpr const char* selectTotalCount = "SELECT COUNT(*) FROM notifications";
 
-const QString recIdKey = QStringLiteral("lastSeenUsernotedRecId");
-const QString recIdsKey = QStringLiteral("lastSeenUsernotedRecIds");
-const QString timestampKey = QStringLiteral("lastSeenUsernotedTimestamp");
-const QString noteIdKey = QStringLiteral("lastSeenSystemNoteId");
-
-// The path, whose folder is there now. Where making it fails, opening fails too.
+// The path, after making its folder. Where that fails, opening the file fails too.
 QString madeFolderOf(const QString& path) {
     QDir().mkpath(QFileInfo(path).path());
     return path;
@@ -93,7 +89,7 @@ void HoardStore::createSchema() {
         db().execute(addPinned);
 }
 
-// The column's presence is the schema's version: hoards from before pinning lack it.
+// The schema has no version number: hoards made before rows could be pinned lack the column.
 bool HoardStore::hasPinnedColumn() const {
     SqliteStatement columns(db(), tableInfo);
     while (columns.stepsToRow()) {
@@ -137,37 +133,37 @@ void HoardStore::raiseCursor(const QString& key, qint64 value) {
 }
 
 qint64 HoardStore::lastSeenUsernotedRecId() {
-    return cursor(recIdKey);
+    return cursor(defaultsKeys::lastSeenUsernotedRecId);
 }
 
 void HoardStore::saveLastSeenUsernotedRecId(qint64 value) {
-    raiseCursor(recIdKey, value);
+    raiseCursor(defaultsKeys::lastSeenUsernotedRecId, value);
 }
 
 double HoardStore::lastSeenUsernotedTimestamp() const {
-    return defaults_.real(timestampKey);
+    return defaults_.real(defaultsKeys::lastSeenUsernotedTimestamp);
 }
 
 std::set<qint64> HoardStore::lastSeenUsernotedRecIds() const {
-    const std::vector<qint64> stored = defaults_.integerList(recIdsKey);
+    const std::vector<qint64> stored = defaults_.integerList(defaultsKeys::lastSeenUsernotedRecIds);
     return {stored.begin(), stored.end()};
 }
 
-// The ids go first: a crash in between leaves the old time with ids that the next reading takes
-// again and finds stored.
+// The ids are written first: after a crash in between, the next reading goes back to the old time
+// and finds the rows with these ids stored already.
 void HoardStore::saveLastSeenUsernotedState(const std::set<qint64>& recIds, double timestamp) {
     if (lastSeenUsernotedTimestamp() > timestamp)
         return;
-    defaults_.setIntegerList(recIdsKey, {recIds.begin(), recIds.end()});
-    defaults_.setReal(timestampKey, timestamp);
+    defaults_.setIntegerList(defaultsKeys::lastSeenUsernotedRecIds, {recIds.begin(), recIds.end()});
+    defaults_.setReal(defaultsKeys::lastSeenUsernotedTimestamp, timestamp);
 }
 
 qint64 HoardStore::lastSeenSystemNoteId() {
-    return cursor(noteIdKey);
+    return cursor(defaultsKeys::lastSeenSystemNoteId);
 }
 
 void HoardStore::saveLastSeenSystemNoteId(qint64 value) {
-    raiseCursor(noteIdKey, value);
+    raiseCursor(defaultsKeys::lastSeenSystemNoteId, value);
 }
 
 } // namespace tessarine

@@ -28,14 +28,14 @@ struct DistinctApp {
 
 using DistinctAppList = std::vector<DistinctApp>;
 
-// What a reading ahead came to.
+// The result of readAhead.
 enum class ReadingAhead {
     done,
-    gaveWay,    // to be tried again some time
-    impossible, // the hoard can't be read, or its order can't be kept
+    gaveWay,    // interrupted for another thread, to be tried again later
+    impossible, // the hoard can't be read, or its rows can't be cached
 };
 
-// What became of a notification that was to be stored.
+// The result of storing a notification.
 enum class Insertion {
     stored,  // a row was added
     refused, // its application is excluded, or the hoard has it already
@@ -59,7 +59,7 @@ public:
     HoardStore& operator=(const HoardStore&) = delete;
     ~HoardStore(); // closes the connection
 
-    // Opens the hoard now, for whom no operation will do.
+    // Opens the hoard now rather than at the first operation.
     void open();
 
     const QString& path() const { return dbPath_; }
@@ -73,18 +73,18 @@ public:
     // and body lies less than 300 seconds from it. True when a row was added.
     bool insertDeduplicated(const CapturedNotification& notification);
 
-    // The same two, for callers that keep what could not be stored. A lock of another program's is
-    // waited for, at most lockTimeout; once one was not given up in that time, the next captures
-    // wait but a moment until one of them is stored.
+    // The same two, for callers that keep what could not be stored. They wait for another program's
+    // lock, at most lockTimeout; once that was not enough, the next captures wait only a moment
+    // until one of them is stored.
     Insertion tryInsert(const CapturedNotification& notification);
     Insertion tryInsertDeduplicated(const CapturedNotification& notification);
 
-    // The first rows: pinned ones lead, then the newest. The whole table is sorted only where they
-    // aren't known from before. A limit outside the signed 32-bit range ends the process.
+    // The first rows: pinned ones, then the newest. Sorts the whole table only where they aren't
+    // cached. A limit outside the signed 32-bit range ends the process.
     NotificationList fetchRecent(qint64 limit);
 
-    // Sees to it that fetchRecent with this limit has no table to sort. For workers: in a large
-    // hoard it takes seconds. It gives way as soon as another thread waits for the hoard.
+    // Fills the cache, so that fetchRecent with this limit need not sort the table. For workers: in
+    // a large hoard it takes seconds. Stops as soon as another thread waits for the hoard.
     ReadingAhead readAhead(qint64 limit);
 
     qint64 totalCount();
@@ -97,27 +97,27 @@ public:
     // Pins the row, or takes its pin away. An id that no row has changes nothing.
     void togglePin(qint64 id);
 
-    // Deletions take pinned rows like all others. Of failures a caller hears nothing. An id
-    // outside the signed 32-bit range ends the process.
+    // Deletions don't spare pinned rows, and don't report failures. An id outside the signed 32-bit
+    // range ends the process.
     void deleteNotification(qint64 id);
     void deleteApp(const QString& appName); // all of the shown name, whatever their bundle ids
     void deleteDay(const QString& key);     // 24 hours from the day's start; the key as of dayKey
     void deleteAll();                       // ids go on from the highest there ever was
 
-    // The rows older than so many days. How many went; 0 when the hoard can't be used.
+    // Deletes the rows older than so many days. Gives their number; 0 when the hoard can't be used.
     qint64 deleteOlderThan(qint64 days);
 
-    // The rows older than so many hours that may hold a one-time code: four digits in a row, or a
-    // word that such messages use. Below one hour there is nothing to do.
+    // Deletes the rows older than so many hours that may hold a one-time code: four digits in a
+    // row, or a word that such messages use. Below one hour it does nothing.
     qint64 deleteOtpOlderThan(qint64 hours);
 
-    // Takes the log over into the main file, as far as readers outside this process let it.
+    // Moves the write-ahead log into the main file, as far as readers in other processes allow.
     void checkpoint();
 
-    // "ok", or what is wrong, a line for each finding. Reads the whole file.
+    // "ok", or one line for each problem found. Reads the whole file.
     QString integrityCheck();
 
-    // Capture cursors. They lie in the user defaults and never move back.
+    // Capture cursors. They are stored in the user defaults and never move back.
     qint64 lastSeenUsernotedRecId(); // where none is stored, the highest key in the hoard
     void saveLastSeenUsernotedRecId(qint64 value);
     double lastSeenUsernotedTimestamp() const;
@@ -158,16 +158,16 @@ private:
     }
     Insertion runInsertion(SqliteStatement& statement);
     Insertion failure() const;
-    void keepStoredRow(int changes);
-    void forgetKept();
+    void cacheStoredRow(int changes);
+    void clearCaches();
     bool isDuplicate(const ProbedTexts& texts, double timestamp);
     bool probeWholeHoard(const ProbedTexts& texts, double timestamp) const;
     bool isDuplicateOfRow(qint64 rowId, const ProbedTexts& texts, double timestamp) const;
-    void readDuplicates(double timestamp, int version);
-    bool knowRecent(qint64 limit);
+    void fillDuplicateIndex(double timestamp, int version);
+    bool cacheRecent(qint64 limit);
     NotificationList readRecent(qint64 limit) const;
     std::optional<HoardRow> readRow(qint64 rowId) const;
-    void keepExistingRows();
+    void removeDeletedFromCache();
     qint64 deletedBefore(double edge, const char* deletion);
 
     const QString dbPath_;
@@ -175,7 +175,7 @@ private:
     std::optional<SqliteConnection> connection_; // guarded by the queue; none: not opened yet
     RecentRows recent_;                          // guarded by the queue
     DuplicateIndex duplicates_;                  // guarded by the queue
-    bool isLockHeld_ = false; // by another program when a capture was last to be stored
+    bool isLockHeld_ = false; // by another program, at the last attempt to store a capture
     const FileSystem& fileSystem_;
     UserDefaults& defaults_;
     const Scheduler& clock_;

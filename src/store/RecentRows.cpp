@@ -20,7 +20,7 @@ bool precedes(const HoardRow& left, const HoardRow& right) {
 
 } // namespace
 
-void RecentRows::hold(std::vector<HoardRow> rows, int limit, int dataVersion) {
+void RecentRows::fill(std::vector<HoardRow> rows, int limit, int dataVersion) {
     isKnown_ = true;
     dataVersion_ = dataVersion;
     rows_ = std::move(rows);
@@ -29,19 +29,19 @@ void RecentRows::hold(std::vector<HoardRow> rows, int limit, int dataVersion) {
     isWhole_ = rows_.size() < capacity_;
 }
 
-void RecentRows::forget() {
+void RecentRows::clear() {
     *this = RecentRows();
 }
 
-bool RecentRows::holdsAll(int limit) const {
+bool RecentRows::hasRows(int limit) const {
     return isWhole_ || (limit >= 0 && static_cast<std::size_t>(limit) <= rows_.size());
 }
 
-bool RecentRows::canAnswer(int limit, int dataVersion) const {
-    return isKnown_ && dataVersion_ == dataVersion && holdsAll(limit);
+bool RecentRows::covers(int limit, int dataVersion) const {
+    return isKnown_ && dataVersion_ == dataVersion && hasRows(limit);
 }
 
-NotificationList RecentRows::answer(int limit) const {
+NotificationList RecentRows::first(int limit) const {
     const std::size_t count =
         limit < 0 ? rows_.size() : std::min(rows_.size(), static_cast<std::size_t>(limit));
     NotificationList list;

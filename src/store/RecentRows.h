@@ -16,43 +16,42 @@ struct HoardRow {
 };
 
 // The beginning of the list, in the order of fetchRecent's statement: pinned rows, then the newest,
-// equals by row id. Kept so that a capture need not sort the whole table anew. It is told of each
-// write of its own connection, and is trusted only as long as SQLite's data version says that no
+// equals by row id. A cache, so that a capture need not sort the whole table again. Updated with
+// each write of its own connection, and valid only as long as SQLite's data version shows that no
 // other connection has written. A value: no SQL, no threads.
 class RecentRows {
 public:
-    // Takes what the statement gave with this limit, a negative one being none. The rows' order is
-    // the statement's.
-    void hold(std::vector<HoardRow> rows, int limit, int dataVersion);
-    void forget();
+    // Replaces the content by the statement's result for this limit; a negative one is no limit.
+    // The rows come in the statement's order.
+    void fill(std::vector<HoardRow> rows, int limit, int dataVersion);
+    void clear();
 
-    // Whether the rows up to this limit are known, as of this data version.
-    bool canAnswer(int limit, int dataVersion) const;
+    // Whether it has the rows up to this limit, as of this data version.
+    bool covers(int limit, int dataVersion) const;
 
-    // The first rows, each with a fresh id. Only where canAnswer.
-    NotificationList answer(int limit) const;
+    // The first rows, each with a fresh id. Only where covers.
+    NotificationList first(int limit) const;
 
-    // What the connection wrote.
+    // The connection has written this row.
     void rowStored(HoardRow row);
     void rowChanged(HoardRow row); // its pin
     void rowDeleted(qint64 rowId);
 
-    // For deletions of many rows: keeps those of which the predicate says that they are still
-    // there.
+    // After deletions of many rows: removes those that no longer exist.
     template <typename Predicate>
-    void keepRows(const Predicate& stillExists) {
+    void removeUnless(const Predicate& stillExists) {
         std::erase_if(rows_, [&](const HoardRow& row) { return !stillExists(row.rowId); });
     }
 
     bool isKnown() const { return isKnown_; }
 
 private:
-    bool holdsAll(int limit) const;
+    bool hasRows(int limit) const;
 
     bool isKnown_ = false;
     int dataVersion_ = 0;
     std::vector<HoardRow> rows_;
-    std::size_t capacity_ = 0; // rows beyond it are let go
+    std::size_t capacity_ = 0; // rows beyond it are dropped
     bool isWhole_ = false;     // there are no rows in the hoard but these
 };
 

@@ -51,7 +51,7 @@ int SqliteConnection::totalChanges() const {
     return sqlite3_total_changes(handle_);
 }
 
-// The file control of a like name is not enough: it stays as it was until something is read.
+// The file control of a similar name does not serve: it keeps its value until something is read.
 int SqliteConnection::dataVersion() const {
     SqliteStatement statement(*this, "PRAGMA data_version;");
     return statement.stepsToRow() ? statement.int32(0) : -1;

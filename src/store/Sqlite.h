@@ -14,8 +14,8 @@ class SqliteConnection {
 public:
     enum class Mode {
         ownFile, // made where it is missing; SQLite's full mutex
-        // A database of another program's, for one reading. The flags ask for writing although
-        // nothing is written: a log that needs recovery can't be read without. No busy time-out:
+        // Another program's database, for one reading. Opened for writing although nothing is
+        // written: a write-ahead log that needs recovery can't be read otherwise. No busy timeout:
         // what is locked is read the next time.
         foreignFile,
     };
@@ -30,18 +30,18 @@ public:
     // Runs a script to its end. False on any error.
     bool execute(const char* script) const;
 
-    // How long a statement waits for a lock of another connection's before it fails.
+    // How long a statement waits for another connection's lock before it fails.
     void setLockTimeout(int milliseconds) const;
 
-    // Whether the call before this one failed for a lock of another connection's.
+    // Whether the last call failed because of another connection's lock.
     bool wasLocked() const;
 
     qint64 lastInsertRowId() const;
     int changes() const;      // rows that the last statement changed
     int totalChanges() const; // rows changed so far, by triggers too
 
-    // SQLite's number for the content as of now. It moves when another connection has committed,
-    // and not for what this one writes. -1 when it can't be read.
+    // SQLite's data version. It changes when another connection has committed, and not when this
+    // one writes. -1 when it can't be read.
     int dataVersion() const;
 
     // Calls the test often while statements run, and ends them with an error once it gives

@@ -35,5 +35,18 @@ TEST(DerivedBundleId, IsEmptyForTheEmptyName) {
     EXPECT_EQ(derivedBundleId(QString()), QString());
 }
 
+TEST(UnresolvedBundleId, NamesTheNumberOfTheDatabase) {
+    EXPECT_EQ(unresolvedBundleId(7), u"app_id_7"_qs);
+    EXPECT_EQ(unresolvedBundleId(-1), u"app_id_-1"_qs);
+    EXPECT_EQ(unresolvedBundleId(9223372036854775807), u"app_id_9223372036854775807"_qs);
+}
+
+TEST(UnresolvedBundleId, IsToldFromOtherIds) {
+    EXPECT_TRUE(isUnresolvedBundleId(u"app_id_7"_qs));
+    EXPECT_FALSE(isUnresolvedBundleId(u"com.example.app_id_7"_qs));
+    EXPECT_FALSE(isUnresolvedBundleId(u"App_id_7"_qs));
+    EXPECT_FALSE(isUnresolvedBundleId(QString()));
+}
+
 } // namespace
 } // namespace tessarine

@@ -114,6 +114,14 @@ TEST(EndOfCharacters, TakesAMarkBehindPlainLettersAlong) {
     EXPECT_EQ(endOfCharacters(u"ab\r\nf", 3), 4);
 }
 
+TEST(FirstCharacters, AreWhatAReaderSeesFirst) {
+    EXPECT_EQ(firstCharacters(u"abc", 2).toString(), u"ab"_qs);
+    EXPECT_EQ(firstCharacters(u"e\u0301x", 1).toString(), u"e\u0301"_qs);
+    EXPECT_EQ(firstCharacters(u"🇮🇹🇩🇪x", 2).toString(), u"🇮🇹🇩🇪"_qs);
+    EXPECT_EQ(firstCharacters(u"a", 2).toString(), u"a"_qs);
+    EXPECT_EQ(firstCharacters(u"", 2).toString(), QString());
+}
+
 TEST(TrimmedBlanks, LosesBlanksAndTabsAtBothEnds) {
     EXPECT_EQ(trimmedBlanks(u" \t a b\t ").toString(), u"a b"_qs);
 }

@@ -19,7 +19,7 @@ const ProbedTexts mail{"mail", "Title", "Body"};
 
 DuplicateIndex around(double timestamp, const std::vector<DuplicateIndex::Row>& rows = {}) {
     DuplicateIndex index;
-    index.hold(rows, timestamp - 600, timestamp + 3600, version);
+    index.fill(rows, timestamp - 600, timestamp + 3600, version);
     return index;
 }
 
@@ -70,12 +70,12 @@ TEST(DuplicateIndexTest, IsToBeReadAnewOnceItHasGrownALot) {
 
 TEST(DuplicateIndexTest, GivesUpForOneDataVersion) {
     DuplicateIndex index = around(now);
-    index.giveUp(version);
-    EXPECT_TRUE(index.hasGivenUp(version));
-    EXPECT_FALSE(index.hasGivenUp(version + 1));
+    index.markUnusable(version);
+    EXPECT_TRUE(index.isUnusable(version));
+    EXPECT_FALSE(index.isUnusable(version + 1));
     EXPECT_FALSE(index.covers(now, version));
-    index.forget();
-    EXPECT_FALSE(index.hasGivenUp(version));
+    index.clear();
+    EXPECT_FALSE(index.isUnusable(version));
 }
 
 } // namespace

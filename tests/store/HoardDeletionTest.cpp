@@ -1,5 +1,6 @@
 #include "store/HoardFixture.h"
 #include "store/SqlTrace.h"
+#include "store/Sqlite.h"
 #include "support/TimeZoneScope.h"
 
 #include <gmock/gmock.h>
@@ -255,29 +256,25 @@ TEST_F(HoardDeletion, GivesTheCountOfTheChangeBeforeWhenItFails) {
         ASSERT_TRUE(store->insert(capture(key, now - 9 * 86400.0)));
     ASSERT_TRUE(store->insert(capture(3, now - 3 * 86400.0)));
     EXPECT_EQ(store->deleteOlderThan(8), 2);
-    sqlite3* other = nullptr;
-    ASSERT_EQ(sqlite3_open(hoardPath().toUtf8().constData(), &other), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    const SqliteConnection other(hoardPath(), SqliteConnection::Mode::ownFile);
+    ASSERT_TRUE(other.execute("BEGIN IMMEDIATE"));
     EXPECT_EQ(store->deleteOlderThan(1), 2);
     store->deleteOtpOlderThan(1);
     store->deleteDay(u"2025-11-13"_qs); // the day of the third row
-    sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(other);
+    ASSERT_TRUE(other.execute("ROLLBACK"));
     EXPECT_THAT(keys(), ElementsAre(3));
 }
 
 TEST_F(HoardDeletion, IsSilentWhileAnotherProgramWrites) {
     store3();
-    sqlite3* other = nullptr;
-    ASSERT_EQ(sqlite3_open(hoardPath().toUtf8().constData(), &other), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    const SqliteConnection other(hoardPath(), SqliteConnection::Mode::ownFile);
+    ASSERT_TRUE(other.execute("BEGIN IMMEDIATE"));
     store->togglePin(1);
     store->deleteNotification(1);
     store->deleteApp(u"Mail"_qs);
     store->deleteAll();
     EXPECT_THAT(keys(), ElementsAre(1, 2, 3));
-    sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(other);
+    ASSERT_TRUE(other.execute("ROLLBACK"));
     EXPECT_EQ(pinnedOf(1), 0);
 }
 

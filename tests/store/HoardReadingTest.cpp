@@ -1,5 +1,6 @@
 #include "store/HoardFixture.h"
 #include "store/SqlTrace.h"
+#include "store/Sqlite.h"
 
 #include <QFileInfo>
 
@@ -188,14 +189,12 @@ TEST_F(HoardReading, AnswersEmptyWhenTheTableIsGone) {
 }
 
 TEST_F(HoardReading, AnswersFalseWhileAnotherProgramWrites) {
-    sqlite3* other = nullptr;
-    ASSERT_EQ(sqlite3_open(hoardPath().toUtf8().constData(), &other), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    const SqliteConnection other(hoardPath(), SqliteConnection::Mode::ownFile);
+    ASSERT_TRUE(other.execute("BEGIN IMMEDIATE"));
     EXPECT_FALSE(store->insert(capture(1)));
     EXPECT_FALSE(store->insertDeduplicated(capture(0)));
     EXPECT_EQ(store->totalCount(), 0);
-    sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(other);
+    ASSERT_TRUE(other.execute("ROLLBACK"));
     EXPECT_TRUE(store->insert(capture(1)));
 }
 

@@ -24,7 +24,7 @@ class RecentRowsTest : public ::testing::Test {
 protected:
     std::vector<qint64> first(int limit) const {
         std::vector<qint64> ids;
-        for (const CapturedNotification& notification : rows.answer(limit))
+        for (const CapturedNotification& notification : rows.first(limit))
             ids.push_back(notification.dbId);
         return ids;
     }
@@ -33,51 +33,51 @@ protected:
 };
 
 TEST_F(RecentRowsTest, KnowNothingAtFirst) {
-    EXPECT_FALSE(rows.canAnswer(0, version));
+    EXPECT_FALSE(rows.covers(0, version));
     rows.rowStored(row(1, 100));
-    EXPECT_FALSE(rows.canAnswer(0, version));
+    EXPECT_FALSE(rows.covers(0, version));
 }
 
 TEST_F(RecentRowsTest, AnswerUpToTheRowsThatTheyHold) {
-    rows.hold({row(3, 300), row(2, 200)}, 2, version);
-    EXPECT_TRUE(rows.canAnswer(2, version));
-    EXPECT_FALSE(rows.canAnswer(3, version));
-    EXPECT_FALSE(rows.canAnswer(-1, version));
+    rows.fill({row(3, 300), row(2, 200)}, 2, version);
+    EXPECT_TRUE(rows.covers(2, version));
+    EXPECT_FALSE(rows.covers(3, version));
+    EXPECT_FALSE(rows.covers(-1, version));
     EXPECT_THAT(first(1), ElementsAre(3));
     EXPECT_THAT(first(2), ElementsAre(3, 2));
 }
 
 TEST_F(RecentRowsTest, AnswerForAnyLimitWhereTheyAreAll) {
-    rows.hold({row(3, 300), row(2, 200)}, 5, version);
-    EXPECT_TRUE(rows.canAnswer(100, version));
-    EXPECT_TRUE(rows.canAnswer(-1, version));
+    rows.fill({row(3, 300), row(2, 200)}, 5, version);
+    EXPECT_TRUE(rows.covers(100, version));
+    EXPECT_TRUE(rows.covers(-1, version));
     EXPECT_THAT(first(100), ElementsAre(3, 2));
     EXPECT_THAT(first(-1), ElementsAre(3, 2));
 }
 
 TEST_F(RecentRowsTest, AreAllWhereThereWasNoLimit) {
-    rows.hold({row(3, 300), row(2, 200)}, -1, version);
-    EXPECT_TRUE(rows.canAnswer(-1, version));
+    rows.fill({row(3, 300), row(2, 200)}, -1, version);
+    EXPECT_TRUE(rows.covers(-1, version));
 }
 
 TEST_F(RecentRowsTest, AreNotTrustedAfterAnotherConnectionWrote) {
-    rows.hold({row(3, 300)}, 5, version);
-    EXPECT_FALSE(rows.canAnswer(1, version + 1));
+    rows.fill({row(3, 300)}, 5, version);
+    EXPECT_FALSE(rows.covers(1, version + 1));
 }
 
 TEST_F(RecentRowsTest, GiveFreshIdsWithEveryAnswer) {
-    rows.hold({row(3, 300)}, 5, version);
-    EXPECT_NE(rows.answer(1).front().id, rows.answer(1).front().id);
+    rows.fill({row(3, 300)}, 5, version);
+    EXPECT_NE(rows.first(1).front().id, rows.first(1).front().id);
 }
 
 TEST_F(RecentRowsTest, PutAStoredRowBehindItsEquals) {
-    rows.hold({row(4, 300), row(1, 200), row(2, 200), row(3, 100)}, 10, version);
+    rows.fill({row(4, 300), row(1, 200), row(2, 200), row(3, 100)}, 10, version);
     rows.rowStored(row(5, 200));
     EXPECT_THAT(first(10), ElementsAre(4, 1, 2, 5, 3));
 }
 
 TEST_F(RecentRowsTest, PutRowsWithoutATimestampLastAndInfiniteOnesAtTheEnds) {
-    rows.hold({}, 10, version);
+    rows.fill({}, 10, version);
     rows.rowStored(row(1, std::nullopt));
     rows.rowStored(row(2, -infinity));
     rows.rowStored(row(3, 0));
@@ -87,7 +87,7 @@ TEST_F(RecentRowsTest, PutRowsWithoutATimestampLastAndInfiniteOnesAtTheEnds) {
 }
 
 TEST_F(RecentRowsTest, LetAPinnedRowLeadWhateverItsTime) {
-    rows.hold({row(3, 300), row(2, 200), row(1, 100)}, 10, version);
+    rows.fill({row(3, 300), row(2, 200), row(1, 100)}, 10, version);
     rows.rowChanged(row(1, 100, 1));
     EXPECT_THAT(first(10), ElementsAre(1, 3, 2));
     rows.rowChanged(row(1, 100, 0));
@@ -95,55 +95,55 @@ TEST_F(RecentRowsTest, LetAPinnedRowLeadWhateverItsTime) {
 }
 
 TEST_F(RecentRowsTest, LetGoOfTheLastRowWhereOneMoreComes) {
-    rows.hold({row(3, 300), row(2, 200)}, 2, version);
+    rows.fill({row(3, 300), row(2, 200)}, 2, version);
     rows.rowStored(row(4, 400));
     EXPECT_THAT(first(2), ElementsAre(4, 3));
-    EXPECT_FALSE(rows.canAnswer(3, version));
+    EXPECT_FALSE(rows.covers(3, version));
 }
 
 TEST_F(RecentRowsTest, AreNoLongerAllOnceOneWasLetGo) {
-    rows.hold({row(2, 200)}, 2, version);
+    rows.fill({row(2, 200)}, 2, version);
     rows.rowStored(row(3, 300));
-    EXPECT_TRUE(rows.canAnswer(9, version));
+    EXPECT_TRUE(rows.covers(9, version));
     rows.rowStored(row(4, 400));
-    EXPECT_FALSE(rows.canAnswer(9, version));
+    EXPECT_FALSE(rows.covers(9, version));
     EXPECT_THAT(first(2), ElementsAre(4, 3));
 }
 
 TEST_F(RecentRowsTest, DoNotTakeARowThatOthersMayPrecede) {
-    rows.hold({row(3, 300), row(2, 200)}, 2, version);
+    rows.fill({row(3, 300), row(2, 200)}, 2, version);
     rows.rowDeleted(3);
     rows.rowStored(row(4, 100));
     EXPECT_THAT(first(1), ElementsAre(2));
-    EXPECT_FALSE(rows.canAnswer(2, version));
+    EXPECT_FALSE(rows.covers(2, version));
 }
 
 TEST_F(RecentRowsTest, LetGoOfARowThatLosesItsPinAndItsPlace) {
-    rows.hold({row(1, 100, 1), row(3, 300)}, 2, version);
+    rows.fill({row(1, 100, 1), row(3, 300)}, 2, version);
     rows.rowChanged(row(1, 100, 0));
     EXPECT_THAT(first(1), ElementsAre(3));
-    EXPECT_FALSE(rows.canAnswer(2, version));
+    EXPECT_FALSE(rows.covers(2, version));
 }
 
 TEST_F(RecentRowsTest, AnswerForFewerAfterADeletion) {
-    rows.hold({row(3, 300), row(2, 200), row(1, 100)}, 3, version);
+    rows.fill({row(3, 300), row(2, 200), row(1, 100)}, 3, version);
     rows.rowDeleted(2);
     rows.rowDeleted(99);
     EXPECT_THAT(first(2), ElementsAre(3, 1));
-    EXPECT_FALSE(rows.canAnswer(3, version));
+    EXPECT_FALSE(rows.covers(3, version));
 }
 
 TEST_F(RecentRowsTest, KeepTheRowsThatAreStillThere) {
-    rows.hold({row(3, 300), row(2, 200), row(1, 100)}, 9, version);
-    rows.keepRows([](qint64 id) { return id != 2; });
+    rows.fill({row(3, 300), row(2, 200), row(1, 100)}, 9, version);
+    rows.removeUnless([](qint64 id) { return id != 2; });
     EXPECT_THAT(first(9), ElementsAre(3, 1));
-    EXPECT_TRUE(rows.canAnswer(9, version));
+    EXPECT_TRUE(rows.covers(9, version));
 }
 
 TEST_F(RecentRowsTest, ForgetEverything) {
-    rows.hold({row(3, 300)}, 5, version);
-    rows.forget();
-    EXPECT_FALSE(rows.canAnswer(0, version));
+    rows.fill({row(3, 300)}, 5, version);
+    rows.clear();
+    EXPECT_FALSE(rows.covers(0, version));
     EXPECT_THAT(first(5), IsEmpty());
 }
 

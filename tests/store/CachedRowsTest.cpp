@@ -103,7 +103,7 @@ private:
     sqlite3* connection_ = nullptr;
 };
 
-class HoardKeptRows : public testing::HoardFixture {
+class CachedRows : public testing::HoardFixture {
 protected:
     std::vector<QString> answer(qint64 limit) {
         std::vector<QString> rows;
@@ -126,7 +126,7 @@ protected:
 // Random operations
 
 // One long life of a hoard from a seed.
-class HoardLife : public HoardKeptRows, public ::testing::WithParamInterface<unsigned> {
+class HoardLife : public CachedRows, public ::testing::WithParamInterface<unsigned> {
 protected:
     int below(int bound) { return std::uniform_int_distribution<int>(0, bound - 1)(generator_); }
 
@@ -265,7 +265,7 @@ INSTANTIATE_TEST_SUITE_P(Seeds, HoardLife, ::testing::Range(1U, 11U));
 
 // That the answers do come from memory
 
-TEST_F(HoardKeptRows, SortTheTableOnceForManyCaptures) {
+TEST_F(CachedRows, SortTheTableOnceForManyCaptures) {
     store.reset();
     SqlTrace trace;
     start();
@@ -283,7 +283,7 @@ TEST_F(HoardKeptRows, SortTheTableOnceForManyCaptures) {
     EXPECT_THAT(answer(500), ContainerEq(outsider.list(500)));
 }
 
-TEST_F(HoardKeptRows, SortTheTableOnceForManyDeletionsAndPins) {
+TEST_F(CachedRows, SortTheTableOnceForManyDeletionsAndPins) {
     store.reset();
     SqlTrace trace;
     start();
@@ -300,7 +300,7 @@ TEST_F(HoardKeptRows, SortTheTableOnceForManyDeletionsAndPins) {
     EXPECT_THAT(answer(500), ContainerEq(outsider.list(500)));
 }
 
-TEST_F(HoardKeptRows, AreReadAnewAfterATriggerOfAnotherProgram) {
+TEST_F(CachedRows, AreReadAnewAfterATriggerOfAnotherProgram) {
     outsider.run(u"CREATE TRIGGER doubling AFTER INSERT ON notifications WHEN new.title = 'Title' "
                  "BEGIN INSERT INTO notifications (title, timestamp) VALUES ('copy', 1); END"_qs);
     store->fetchRecent(500);
@@ -309,7 +309,7 @@ TEST_F(HoardKeptRows, AreReadAnewAfterATriggerOfAnotherProgram) {
     EXPECT_EQ(store->fetchRecent(500).size(), 2U);
 }
 
-TEST_F(HoardKeptRows, StayWhereADeletionFails) {
+TEST_F(CachedRows, StayWhereADeletionFails) {
     store->insert(capture(1));
     store->fetchRecent(500);
     Outsider holder(hoardPath());
@@ -321,7 +321,7 @@ TEST_F(HoardKeptRows, StayWhereADeletionFails) {
 
 // Reading ahead
 
-TEST_F(HoardKeptRows, AreReadAheadWithoutAnAnswer) {
+TEST_F(CachedRows, AreReadAheadWithoutAnAnswer) {
     store.reset();
     SqlTrace trace;
     start();
@@ -334,7 +334,7 @@ TEST_F(HoardKeptRows, AreReadAheadWithoutAnAnswer) {
     EXPECT_EQ(trace.taken().filter(u"ORDER BY"_qs).size(), 0);
 }
 
-TEST_F(HoardKeptRows, AreNotKnownWhereTheyCanNotBeReadAhead) {
+TEST_F(CachedRows, AreNotKnownWhereTheyCanNotBeReadAhead) {
     outsider.run(u"INSERT INTO notifications (pinned) VALUES ('yes')"_qs);
     EXPECT_EQ(store->readAhead(10), ReadingAhead::impossible);
     EXPECT_THAT(answer(10), ContainerEq(outsider.list(10)));
