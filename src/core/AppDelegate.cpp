@@ -1,15 +1,11 @@
 #include "core/AppDelegate.h"
 
+#include "platform/DefaultsKeys.h"
+
 #include <QCoreApplication>
 #include <QQuickWindow>
 
 namespace tessarine {
-
-namespace {
-
-const QString restoreWindowsKey = QStringLiteral("NSQuitAlwaysKeepsWindows");
-
-} // namespace
 
 AppDelegate::AppDelegate(ViewServices& views)
     : views_(views)
@@ -22,7 +18,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     UserDefaults& defaults = *services.platform.userDefaults;
     views_.desktop.application->useAccessoryPolicy();
     // The program starts silent: no system may bring its windows back after a quit.
-    defaults.setBoolean(restoreWindowsKey, false);
+    defaults.setBoolean(defaultsKeys::restoresWindows, false);
     applyAppearance(services.preferences.appearanceMode());
     menuBarController_ = std::make_unique<MenuBarController>(
         *views_.desktop.statusItem, services.listener, defaults, [this] { showMainWindow(); },

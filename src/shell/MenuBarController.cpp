@@ -1,6 +1,7 @@
 #include "shell/MenuBarController.h"
 
 #include "capture/NotificationListener.h"
+#include "platform/DefaultsKeys.h"
 #include "platform/StatusItem.h"
 #include "platform/UserDefaults.h"
 
@@ -13,7 +14,6 @@ namespace tessarine {
 
 namespace {
 
-const QString lastSeenCountKey = QStringLiteral("menuBarLastSeenCount");
 const QString programName = QStringLiteral("Tessarine");
 
 constexpr qint64 badgeLimit = 100; // from here on it tells no number
@@ -28,7 +28,7 @@ MenuBarController::MenuBarController(StatusItem& statusItem,
     , defaults_(defaults)
     , openHoard_(std::move(openHoard))
     , quit_(std::move(quit))
-    , lastSeenCount_(defaults.integer(lastSeenCountKey)) {
+    , lastSeenCount_(defaults.integer(defaultsKeys::menuBarLastSeenCount)) {
     statusItem_.setImage(QStringLiteral("bell.fill"), programName);
     statusItem_.setMenuBuilder([this](QMenu& menu) { fillMenu(menu); });
     connect(listener_.get(), &NotificationListener::notificationsChanged, this,
@@ -39,7 +39,7 @@ MenuBarController::MenuBarController(StatusItem& statusItem,
 
 void MenuBarController::markAllSeen() {
     lastSeenCount_ = listCount();
-    defaults_.setInteger(lastSeenCountKey, lastSeenCount_);
+    defaults_.setInteger(defaultsKeys::menuBarLastSeenCount, lastSeenCount_);
     updateBadge();
 }
 

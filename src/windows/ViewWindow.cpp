@@ -1,5 +1,6 @@
 #include "windows/ViewWindow.h"
 
+#include "platform/DefaultsKeys.h"
 #include "platform/UserDefaults.h"
 #include "windows/WindowFrame.h"
 
@@ -69,8 +70,7 @@ void ViewWindow::centre(const QSize& size) {
 void ViewWindow::restoreSize(const QString& frameName, UserDefaults& defaults,
                              const QSize& firstSize) {
     defaults_ = &defaults;
-    // Where a window system of another kind keeps the frame of a window with this name.
-    frameKey_ = QStringLiteral("NSWindow Frame ") + frameName;
+    frameKey_ = defaultsKeys::windowFrame(frameName);
     const auto saved = frameFromText(defaults.text(frameKey_).value_or(QString()));
     centre(saved ? saved->size() : firstSize);
     watchFrame();

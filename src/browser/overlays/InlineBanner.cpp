@@ -1,15 +1,10 @@
 #include "browser/overlays/InlineBanner.h"
 
+#include "shared/BundleId.h"
+
 #include <QCoreApplication>
 
 namespace tessarine {
-
-namespace {
-
-// What a source has for an id when its application could not be found out.
-const QString unresolvedPrefix = QStringLiteral("app_id_");
-
-} // namespace
 
 InlineBanner deepLinkBanner(const QString& appName) {
     InlineBanner banner;
@@ -23,7 +18,7 @@ InlineBanner deepLinkBanner(const QString& appName) {
 InlineBanner notInstalledBanner(const CapturedNotification& notification) {
     InlineBanner banner;
     banner.style = InlineBanner::Style::warning;
-    if (notification.appBundleId.startsWith(unresolvedPrefix)) {
+    if (isUnresolvedBundleId(notification.appBundleId)) {
         banner.icon = QStringLiteral("questionmark.app");
         banner.title = qtTrId("banner.notInstalled.unknownTitle");
         banner.subtitle =
