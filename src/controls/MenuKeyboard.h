@@ -15,7 +15,7 @@ namespace tessarine {
 class MenuKeyboard : public tessarine::ViewKeyboard {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QStringList texts MEMBER texts_ NOTIFY textsChanged REQUIRED)
+    Q_PROPERTY(QList<QString> texts MEMBER texts_ NOTIFY textsChanged REQUIRED)
 
 Q_SIGNALS:
     void textsChanged();

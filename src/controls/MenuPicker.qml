@@ -9,16 +9,12 @@ T.AbstractButton {
     id: picker
 
     required property string accessibleName
-    required property var model // texts, or objects whose `textRole` is the text
-    property string textRole
-    property string valueRole
+    required property list<string> model // the texts
     property int currentIndex: -1
     property string displayText: currentText
     property string toolTipText
 
-    readonly property var texts: Array.from(model ?? [], entry => textRole ? entry[textRole] : entry)
-    readonly property string currentText: texts[currentIndex] ?? ""
-    readonly property var currentValue: valueRole ? model[currentIndex]?.[valueRole] : currentText
+    readonly property string currentText: model[currentIndex] ?? ""
     readonly property alias opened: menu.opened
 
     signal activated(int index)
@@ -60,7 +56,7 @@ T.AbstractButton {
         y: picker.height + Metrics.spacingSmall
         narrowest: picker.width
         accessibleName: picker.accessibleName
-        texts: picker.texts
+        texts: picker.model
         chosenIndex: picker.currentIndex
         onChosen: index => picker.choose(index)
     }

@@ -3,13 +3,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Tessarine.Controls
-import Tessarine.Theme
 
 // The rows in the menu of a MenuPicker. Each time it opens, the chosen row is the current one.
 ScrollList {
     id: list
 
-    required property var texts
+    required property list<string> texts
     required property int chosenIndex
     required property bool open
     required property bool pointerCounts

@@ -10,7 +10,7 @@ T.Popup {
     id: menu
 
     required property string accessibleName
-    required property var texts
+    required property list<string> texts
     required property int chosenIndex
     required property real narrowest
 

@@ -12,10 +12,10 @@ namespace tessarine {
 class MenuTexts : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QStringList texts READ texts WRITE setTexts NOTIFY textsChanged REQUIRED)
+    Q_PROPERTY(QList<QString> texts READ texts WRITE setTexts NOTIFY textsChanged REQUIRED)
     Q_PROPERTY(int chosenIndex READ chosenIndex WRITE setChosenIndex NOTIFY chosenIndexChanged)
     Q_PROPERTY(bool open READ isOpen WRITE setOpen NOTIFY openChanged)
-    Q_PROPERTY(QStringList shown READ shown NOTIFY shownChanged)
+    Q_PROPERTY(QList<QString> shown READ shown NOTIFY shownChanged)
     Q_PROPERTY(int shownIndex READ shownIndex NOTIFY shownIndexChanged)
 
 public:

@@ -9,7 +9,7 @@ Item {
     id: control
 
     required property string accessibleName
-    required property var model // the parts' texts
+    required property list<string> model // the parts' texts
     property int currentIndex: -1
 
     readonly property int gap: 2

@@ -12,7 +12,7 @@ namespace tessarine {
 class TextWidths : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QStringList texts MEMBER texts_ NOTIFY changed REQUIRED)
+    Q_PROPERTY(QList<QString> texts MEMBER texts_ NOTIFY changed REQUIRED)
     Q_PROPERTY(QFont font MEMBER font_ NOTIFY changed REQUIRED)
     Q_PROPERTY(int widest READ widest NOTIFY changed)
 

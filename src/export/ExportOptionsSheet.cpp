@@ -29,12 +29,10 @@ bool ExportOptionsSheet::offersPrivateContent() const {
     return services_.preferences.globalPrivacyMode();
 }
 
-QVariantList ExportOptionsSheet::cards() const {
-    QVariantList cards;
-    for (const ExportFormat format : allExportFormats) {
-        cards.append(QVariant::fromValue(
-            ExportFormatCard{rawValue(format), iconName(format), descriptionKey(format)}));
-    }
+QList<ExportFormatCard> ExportOptionsSheet::cards() {
+    QList<ExportFormatCard> cards;
+    for (const ExportFormat format : allExportFormats)
+        cards.append({rawValue(format), iconName(format), descriptionKey(format)});
     return cards;
 }
 

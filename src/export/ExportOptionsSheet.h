@@ -7,9 +7,9 @@
 #include "shared/AliveGuard.h"
 #include "shared/CapturedNotification.h"
 
+#include <QList>
 #include <QObject>
 #include <QString>
-#include <QVariant>
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
@@ -23,6 +23,7 @@ class PreferencesStore;
 // What a card shows of a format.
 struct ExportFormatCard {
     Q_GADGET
+    QML_VALUE_TYPE(exportFormatCard)
     Q_PROPERTY(QString name MEMBER name CONSTANT)
     Q_PROPERTY(QString symbol MEMBER symbol CONSTANT)
     Q_PROPERTY(QString descriptionKey MEMBER descriptionKey CONSTANT)
@@ -41,7 +42,8 @@ class ExportOptionsSheet : public QObject {
     QML_NAMED_ELEMENT(ExportOptionsSheetState)
     QML_UNCREATABLE("The window that exports brings it")
     Q_PROPERTY(int count READ count CONSTANT)
-    Q_PROPERTY(QVariantList cards READ cards CONSTANT)
+    Q_PROPERTY(QList<tessarine::ExportFormatCard> cards READ cards CONSTANT)
+    Q_PROPERTY(tessarine::ExportFormatCard card READ card NOTIFY changed)
     Q_PROPERTY(int selectedCard READ selectedCard WRITE selectCard NOTIFY changed)
     Q_PROPERTY(bool offersPrivateContent READ offersPrivateContent NOTIFY changed)
     Q_PROPERTY(bool includePrivateContent READ includePrivateContent WRITE setIncludePrivateContent
@@ -99,8 +101,9 @@ public:
 
     Q_INVOKABLE void cancel();
 
-    // The formats as the view shows them, and the place of the chosen one among them.
-    QVariantList cards() const;
+    // The formats as the view shows them, the chosen one, and its place among them.
+    static QList<ExportFormatCard> cards();
+    ExportFormatCard card() const { return cards().at(selectedCard()); }
     int selectedCard() const { return int(selectedFormat_); }
     void selectCard(int index);
 

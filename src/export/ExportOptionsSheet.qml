@@ -133,7 +133,7 @@ Sheet {
                             model: sheet.options.cards
 
                             FormatCard {
-                                required property var modelData
+                                required property exportFormatCard modelData
                                 required property int index
 
                                 objectName: "card" + index
@@ -151,7 +151,7 @@ Sheet {
                         objectName: "description"
                         width: parent.width
                         symbol: "info.circle"
-                        text: qsTrId(sheet.options.cards[sheet.options.selectedCard].descriptionKey)
+                        text: qsTrId(sheet.options.card.descriptionKey)
                     }
                 }
 
@@ -323,7 +323,7 @@ Sheet {
                     opacity: enabled || sheet.options.isExporting ? 1 : Metrics.disabledOpacity
                     symbol: sheet.options.isExporting ? "" : "square.and.arrow.up"
                     text: sheet.options.isExporting ? qsTrId("export.exporting")
-                        : qsTrId("export.exportAs").arg(sheet.options.cards[sheet.options.selectedCard].name)
+                        : qsTrId("export.exportAs").arg(sheet.options.card.name)
                     leftPadding: horizontalPadding + (spinner.visible ? spinner.width + Metrics.spacingSmall : 0)
                     onClicked: sheet.options.requestExport()
 

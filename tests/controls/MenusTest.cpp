@@ -166,7 +166,7 @@ TEST_F(ThemePickerTest, AScreenReaderSeesABoxAndItsMenu) {
 TEST_F(ThemePickerTest, OpenedAgainItBeginsAtTheChosenRow) {
     openByKey(u"short"_qs);
     press(Qt::Key_Down);
-    EXPECT_EQ(litRows(), QStringList{item(u"short"_qs).property("texts").toStringList()[2]});
+    EXPECT_EQ(litRows(), QStringList{item(u"short"_qs).property("model").toStringList()[2]});
     press(Qt::Key_Escape);
     openByKey(u"short"_qs);
     EXPECT_EQ(litRows(), QStringList{u"Oldest first"_qs});
@@ -176,7 +176,7 @@ TEST_F(ThemePickerTest, OpenedAgainItBeginsAtTheChosenRow) {
 
 TEST_F(ThemePickerTest, OpenedByAKeyItLightsNoRowUnderARestingPointer) {
     openByKey(u"short"_qs);
-    const QPoint last = menuRow(item(u"short"_qs).property("texts").toStringList()[2])
+    const QPoint last = menuRow(item(u"short"_qs).property("model").toStringList()[2])
                             ->mapToScene(QPointF(40, 10))
                             .toPoint();
     press(Qt::Key_Escape);
@@ -186,7 +186,7 @@ TEST_F(ThemePickerTest, OpenedByAKeyItLightsNoRowUnderARestingPointer) {
     EXPECT_EQ(litRows(), QStringList{u"Oldest first"_qs});
     QTest::mouseMove(window.get(), last + QPoint(3, 0));
     picture();
-    EXPECT_EQ(litRows(), QStringList{item(u"short"_qs).property("texts").toStringList()[2]});
+    EXPECT_EQ(litRows(), QStringList{item(u"short"_qs).property("model").toStringList()[2]});
 }
 
 TEST_F(ThemePickerTest, WhileItIsOpenItKeepsItsRowsAndItsPlace) {

@@ -32,14 +32,14 @@ class BrowserList : public QObject {
 
     // The toolbar.
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-    Q_PROPERTY(QStringList appLabels READ appLabels NOTIFY listChanged)
+    Q_PROPERTY(QList<QString> appLabels READ appLabels NOTIFY listChanged)
     Q_PROPERTY(
         int selectedAppIndex READ selectedAppIndex WRITE setSelectedAppIndex NOTIFY listChanged)
     Q_PROPERTY(QString selectedAppLabel READ selectedAppLabel NOTIFY listChanged)
     Q_PROPERTY(int sortMode READ sortModeIndex WRITE setSortModeIndex NOTIFY sortModeChanged)
     Q_PROPERTY(int groupMode READ groupModeIndex WRITE setGroupModeIndex NOTIFY groupModeChanged)
-    Q_PROPERTY(QStringList sortLabels READ sortLabels CONSTANT)
-    Q_PROPERTY(QStringList groupLabels READ groupLabels CONSTANT)
+    Q_PROPERTY(QList<QString> sortLabels READ sortLabels CONSTANT)
+    Q_PROPERTY(QList<QString> groupLabels READ groupLabels CONSTANT)
 
 public:
     // Loading lasts until the listener has published its first list, empty or not. Waiting stands

@@ -26,7 +26,7 @@ class ListSelection : public QObject {
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
     Q_PROPERTY(QString selectionText READ selectionText NOTIFY selectionChanged)
     Q_PROPERTY(bool everySelected READ everySelected NOTIFY selectionChanged)
-    Q_PROPERTY(QStringList apps READ apps NOTIFY listChanged)
+    Q_PROPERTY(QList<QString> apps READ apps NOTIFY listChanged)
     Q_PROPERTY(tessarine::DateSelection* dates READ dates CONSTANT)
 
     // The questions before a deletion.

@@ -49,13 +49,7 @@ Rectangle {
             objectName: "picker"
             width: 140
             accessibleName: "Sort"
-            model: [
-                { text: "Newest", value: "newest" },
-                { text: "Oldest", value: "oldest" },
-                { text: "By app", value: "app" }
-            ]
-            textRole: "text"
-            valueRole: "value"
+            model: ["Newest", "Oldest", "By app"]
             currentIndex: scene.sort
             onActivated: index => { scene.sort = index; scene.note("sort " + index) }
         }
