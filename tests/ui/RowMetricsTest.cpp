@@ -321,6 +321,9 @@ TEST_P(RowMetricsTest, ItsCornersAreRoundInEveryState) {
 // Tips
 
 TEST_P(RowMetricsTest, ItsTipTellsWhatAClickDoes) {
+    EXPECT_EQ(tip(), u"none"_qs); // it is made when the pointer first comes
+    QTest::mouseMove(window->window(), rowItem().mapToScene(QPointF(40, 20)).toPoint());
+    draw();
     EXPECT_EQ(tip(), u"Click to select, double-click to open Mail"_qs);
     mask();
     EXPECT_EQ(tip(), u"Click to reveal"_qs);

@@ -6,10 +6,10 @@
 namespace tessarine {
 
 void PinnedHeader::setList(BrowserList* list) {
-    if (list_)
+    if (list_) {
         list_->lines()->disconnect(this);
-    if (list_)
         list_->disconnect(this);
+    }
     list_ = list;
     if (!list_)
         return;

@@ -4,7 +4,8 @@ import Tessarine.Browser
 import Tessarine.Controls
 import Tessarine.Theme
 
-// One notification in the list, as its roles in the model say.
+// One notification in the list, as its roles in the model say. A capture makes a row, so what most rows
+// never show is made when it is first shown.
 Item {
     id: row
 
@@ -41,6 +42,7 @@ Item {
 
     property bool isComplete // and so may fade; what is only scrolled into sight is there at once
     property bool hasArrived: !isArriving
+    property bool wasHovered
     property real clarity: 1 // of the texts, while they come out from under the mask
 
     // Another row was pressed, so that a double click here would have begun elsewhere.
@@ -102,6 +104,7 @@ Item {
         id: pointer
 
         cursorShape: row.selectionMode ? Qt.ArrowCursor : Qt.PointingHandCursor
+        onHoveredChanged: row.wasHovered = true
     }
 
     // The time in which a second press would make it a double click.
@@ -131,10 +134,24 @@ Item {
         onClicked: mouse => row.menuRequested(row.notificationId, mapToItem(null, mouse.x, mouse.y))
     }
 
-    HoverTip {
-        text: row.selectionMode ? (row.isSelected ? qsTrId("row.deselect") : qsTrId("row.select"))
-            : row.masked ? qsTrId("row.clickToReveal") : qsTrId("row.singleClickToSelect").arg(row.appName)
-        visible: row.showsTip
+    Loader {
+        id: tip
+
+        anchors.fill: parent
+        active: row.wasHovered
+
+        // A loader can't make a component that is bound to this file. The tip waits until it is complete:
+        // one that is made visible would be there at once.
+        // qmllint disable unqualified
+        sourceComponent: Item {
+            HoverTip {
+                text: row.selectionMode ? (row.isSelected ? qsTrId("row.deselect") : qsTrId("row.select"))
+                    : row.masked ? qsTrId("row.clickToReveal")
+                    : qsTrId("row.singleClickToSelect").arg(row.appName)
+                visible: row.showsTip && tip.status === Loader.Ready
+            }
+        }
+        // qmllint enable unqualified
     }
 
     RowBackground {
@@ -170,22 +187,28 @@ Item {
         bundleId: row.bundleId
         appName: row.appName
 
-        IconBadge {
+        Loader {
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            symbol: "lock.fill"
-            size: 9
-            color: Qt.alpha(Theme.colours.secondaryLabel, 0.8)
-            visible: row.masked
+            active: row.masked
+
+            sourceComponent: IconBadge {
+                symbol: "lock.fill"
+                size: 9
+                color: Qt.alpha(Theme.colours.secondaryLabel, 0.8)
+            }
         }
 
-        IconBadge {
+        Loader {
             anchors.right: parent.right
             anchors.top: parent.top
-            symbol: "pin.fill"
-            size: 8
-            color: Theme.colours.accentFill
-            visible: row.pinned
+            active: row.pinned
+
+            sourceComponent: IconBadge {
+                symbol: "pin.fill"
+                size: 8
+                color: Theme.colours.accentFill
+            }
         }
     }
 
@@ -212,12 +235,14 @@ Item {
             masked: row.masked
         }
 
-        RowMask {
+        Loader {
             id: mask
 
             y: topLine.height + Metrics.spacingTiny
             opacity: row.masked ? 1 : 1 - row.clarity
-            visible: opacity > 0
+            active: opacity > 0
+
+            sourceComponent: RowMask {}
         }
 
         PlainLabel {

@@ -10,23 +10,16 @@ Item {
     property bool selected
     property bool hovered
 
+    readonly property bool marked: focused || selected
     readonly property int radius: Metrics.cornerRadius
     readonly property real restingOpacity: 0.5
 
     Rectangle {
         anchors.fill: parent
         radius: background.radius
-        color: Theme.colours.controlBackground
-        opacity: background.hovered ? 1 : background.restingOpacity
-        visible: !background.focused && !background.selected
-    }
-
-    Rectangle {
-        anchors.fill: parent
-        radius: background.radius
-        color: Theme.colours.accent
-        opacity: background.focused ? 0.13 : 0.08
-        visible: background.focused || background.selected
+        color: background.marked ? Theme.colours.accent : Theme.colours.controlBackground
+        opacity: background.focused ? 0.13 : background.selected ? 0.08
+            : background.hovered ? 1 : background.restingOpacity
     }
 
     Outline {
@@ -35,6 +28,6 @@ Item {
         color: Theme.colours.accent
         strokeWidth: background.focused ? 1.5 : 1
         opacity: background.focused ? 0.55 : 0.25
-        visible: background.focused || background.selected
+        visible: background.marked
     }
 }

@@ -11,7 +11,6 @@ Item {
     required property bool masked
 
     readonly property real timeOpacity: 0.7
-    readonly property real hintOpacity: 0.6
 
     height: name.height
 
@@ -44,28 +43,33 @@ Item {
         Accessible.ignored: true
     }
 
-    Row {
+    Loader {
         id: hint
 
         anchors.right: parent.right
         anchors.verticalCenter: name.verticalCenter
-        spacing: Metrics.spacingSmall
-        opacity: line.hintOpacity
-        visible: line.masked
+        active: line.masked
 
-        SymbolImage {
-            anchors.verticalCenter: parent.verticalCenter
-            symbol: "eye"
-            size: Metrics.textTiny
-            tint: Theme.colours.secondaryLabel
-        }
+        sourceComponent: Row {
+            readonly property real hintOpacity: 0.6
 
-        PlainLabel {
-            anchors.verticalCenter: parent.verticalCenter
-            text: qsTrId("row.clickToReveal")
-            font.pixelSize: Metrics.textTiny
-            color: Theme.colours.secondaryLabel
-            Accessible.ignored: true
+            opacity: hintOpacity
+            spacing: Metrics.spacingSmall
+
+            SymbolImage {
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: "eye"
+                size: Metrics.textTiny
+                tint: Theme.colours.secondaryLabel
+            }
+
+            PlainLabel {
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTrId("row.clickToReveal")
+                font.pixelSize: Metrics.textTiny
+                color: Theme.colours.secondaryLabel
+                Accessible.ignored: true
+            }
         }
     }
 }
