@@ -2,7 +2,8 @@
 // of the same statements that decodes with libplist.
 
 #include "capture/UsernotedDatabase.h"
-#include "tools/UsernotedDatabase.h"
+#include "support/SystemDatabases.h"
+#include "support/SystemPayloads.h"
 
 #include <QTemporaryDir>
 
@@ -25,22 +26,19 @@ constexpr double newest = 785000000.0;
 const QString& databasePath() {
     static const QTemporaryDir folder;
     static const QString path = [] {
-        tools::UsernotedDatabase writer(folder.filePath(QStringLiteral("db")));
-        const QList<tools::UsernotedForm> forms =
-            tools::usernotedFormsNamed(QStringLiteral("mixed"));
+        testing::UsernotedWriter writer(folder.filePath(QStringLiteral("db")));
+        constexpr int forms = int(testing::UsernotedForm::RequestEmpty); // all that give text
         bool done = writer.createTables() && writer.begin();
         for (int i = 0; done && i < records; ++i) {
             const QString application = QStringLiteral("com.example.app%1").arg(i % 40);
-            tools::UsernotedForm form = forms.at(i % forms.size());
-            if (form == tools::UsernotedForm::ArchiveLong)
-                form = tools::UsernotedForm::Archive; // hundreds of objects each: not a mix
-            const auto payload = tools::usernotedPayload(
-                form, {.title = QStringLiteral("Message %1").arg(i),
-                       .body = QStringLiteral("The body of message %1, as long as most").arg(i),
-                       .subtitle = QStringLiteral("Below"),
-                       .application = application,
-                       .date = newest - i,
-                       .recordId = i + 1});
+            const auto payload = testing::usernotedPayload(
+                testing::UsernotedForm(i % forms),
+                {.title = QStringLiteral("Message %1").arg(i),
+                 .body = QStringLiteral("The body of message %1, as long as most").arg(i),
+                 .subtitle = QStringLiteral("Below"),
+                 .application = application,
+                 .date = newest - i,
+                 .recordId = i + 1});
             done = writer.append(i + 1, *writer.appId(application), payload, newest - i);
         }
         if (!done || !writer.commit())

@@ -1,8 +1,21 @@
-# Settings that every target of the project shares.
+# Settings that every target of the project shares, and one function for each kind of target.
+
+# The folder, in src/platform and tests/platform, of the system that the program is built for.
+set(TESSARINE_SYSTEM linux)
+if(APPLE)
+    set(TESSARINE_SYSTEM macos)
+endif()
 
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    # A precompiled header tells ccache less about macros and times than the headers themselves.
+    set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+endif()
+
+# The linker that comes with the compiler takes most of the time of a build after a small change.
+find_program(MOLD mold)
+if(MOLD)
+    add_link_options(-fuse-ld=mold)
 endif()
 
 add_library(tessarine_build INTERFACE)
@@ -21,6 +34,39 @@ if(TESSARINE_SANITIZE MATCHES thread)
     add_compile_options(-Wno-tsan)
 endif()
 
+# Of the time that a source takes to compile, more than half goes into the headers of Qt and the
+# standard library. With TESSARINE_PRECOMPILE they are compiled once for each kind of target; builds
+# without it, as those with sanitizers, see to it that each source includes what it uses.
+set(TESSARINE_CORE_HEADERS
+    <QByteArray> <QDateTime> <QDir> <QFile> <QHash> <QList> <QObject> <QPointer> <QSet> <QString>
+    <QStringList> <QTimer> <QVariant> <algorithm> <array> <chrono> <cmath> <condition_variable>
+    <functional> <limits> <map> <memory> <mutex> <optional> <string> <utility> <variant> <vector>)
+set(TESSARINE_VIEW_HEADERS
+    ${TESSARINE_CORE_HEADERS} <QAbstractListModel> <QColor> <QFont> <QGuiApplication> <QImage>
+    <QKeyEvent> <QPainter> <QQmlEngine> <QQuickItem> <QQuickWindow> <QtQml/qqmlregistration.h>)
+
+# tessarine_headers(TARGET STATIC|PROGRAM HEADERS LIBRARY...): a target that exists for its
+# precompiled headers alone.
+function(tessarine_headers name kind headers)
+    set(source ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "int main() {}\n")
+    if(kind STREQUAL STATIC)
+        add_library(${name} STATIC ${source})
+    else()
+        add_executable(${name} ${source})
+    endif()
+    target_link_libraries(${name} PRIVATE ${ARGN})
+    target_precompile_headers(${name} PRIVATE ${headers})
+endfunction()
+
+# tessarine_reuse_headers(TARGET HEADERS): HEADERS is a target whose precompiled headers serve others
+# of its kind, which is library or program.
+function(tessarine_reuse_headers name headers)
+    if(TESSARINE_PRECOMPILE)
+        target_precompile_headers(${name} REUSE_FROM ${headers})
+    endif()
+endfunction()
+
 # A static library of one folder (or a part of one); links what it names and nothing else. MOC where
 # it has classes with signals: looking for such in every target would cost more than compiling many.
 function(tessarine_library name)
@@ -29,31 +75,7 @@ function(tessarine_library name)
     set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE tessarine_build ${ARG_PRIVATE_LINKS})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-endfunction()
-
-# One GoogleTest program, which is one test for CTest: a process for each case would spend far more on
-# starting under the sanitizers than on testing. The target tests-LABEL builds all programs of a
-# label.
-function(tessarine_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS;LABELS;ENVIRONMENT" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE tessarine_build ${ARG_LINKS} GTest::gmock)
-    if(NOT tessarine_gui_test_support IN_LIST ARG_LINKS) # which brings a main function of its own
-        target_link_libraries(${name} PRIVATE tessarine_test_main)
-    endif()
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    if(NOT ARG_TIMEOUT)
-        set(ARG_TIMEOUT 900)
-    endif()
-    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
-                         ENVIRONMENT "${ARG_ENVIRONMENT}")
-    foreach(label IN LISTS ARG_LABELS)
-        if(NOT TARGET tests-${label})
-            add_custom_target(tests-${label})
-        endif()
-        add_dependencies(tests-${label} ${name})
-    endforeach()
+    tessarine_reuse_headers(${name} tessarine_core_headers)
 endfunction()
 
 # What Qt's QML compiler writes is not ours to mend: no warnings for it. A file of C++ for each view
@@ -62,7 +84,8 @@ endfunction()
 function(tessarine_generated_qml_code name)
     get_target_property(sources ${name} SOURCES)
     list(FILTER sources INCLUDE REGEX "/qmlcache/")
-    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS "-w;-g0")
+    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS "-w;-g0"
+                                SKIP_PRECOMPILE_HEADERS ON)
     if(TESSARINE_SANITIZE)
         set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
     endif()
@@ -73,7 +96,8 @@ function(tessarine_generated_qml_code name)
     list(JOIN sources "\n" includes)
     set(together ${CMAKE_CURRENT_BINARY_DIR}/${name}_views.cpp)
     file(CONFIGURE OUTPUT ${together} CONTENT "${includes}\n" @ONLY)
-    set_source_files_properties(${together} PROPERTIES COMPILE_OPTIONS "-w;-g0" SKIP_AUTOGEN ON)
+    set_source_files_properties(${together} PROPERTIES COMPILE_OPTIONS "-w;-g0" SKIP_AUTOGEN ON
+                                SKIP_PRECOMPILE_HEADERS ON)
     target_sources(${name} PRIVATE ${together})
 endfunction()
 
@@ -88,4 +112,5 @@ function(tessarine_qml_module name)
         DEPENDENCIES ${ARG_DEPENDENCIES}
         QML_FILES ${ARG_QML_FILES})
     tessarine_generated_qml_code(${name})
+    tessarine_reuse_headers(${name} tessarine_view_headers)
 endfunction()

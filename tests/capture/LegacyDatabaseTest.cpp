@@ -3,7 +3,8 @@
 #include "support/HoardFile.h"
 #include "support/Printers.h"
 #include "support/PropertyListWriter.h"
-#include "tools/LegacyDatabase.h"
+#include "support/SystemDatabases.h"
+#include "support/SystemPayloads.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -18,9 +19,9 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using testing::LegacyContent;
 using ::testing::Pair;
 using testing::PlistValue;
-using tools::LegacyContent;
 using namespace Qt::StringLiterals;
 
 constexpr double base = 785000000.0;
@@ -41,7 +42,7 @@ protected:
     }
 
     void add(qint64 noteId, const LegacyContent& content, qint64 appId = 1) {
-        add(noteId, tools::legacyPayload(content), appId);
+        add(noteId, testing::legacyPayload(content), appId);
     }
 
     void add(qint64 noteId, const std::optional<QByteArray>& payload, qint64 appId = 1) {
@@ -74,7 +75,7 @@ protected:
 
     QTemporaryDir folder_;
     QString path_ = folder_.filePath(u"legacy.db"_qs);
-    tools::LegacyDatabase writer_{path_};
+    testing::LegacyWriter writer_{path_};
 };
 
 TEST_F(LegacyReadingTest, BuildsTheWholeRecord) {
@@ -151,7 +152,7 @@ TEST_F(LegacyReadingTest, AMissingDateIsTheTimeOfTheReading) {
 }
 
 TEST_F(LegacyReadingTest, ADatePastTheEndOfTheArchiveIsTheTimeOfTheReading) {
-    add(1, tools::legacyPayload({u"a"_qs, u"b"_qs, base}, 5)); // the date is object 5
+    add(1, testing::legacyPayload({u"a"_qs, u"b"_qs, base}, 5)); // the date is object 5
     EXPECT_EQ(read().front().timestamp, now);
     EXPECT_EQ(read().front().body, u"b"_qs);
 }
@@ -177,7 +178,7 @@ TEST_F(LegacyReadingTest, NeitherTitleNorBodyMakesNone) {
 }
 
 TEST_F(LegacyReadingTest, AReferencePastTheEndIsAnEmptyText) {
-    add(1, tools::legacyPayload({u"title"_qs, u"body"_qs, base}, 3)); // the body is object 3
+    add(1, testing::legacyPayload({u"title"_qs, u"body"_qs, base}, 3)); // the body is object 3
     const NotificationList records = read();
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records.front().title, u"title"_qs);
@@ -185,17 +186,17 @@ TEST_F(LegacyReadingTest, AReferencePastTheEndIsAnEmptyText) {
 }
 
 TEST_F(LegacyReadingTest, BothReferencesPastTheEndMakeNoRecord) {
-    add(1, tools::legacyPayload({u"title"_qs, u"body"_qs, base}, 2));
+    add(1, testing::legacyPayload({u"title"_qs, u"body"_qs, base}, 2));
     EXPECT_THAT(read(), IsEmpty());
 }
 
 TEST_F(LegacyReadingTest, AnArchiveOfOneObjectMakesNoRecord) {
-    add(1, tools::legacyPayload({u"title"_qs, u"body"_qs, base}, 1));
+    add(1, testing::legacyPayload({u"title"_qs, u"body"_qs, base}, 1));
     EXPECT_THAT(read(), IsEmpty());
 }
 
 TEST_F(LegacyReadingTest, AnArchiveOfNoObjectsMakesNoRecord) {
-    add(1, tools::legacyPayload({u"title"_qs, u"body"_qs, base}, 0));
+    add(1, testing::legacyPayload({u"title"_qs, u"body"_qs, base}, 0));
     EXPECT_THAT(read(), IsEmpty());
 }
 
@@ -226,7 +227,7 @@ QByteArray archive(const PlistValue& objects) {
     return testing::writeBinaryPropertyList(PlistValue::dictionary({{u"$objects"_qs, objects}}));
 }
 
-const QByteArray wholePayload = tools::legacyPayload({u"title"_qs, u"body"_qs, base});
+const QByteArray wholePayload = testing::legacyPayload({u"title"_qs, u"body"_qs, base});
 
 INSTANTIATE_TEST_SUITE_P(
     Bytes, UnusablePayload,
@@ -374,16 +375,16 @@ TEST_F(LegacyReadingTest, NotificationsAreReadWithoutATableOfNames) {
 TEST_F(LegacyReadingTest, ALockedDatabaseIsEmptyUntilItIsFree) {
     add(1, {u"a"_qs, {}, base});
     writer_.close();
-    tools::SqliteConnection other;
-    ASSERT_TRUE(other.open(path_, tools::SqliteConnection::Missing::Fail));
-    ASSERT_TRUE(other.execute("BEGIN EXCLUSIVE"));
+    testing::LegacyWriter other(path_);
+    ASSERT_TRUE(other.createTables());
+    ASSERT_TRUE(other.lock());
     EXPECT_THAT(read(), IsEmpty());
-    ASSERT_TRUE(other.execute("COMMIT"));
+    ASSERT_TRUE(other.commit());
     EXPECT_THAT(titles(read()), ElementsAre(u"a"_qs));
 }
 
 TEST_F(LegacyReadingTest, ADamagedDatabaseGivesWhatCanBeRead) {
-    const QByteArray payload = tools::legacyPayload({u"title"_qs, QString(500, u'x'), base});
+    const QByteArray payload = testing::legacyPayload({u"title"_qs, QString(500, u'x'), base});
     ASSERT_TRUE(writer_.begin());
     for (int i = 1; i <= 200; ++i)
         add(i, payload);
@@ -427,7 +428,7 @@ TEST_F(LegacyReadingTest, ADatabaseThatIsDamagedFromItsStartGivesNothing) {
 // A number in a text is that number, and a text without one is 0.
 TEST_F(LegacyReadingTest, ColumnsOfOtherTypesAreReadAsFarAsTheyGo) {
     writer_.close();
-    const QByteArray payload = tools::legacyPayload({u"Hello"_qs, u"World"_qs, base});
+    const QByteArray payload = testing::legacyPayload({u"Hello"_qs, u"World"_qs, base});
     const QString data = u"X'"_qs + QString::fromLatin1(payload.toHex()) + u'\'';
     ASSERT_TRUE(testing::DatabaseFile(path_).run(
         u"DROP TABLE app_info; DROP TABLE notifications;"

@@ -2,8 +2,8 @@
 #include "support/HoardFile.h"
 #include "support/Printers.h"
 #include "support/SimulatedPlatform.h"
-#include "tools/LegacyDatabase.h"
-#include "tools/UsernotedDatabase.h"
+#include "support/SystemDatabases.h"
+#include "support/SystemPayloads.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,8 +20,8 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using testing::LegacyContent;
 using testing::ManualScheduler;
-using tools::LegacyContent;
 using namespace Qt::StringLiterals;
 
 constexpr double start = ManualScheduler::startOfTime;
@@ -69,7 +69,7 @@ protected:
     void add(qint64 noteId, const LegacyContent& content,
              const QString& application = u"com.example.mail"_qs) {
         ASSERT_TRUE(
-            writer_.append(noteId, *writer_.appId(application), tools::legacyPayload(content)))
+            writer_.append(noteId, *writer_.appId(application), testing::legacyPayload(content)))
             << writer_.lastError().toStdString();
     }
 
@@ -77,12 +77,12 @@ protected:
 
     // A payload that holds nothing.
     void addUnreadable(qint64 noteId) {
-        ASSERT_TRUE(writer_.append(noteId, 1, tools::legacyPayload({}, 1)));
+        ASSERT_TRUE(writer_.append(noteId, 1, testing::legacyPayload({}, 1)));
     }
 
     // Makes it readable afterwards.
     void repair(qint64 noteId, const QString& title) {
-        const QByteArray payload = tools::legacyPayload({title, {}, start});
+        const QByteArray payload = testing::legacyPayload({title, {}, start});
         ASSERT_TRUE(testing::DatabaseFile(writer_.path())
                         .run(u"UPDATE notifications SET encoded_data = x'%1' WHERE note_id = %2"_qs
                                  .arg(QString::fromLatin1(payload.toHex()))
@@ -91,12 +91,12 @@ protected:
 
     // A row of the usernoted database.
     void addUsernoted(qint64 recId, const QString& title) {
-        tools::UsernotedDatabase writer(
+        testing::UsernotedWriter writer(
             folder_.filePath(u"Library/Group Containers/group.com.apple.usernoted/db2/db"_qs));
         ASSERT_TRUE(writer.createTables()) << writer.lastError().toStdString();
         ASSERT_TRUE(writer.append(
             recId, *writer.appId(u"com.example.mail"_qs),
-            tools::usernotedPayload(tools::UsernotedForm::RequestTitle, {.title = title}),
+            testing::usernotedPayload(testing::UsernotedForm::RequestTitle, {.title = title}),
             start - 10));
     }
 
@@ -135,7 +135,7 @@ protected:
     QTemporaryDir folder_;
     testing::SimulatedPlatform system_;
     QString legacyFolder_ = folder_.filePath(u"Library/Application Support/NotificationCenter"_qs);
-    tools::LegacyDatabase writer_{legacyFolder_ + u"/legacy.db"_qs};
+    testing::LegacyWriter writer_{legacyFolder_ + u"/legacy.db"_qs};
     std::optional<HoardStore> hoard_;
     std::optional<PreferencesStore> preferences_;
     std::optional<DiagnosticsStore> diagnostics_;
@@ -295,7 +295,7 @@ TEST_F(LegacyLayerTest, ANullNameAtStartIsSkipped) {
     createDatabase();
     launch();
     ASSERT_TRUE(writer_.addApp(1, std::nullopt));
-    ASSERT_TRUE(writer_.append(5, 1, tools::legacyPayload({u"a"_qs, {}, start})));
+    ASSERT_TRUE(writer_.append(5, 1, testing::legacyPayload({u"a"_qs, {}, start})));
     listener_->start();
     system_.scheduler.settle();
     EXPECT_THAT(stored(u"bundle_id"_qs), ElementsAre(u"app_id_1"_qs));
@@ -438,7 +438,7 @@ TEST_F(LegacyLayerTest, APollKnowsOnlyTheNamesOfTheConstruction) {
     createDatabase();
     launchAndStart();
     ASSERT_TRUE(writer_.addApp(42, u"com.example.new"_qs));
-    ASSERT_TRUE(writer_.append(1, 42, tools::legacyPayload({u"a"_qs, {}, start})));
+    ASSERT_TRUE(writer_.append(1, 42, testing::legacyPayload({u"a"_qs, {}, start})));
     written();
     EXPECT_THAT(stored(u"bundle_id"_qs), ElementsAre(u"app_id_42"_qs));
     EXPECT_THAT(stored(u"app_name"_qs), ElementsAre(u"app_id_42"_qs));
@@ -449,7 +449,7 @@ TEST_F(LegacyLayerTest, ANullNameAfterTheConstructionDisturbsNoPoll) {
     createDatabase();
     launchAndStart();
     ASSERT_TRUE(writer_.addApp(42, std::nullopt));
-    ASSERT_TRUE(writer_.append(1, 42, tools::legacyPayload({u"a"_qs, {}, start})));
+    ASSERT_TRUE(writer_.append(1, 42, testing::legacyPayload({u"a"_qs, {}, start})));
     written();
     EXPECT_THAT(stored(u"bundle_id"_qs), ElementsAre(u"app_id_42"_qs));
 }

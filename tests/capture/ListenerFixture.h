@@ -3,7 +3,8 @@
 #include "capture/NotificationListener.h"
 #include "support/HoardFile.h"
 #include "support/SimulatedPlatform.h"
-#include "tools/UsernotedDatabase.h"
+#include "support/SystemDatabases.h"
+#include "support/SystemPayloads.h"
 
 #include <QTemporaryDir>
 
@@ -54,14 +55,14 @@ protected:
     void add(qint64 recId, const QString& title, double date,
              const QString& application = u"com.example.mail"_qs) {
         const auto payload =
-            tools::usernotedPayload(tools::UsernotedForm::RequestTitle, {.title = title});
+            testing::usernotedPayload(testing::UsernotedForm::RequestTitle, {.title = title});
         ASSERT_TRUE(writer_.append(recId, *writer_.appId(application), payload, date))
             << writer_.lastError().toStdString();
     }
 
     void addUnreadable(qint64 recId, double date) {
         ASSERT_TRUE(writer_.append(
-            recId, 1, tools::usernotedPayload(tools::UsernotedForm::Broken, {}), date));
+            recId, 1, testing::usernotedPayload(testing::UsernotedForm::Broken, {}), date));
     }
 
     void pollNow() {
@@ -88,7 +89,7 @@ protected:
 
     QTemporaryDir folder_;
     SimulatedPlatform system_;
-    tools::UsernotedDatabase writer_{
+    testing::UsernotedWriter writer_{
         folder_.filePath(u"Library/Group Containers/group.com.apple.usernoted/db2/db"_qs)};
     std::optional<HoardStore> hoard_;
     std::optional<PreferencesStore> preferences_;

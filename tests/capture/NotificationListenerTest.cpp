@@ -16,8 +16,8 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using testing::ManualScheduler;
 using ::testing::Not;
-using tools::UsernotedContent;
-using tools::UsernotedForm;
+using testing::UsernotedContent;
+using testing::UsernotedForm;
 using namespace Qt::StringLiterals;
 
 constexpr double start = ManualScheduler::startOfTime;
@@ -275,7 +275,7 @@ TEST_F(ListenerTest, TheTimerPollsEveryThirtySeconds) {
 TEST_F(ListenerTest, TheTimerCarriesOnWhenTheLogIsReplaced) {
     launchAndStart();
     writer_.close();
-    ASSERT_TRUE(writer_.open());
+    ASSERT_TRUE(writer_.createTables());
     add(1, u"Hello"_qs, start + 1);
     system_.scheduler.advance(30);
     EXPECT_THAT(stored(), ElementsAre(u"Hello"_qs));

@@ -3,7 +3,8 @@
 #include "store/Sqlite.h"
 #include "support/HoardFile.h"
 #include "support/PropertyListWriter.h"
-#include "tools/UsernotedDatabase.h"
+#include "support/SystemDatabases.h"
+#include "support/SystemPayloads.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +12,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <limits>
 
@@ -19,14 +21,14 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using tools::UsernotedContent;
-using tools::UsernotedForm;
+using testing::UsernotedContent;
+using testing::UsernotedForm;
 using namespace Qt::StringLiterals;
 
 constexpr double base = 785000000.0;
 
 QByteArray payload(const QString& title) {
-    return *tools::usernotedPayload(UsernotedForm::RequestTitle, {.title = title});
+    return *testing::usernotedPayload(UsernotedForm::RequestTitle, {.title = title});
 }
 
 class UsernotedReadingTest : public ::testing::Test {
@@ -35,7 +37,7 @@ protected:
         ASSERT_TRUE(writer_.createTables()) << writer_.lastError().toStdString();
     }
 
-    void add(qint64 recId, const QString& title, const tools::ColumnValue& date) {
+    void add(qint64 recId, const QString& title, const testing::ColumnValue& date) {
         ASSERT_TRUE(
             writer_.append(recId, *writer_.appId(u"com.example.mail"_qs), payload(title), date))
             << writer_.lastError().toStdString();
@@ -54,7 +56,7 @@ protected:
 
     QTemporaryDir folder_;
     QString path_ = folder_.filePath(u"db"_qs);
-    tools::UsernotedDatabase writer_{path_};
+    testing::UsernotedWriter writer_{path_};
 };
 
 TEST_F(UsernotedReadingTest, BuildsTheWholeRecord) {
@@ -111,7 +113,8 @@ TEST_F(UsernotedReadingTest, CollectsTheKeysAtTheNewestDate) {
 }
 
 TEST_F(UsernotedReadingTest, MovesTheCursorByARowWithoutTexts) {
-    ASSERT_TRUE(writer_.append(5, 1, tools::usernotedPayload(UsernotedForm::Broken, {}), base + 3));
+    ASSERT_TRUE(
+        writer_.append(5, 1, testing::usernotedPayload(UsernotedForm::Broken, {}), base + 3));
     const UsernotedReading reading = read({base, {}});
     EXPECT_THAT(reading.records, IsEmpty());
     EXPECT_EQ(reading.newest.timestamp, base + 3);
@@ -147,7 +150,7 @@ TEST_F(UsernotedReadingTest, LeavesTheLogToTheDaemonThatHoldsIt) {
 // Dates that no daemon should write
 
 TEST_F(UsernotedReadingTest, NeverSeesANullDate) {
-    add(1, u"null"_qs, tools::ColumnValue());
+    add(1, u"null"_qs, testing::ColumnValue());
     EXPECT_THAT(read().records, IsEmpty());
 }
 
@@ -180,7 +183,7 @@ class BadPayloadRow : public UsernotedReadingTest,
 
 TEST_P(BadPayloadRow, IsPassedOver) {
     add(1, u"before"_qs, base);
-    ASSERT_TRUE(writer_.append(2, 1, tools::usernotedPayload(GetParam(), {}), base + 1));
+    ASSERT_TRUE(writer_.append(2, 1, testing::usernotedPayload(GetParam(), {}), base + 1));
     add(3, u"after"_qs, base + 2);
     EXPECT_THAT(titles(read()), ElementsAre(u"before"_qs, u"after"_qs));
 }
@@ -256,7 +259,7 @@ protected:
     static constexpr std::size_t rows = 2000;
 
     void SetUp() override {
-        tools::UsernotedDatabase writer(path_);
+        testing::UsernotedWriter writer(path_);
         ASSERT_TRUE(writer.createTables());
         ASSERT_TRUE(writer.begin());
         for (std::size_t i = 0; i < rows; ++i)
@@ -297,7 +300,7 @@ TEST_F(BadDatabase, WithoutTheTableOfRecordsGivesNothing) {
 }
 
 TEST_F(BadDatabase, WithoutTheTableOfApplicationsNamesThemByNumber) {
-    tools::UsernotedDatabase writer(path_);
+    testing::UsernotedWriter writer(path_);
     ASSERT_TRUE(writer.createTables());
     ASSERT_TRUE(writer.append(2, 3, payload(u"Hello"_qs), base + 1));
     ASSERT_TRUE(testing::DatabaseFile(path_).run(u"DROP TABLE app"_qs));
@@ -330,7 +333,7 @@ TEST_F(BadDatabase, WithColumnsOfOtherTypesIsReadAsFarAsItGoes) {
 }
 
 TEST_F(BadDatabase, LockedByAnotherConnectionGivesNothingNow) {
-    tools::UsernotedDatabase writer(path_);
+    testing::UsernotedWriter writer(path_);
     ASSERT_TRUE(writer.createTables());
     ASSERT_TRUE(writer.append(2, 3, payload(u"Hello"_qs), base + 1));
     writer.close();

@@ -3,7 +3,7 @@
 
 usage: propertylist_judge.py DUMP [--documents N] [--mutants N] [--seed N] [--self-check]
 
-DUMP is the built plist-dump program. Two independent readers say what it has to print:
+DUMP is the built property_list_dump program. Two independent readers say what it has to print:
 
 1. Python's plistlib. Random documents that it wrote must be read as what was written, and damaged
    ones ("mutants") that both readers accept must be read alike.

@@ -4,19 +4,23 @@ Nothing of the user's own session is touched. Everything that a session starts, 
 """
 
 import contextlib
+import json
 import os
 import pathlib
 import shutil
 import signal
 import sqlite3
 import subprocess
+import sys
 import tempfile
 import time
 import unittest
 
 REFERENCE_DATE = 978307200.0
 PROGRAM = os.environ["TESSARINE_PROGRAM"]
-WRITER = os.environ["TESSARINE_USERNOTED_WRITER"]
+TOOLS = pathlib.Path(__file__).resolve().parents[2] / "tools"
+sys.path.append(str(TOOLS))
+WRITER = str(TOOLS / "system_databases.py")
 USERNOTED = "Library/Group Containers/group.com.apple.usernoted/db2/db"
 DEFAULTS = "com.zorvek.Tessarine.conf"
 
@@ -266,31 +270,28 @@ class Session:
 class Daemon:
     """The system's notification daemon: a process that holds its database open and writes to it."""
 
-    def __init__(self, session, *options):
-        self.process = session.spawn(
-            WRITER, str(session.usernoted), "--create", "--commands", *options,
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
-        self.answer("records")
+    def __init__(self, session, **defaults):
+        self.defaults = defaults
+        self.process = session.spawn(sys.executable, WRITER, "usernoted", str(session.usernoted),
+                                     stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.tell("count")
 
-    def answer(self, beginning):
-        while True:
-            line = self.process.stdout.readline()
-            if not line or line.startswith(("error", beginning)):
-                break
-        if not line.startswith(beginning):
-            raise AssertionError(f"the daemon said {line!r}")
-        return line.strip()
-
-    def tell(self, command):
-        self.process.stdin.write(command + "\n")
+    def send(self, operation, **values):
+        self.process.stdin.write(json.dumps({"do": operation, **values}) + "\n")
         self.process.stdin.flush()
-        return self.answer("ok")
+
+    def tell(self, operation, **values):
+        """Carries out an operation and gives the Unix time at which it was done."""
+        self.send(operation, **values)
+        line = self.process.stdout.readline()
+        answer = json.loads(line) if line else {"error": "nothing"}
+        if "error" in answer:
+            raise AssertionError(f"the daemon said {answer['error']}")
+        return answer["time"]
 
     def append(self, title, **options):
         """Writes a row and gives the Unix time at which it was committed."""
-        words = [f'{key.replace("_", "-")}="{value}"' for key, value in options.items()]
-        answer = self.tell(" ".join(["append", f'title="{title}"', *words]))
-        return float(answer.split()[-1])
+        return self.tell("append", title=title, **{**self.defaults, **options})
 
 
 class SessionTestCase(unittest.TestCase):

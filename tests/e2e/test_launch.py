@@ -109,7 +109,7 @@ class BadStart(SessionTestCase):
     """The program runs, without a hoard if need be, and loses nothing of what is there."""
 
     def assert_runs(self):
-        Daemon(self.session, "--records", "3", "--date", "now-5", "--quiet")
+        Daemon(self.session).tell("pour", records=3, age=5)
         program = self.session.start_program(wait=False)
         time.sleep(3)
         self.session.assert_running(program)

@@ -6,14 +6,14 @@ import time
 import unittest
 
 from session import PATIENCE, Daemon, SessionTestCase, now, wait_until
+from system_databases import FORMS
 
 DAY = 86400
 
 
 class Recovery(SessionTestCase):
     def test_ten_thousand_old_rows_come_at_the_first_start_and_never_again(self):
-        Daemon(self.session, "--records", "10000", "--quiet", "--date", "now-60",
-               "--span", str(28 * DAY), "--form", "mixed")
+        Daemon(self.session).tell("pour", records=10000, date=now() - 60, span=28 * DAY, forms=FORMS)
         program = self.session.start_program()
         self.wait_for_count(10000, 300)
         self.session.kill(program)
@@ -80,7 +80,7 @@ class Live(SessionTestCase):
         self.assertEqual(self.session.count(), 2)
 
     def test_a_row_id_beyond_32_bits_ends_the_program(self):
-        self.daemon.append("beyond", first_rec_id=2**31)
+        self.daemon.append("beyond", rec_id=2**31)
         self.assertNotEqual(self.program.wait(PATIENCE), 0)
         self.assertIn("does not fit", self.session.log())
 
@@ -88,7 +88,7 @@ class Live(SessionTestCase):
 class Defaults(SessionTestCase):
     def test_an_excluded_application_leaves_no_row_and_moves_the_cursor(self):
         self.session.write_defaults("excludedBundleIds=com.example.secret")
-        daemon = Daemon(self.session, "--app", "com.example.secret")
+        daemon = Daemon(self.session, app="com.example.secret")
         date = now()
         daemon.append("secret", date=date)
         self.session.start_program()
@@ -99,7 +99,7 @@ class Defaults(SessionTestCase):
         self.assertEqual(self.session.titles(), ["open"])
 
     def test_a_changed_file_holds_at_the_next_start(self):
-        daemon = Daemon(self.session, "--app", "com.example.mail")
+        daemon = Daemon(self.session, app="com.example.mail")
         program = self.session.start_program()
         daemon.append("one")
         self.wait_for_count(1)
@@ -120,16 +120,15 @@ class SuddenDeath(SessionTestCase):
         rate = 200
         seconds = 0
         writer = Daemon(self.session)
-        pouring = self.session.spawn(
-            writer.process.args[0], str(self.session.usernoted), "--records", "1000000",
-            "--rate", str(rate), "--date", "now", "--app", "com.example.pouring", "--quiet")
+        pouring = Daemon(self.session)
+        pouring.send("pour", records=1000000, rate=rate, app="com.example.pouring")
         for _ in range(self.KILLS):
             program = self.session.start_program(wait=False)
             pause = moments.uniform(0.1, 1.2)
             seconds += pause
             time.sleep(pause)
             self.session.kill(program)
-        self.session.kill(pouring)
+        self.session.kill(pouring.process)
         program = self.session.start_program()
         writer.append("the last")
         wait_until(lambda: "the last" in self.session.titles(), "a row after all")

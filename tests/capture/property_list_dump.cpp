@@ -1,9 +1,9 @@
-// Prints what the program reads in binary property lists, for developers and for the judge of the
-// reader. One line of JSON for each list:
+// Prints what the program reads in binary property lists, for the judge of the reader: one line of
+// JSON for each list.
 //
-//   plist-dump FILE...           reads the files
-//   plist-dump --stream          reads lists from standard input, each after its length as eight
-//                                bytes, big end first
+//   property_list_dump FILE...           reads the files
+//   property_list_dump --stream          reads lists from standard input, each after its length as
+//                                        eight bytes, big end first
 //
 // Numbers that JSON can't hold are written as the digits of their bits, text as the digits of its
 // UTF-16 units, so that nothing is lost on the way.
@@ -135,7 +135,7 @@ int printFiles(int count, char** names) {
     for (int i = 0; i < count; ++i) {
         QFile file(QFile::decodeName(names[i]));
         if (!file.open(QIODevice::ReadOnly)) {
-            std::fprintf(stderr, "plist-dump: %s can't be read\n", names[i]);
+            std::fprintf(stderr, "property_list_dump: %s can't be read\n", names[i]);
             return 1;
         }
         print(file.readAll());
@@ -149,7 +149,7 @@ int main(int argc, char** argv) {
     if (argc == 2 && qstrcmp(argv[1], "--stream") == 0)
         return printStream();
     if (argc < 2) {
-        std::fputs("usage: plist-dump FILE... | plist-dump --stream\n", stderr);
+        std::fputs("usage: property_list_dump FILE... | property_list_dump --stream\n", stderr);
         return 2;
     }
     return printFiles(argc - 1, argv + 1);

@@ -1,0 +1,80 @@
+# Functions for tests. Included by tests/CMakeLists.txt.
+
+# What test programs are compiled with. Nobody waits for what a test computes but everybody for its
+# compilation: without optimisation and with lines alone for the debugger it takes half the time.
+add_library(tessarine_test_build INTERFACE)
+target_link_libraries(tessarine_test_build INTERFACE tessarine_build)
+target_include_directories(tessarine_test_build INTERFACE ${PROJECT_SOURCE_DIR}/tests)
+if(NOT TESSARINE_SANITIZE)
+    target_compile_options(tessarine_test_build INTERFACE -O0 -g1)
+endif()
+
+# A library of what several test programs share.
+function(tessarine_test_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS}
+                          PRIVATE tessarine_test_build ${ARG_PRIVATE_LINKS})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/tests)
+endfunction()
+
+# The target tests-LABEL builds what the tests of a label run.
+function(tessarine_tests_need target)
+    foreach(label IN LISTS ARGN)
+        if(NOT TARGET tests-${label})
+            add_custom_target(tests-${label})
+        endif()
+        add_dependencies(tests-${label} ${target})
+    endforeach()
+endfunction()
+
+# One GoogleTest program, which is one test for CTest: a process for each case would spend far more on
+# starting under the sanitizers than on testing. Its label is "view" if it draws windows, which it
+# says, otherwise "unit"; "threads" comes on top for what threads share, which ThreadSanitizer watches
+# too. SECONDS is about how long it takes, if long: CTest starts those first.
+function(tessarine_test name)
+    cmake_parse_arguments(ARG "" "TIMEOUT;SECONDS" "SOURCES;LINKS;LABELS;ENVIRONMENT" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE tessarine_test_build ${ARG_LINKS} GTest::gmock)
+    if(NOT tessarine_gui_test_support IN_LIST ARG_LINKS) # which has a main function of its own
+        target_link_libraries(${name} PRIVATE tessarine_test_main)
+    endif()
+    if(view IN_LIST ARG_LABELS)
+        tessarine_reuse_headers(${name} tessarine_view_test_headers)
+    else()
+        tessarine_reuse_headers(${name} tessarine_test_headers)
+        list(APPEND ARG_LABELS unit)
+    endif()
+    tessarine_tests_need(${name} ${ARG_LABELS})
+    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+    tessarine_test_properties(${name} "${ARG_TIMEOUT}" "${ARG_SECONDS}")
+    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}" ENVIRONMENT "${ARG_ENVIRONMENT}")
+endfunction()
+
+# tessarine_view_again(NAME PROGRAM FILTER): some tests of a program once more, as a display of double
+# density shows them.
+function(tessarine_view_again name program filter)
+    cmake_parse_arguments(ARG "" "SECONDS" "" ${ARGN})
+    add_test(NAME ${name} COMMAND ${program} --gtest_brief=1 --gtest_filter=${filter})
+    tessarine_test_properties(${name} "" "${ARG_SECONDS}")
+    set_tests_properties(${name} PROPERTIES LABELS view ENVIRONMENT QT_SCALE_FACTOR=2)
+endfunction()
+
+# A test in Python that runs a program of ours, or none, and judges what it gave.
+function(tessarine_judge name script)
+    cmake_parse_arguments(ARG "" "SECONDS" "ARGUMENTS" ${ARGN})
+    add_test(NAME ${name}
+             COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/${script} ${ARG_ARGUMENTS})
+    tessarine_test_properties(${name} "" "${ARG_SECONDS}")
+    set_tests_properties(${name} PROPERTIES LABELS unit SKIP_RETURN_CODE 77)
+endfunction()
+
+function(tessarine_test_properties name timeout seconds)
+    if(NOT timeout)
+        set(timeout 900)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${timeout})
+    if(seconds)
+        set_tests_properties(${name} PROPERTIES COST ${seconds})
+    endif()
+endfunction()
