@@ -15,7 +15,7 @@ def main():
     if len(sys.argv) != 3:
         sys.exit(__doc__)
     program, root = sys.argv[1], pathlib.Path(sys.argv[2])
-    files = sources.cpp_files(root, ["src", "tests", "tools", "bench"])
+    files = sources.cpp_files(root, ["src", "tests", "bench"])
     done = subprocess.run([program, "--dry-run", "-Werror", *files], cwd=root)
     sys.exit(done.returncode)
 
