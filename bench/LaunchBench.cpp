@@ -59,12 +59,12 @@ int runChild(int argc, char** argv, double start) {
     window.showAndMakeKey();
     services.listener->start();
     bool loaded = false;
-    QObject::connect(listener.get(), &NotificationListener::notificationsChanged, [&] {
+    QObject::connect(services.listener.get(), &NotificationListener::notificationsChanged, [&] {
         if (!loaded)
             reached("4-list-loaded", start);
         loaded = true;
     });
-    QObject::connect(window.window(), &QQuickWindow::frameSwapped, &window, [&] {
+    QObject::connect(window.window(), &QQuickWindow::frameSwapped, window.window(), [&] {
         if (!loaded)
             return;
         reached("5-list-on-screen", start);

@@ -1,15 +1,10 @@
 #pragma once
 
-#include "capture/NotificationListener.h"
-#include "support/HoardFile.h"
+#include "capture/CaptureFixture.h"
 #include "support/Printers.h"
-#include "support/SimulatedPlatform.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <optional>
+#include <vector>
 
 namespace tessarine::testing {
 
@@ -55,24 +50,12 @@ inline Line launched(qint32 as) {
 
 // A listener in a session whose banner process runs, with the permission granted. Nothing is
 // started.
-class BannerLayerFixture : public ::testing::Test {
+class BannerLayerFixture : public CaptureFixture {
 protected:
-    BannerLayerFixture()
-        : system_(folder_.path()) {
+    BannerLayerFixture() {
         system_.accessibility.trusted = true;
         runBannerProcess(pid);
-        preferences_.emplace(system_.defaults);
-        diagnostics_.emplace(system_.scheduler, hoard());
-        listener_ =
-            NotificationListener::create({hoard(), *preferences_, *diagnostics_, system_.platform});
-        QObject::connect(listener_.get(), &NotificationListener::notificationsChanged,
-                         [this] { ++published_; });
-    }
-
-    HoardStore& hoard() {
-        if (!hoard_)
-            hoard_.emplace(system_.fileSystem, system_.defaults, system_.scheduler);
-        return *hoard_;
+        makeServices();
     }
 
     void launch() {
@@ -131,23 +114,6 @@ protected:
     }
 
     const QString& status() const { return diagnostics_->axStatus(); }
-
-    std::vector<QString> stored(const QString& column = u"title"_qs) {
-        std::vector<QString> texts;
-        for (const QStringList& row :
-             DatabaseFile(hoard().path())
-                 .rows(u"SELECT %1 FROM notifications ORDER BY id"_qs.arg(column)))
-            texts.push_back(row.front());
-        return texts;
-    }
-
-    QTemporaryDir folder_;
-    SimulatedPlatform system_;
-    std::optional<HoardStore> hoard_;
-    std::optional<PreferencesStore> preferences_;
-    std::optional<DiagnosticsStore> diagnostics_;
-    std::shared_ptr<NotificationListener> listener_;
-    int published_ = 0;
 };
 
 } // namespace tessarine::testing

@@ -1,13 +1,10 @@
-#include "capture/NotificationListener.h"
-#include "support/HoardFile.h"
+#include "capture/CaptureFixture.h"
 #include "support/Printers.h"
-#include "support/SimulatedPlatform.h"
 #include "support/SystemDatabases.h"
 #include "support/SystemPayloads.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -27,26 +24,10 @@ using namespace Qt::StringLiterals;
 constexpr double start = ManualScheduler::startOfTime;
 constexpr double day = 86400.0;
 
-class LegacyLayerTest : public ::testing::Test {
+class LegacyLayerTest : public testing::CaptureFixture {
 protected:
-    LegacyLayerTest()
-        : system_(folder_.path()) {}
-
-    HoardStore& hoard() {
-        if (!hoard_)
-            hoard_.emplace(system_.fileSystem, system_.defaults, system_.scheduler);
-        return *hoard_;
-    }
-
     // The services as a new process would make them.
-    void launch() {
-        preferences_.emplace(system_.defaults);
-        diagnostics_.emplace(system_.scheduler, hoard());
-        listener_ =
-            NotificationListener::create({hoard(), *preferences_, *diagnostics_, system_.platform});
-        QObject::connect(listener_.get(), &NotificationListener::notificationsChanged,
-                         [this] { ++published_; });
-    }
+    void launch() { makeServices(); }
 
     void launchAndStart() {
         launch();
@@ -55,10 +36,7 @@ protected:
     }
 
     void relaunch() {
-        listener_.reset();
-        diagnostics_.reset();
-        preferences_.reset();
-        hoard_.reset();
+        endProcess();
         launchAndStart();
     }
 
@@ -109,15 +87,6 @@ protected:
 
     void written() { written(listener_->legacyDbPath()); }
 
-    std::vector<QString> stored(const QString& column = u"title"_qs) {
-        std::vector<QString> texts;
-        for (const QStringList& row :
-             testing::DatabaseFile(hoard().path())
-                 .rows(u"SELECT %1 FROM notifications ORDER BY id"_qs.arg(column)))
-            texts.push_back(row.front());
-        return texts;
-    }
-
     // This layer's lines, oldest first. Each one is a success.
     std::vector<QString> logged() const {
         std::vector<QString> messages;
@@ -132,15 +101,8 @@ protected:
 
     qint64 savedCursor() const { return system_.defaults.integer(u"lastSeenSystemNoteId"_qs); }
 
-    QTemporaryDir folder_;
-    testing::SimulatedPlatform system_;
     QString legacyFolder_ = folder_.filePath(u"Library/Application Support/NotificationCenter"_qs);
     testing::LegacyWriter writer_{legacyFolder_ + u"/legacy.db"_qs};
-    std::optional<HoardStore> hoard_;
-    std::optional<PreferencesStore> preferences_;
-    std::optional<DiagnosticsStore> diagnostics_;
-    std::shared_ptr<NotificationListener> listener_;
-    int published_ = 0;
 };
 
 // Finding the file

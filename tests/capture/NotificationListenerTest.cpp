@@ -518,8 +518,8 @@ TEST_F(ListenerTest, ACaptureDuringTheRecoveryIsNotHiddenByTheOlderReading) {
         ASSERT_TRUE(hoard().insertDeduplicated(banner));
         listener_->setNotifications(hoard().fetchRecent(500));
     };
-    const OpeningWatch fileSystem(folder_.path(), [&] { system_.scheduler.onMain(capture); });
-    hoard_.emplace(fileSystem, system_.defaults, system_.scheduler);
+    system_.platform.fileSystem =
+        std::make_unique<OpeningWatch>(folder_.path(), [&] { system_.scheduler.onMain(capture); });
     launch();
     listener_->start();
     system_.scheduler.settle();
