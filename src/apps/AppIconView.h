@@ -20,7 +20,7 @@ class AppIconResolver;
 // Main thread.
 class AppIconView : public QQuickItem {
     Q_OBJECT
-    QML_NAMED_ELEMENT(AppIconViewState)
+    QML_ELEMENT
     Q_PROPERTY(QString bundleId MEMBER bundleId_ WRITE setBundleId NOTIFY bundleIdChanged)
     Q_PROPERTY(QString appName MEMBER appName_ WRITE setAppName NOTIFY appNameChanged)
     Q_PROPERTY(double cornerRadius MEMBER cornerRadius_ NOTIFY cornerRadiusChanged)

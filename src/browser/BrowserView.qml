@@ -104,7 +104,7 @@ Rectangle {
 
         // A loader can't make a component that is bound to this file.
         sourceComponent: Item {
-            ExportOptionsSheet {
+            ExportSheet {
                 objectName: "exportSheet"
                 options: root.view.overlays.exportSheet // qmllint disable unqualified
                 visible: true

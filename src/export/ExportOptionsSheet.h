@@ -39,7 +39,7 @@ public:
 // runs, it leaves the file to be written and nothing else to happen. Main thread.
 class ExportOptionsSheet : public QObject {
     Q_OBJECT
-    QML_NAMED_ELEMENT(ExportOptionsSheetState)
+    QML_ELEMENT
     QML_UNCREATABLE("The window that exports brings it")
     Q_PROPERTY(int count READ count CONSTANT)
     Q_PROPERTY(QList<tessarine::ExportFormatCard> cards READ cards CONSTANT)

@@ -29,9 +29,9 @@ import Tessarine.Theme
 
 Rectangle {
     id: scene
-    required property ExportOptionsSheetState options
+    required property ExportOptionsSheet options
     color: Theme.colours.windowBackground
-    ExportOptionsSheet {
+    ExportSheet {
         objectName: "sheet"
         options: scene.options
         visible: true

@@ -22,7 +22,7 @@ protected:
 
     AppIconView* add(const QString& bundleId, const QString& appName, double x = 0) {
         QQmlComponent component(views.engine.get());
-        component.setData("import Tessarine.Apps\nAppIconView { width: 36; height: 36; "
+        component.setData("import Tessarine.Apps\nAppIconTile { width: 36; height: 36; "
                           "cornerRadius: 8 }",
                           QUrl());
         EXPECT_TRUE(component.isReady()) << component.errorString().toStdString();

@@ -81,7 +81,7 @@ TEST_F(PreviewTest, HasItsIdealSizeInTheMiddleOfTheWindow) {
 TEST_F(PreviewTest, ItsPartsHaveTheirPlaces) {
     openOn(u"Title 3"_qs);
     const QRectF panel = place();
-    const QQuickItem& icon = *below("AppIconView");
+    const QQuickItem& icon = *below("AppIconTile");
     EXPECT_EQ(icon.mapRectToScene(icon.boundingRect()),
               QRectF(panel.left() + 20, panel.top() + 20, 44, 44));
     EXPECT_EQ(icon.property("cornerRadius").toDouble(), 10);

@@ -163,8 +163,8 @@ TEST_P(RowMetricsTest, CardsStandFourApartWithFourAboveTheFirst) {
 }
 
 TEST_P(RowMetricsTest, TheIconIs36WideInsideThePadding) {
-    EXPECT_EQ(place(part("AppIconView")), QRectF(8 + 10, 6, 36, 36));
-    EXPECT_EQ(part("AppIconView").property("cornerRadius").toDouble(), 8);
+    EXPECT_EQ(place(part("AppIconTile")), QRectF(8 + 10, 6, 36, 36));
+    EXPECT_EQ(part("AppIconTile").property("cornerRadius").toDouble(), 8);
 }
 
 TEST_P(RowMetricsTest, TheTextsStandTenBesideTheIconWithTwoBetweenThem) {
@@ -233,7 +233,7 @@ TEST_P(RowMetricsTest, AMaskedRowSaysHowToSeeMoreInThePlaceOfTheTime) {
 TEST_P(RowMetricsTest, BadgesStandInTheCornersOfTheIcon) {
     view().actions()->togglePinned(view().list()->lines()->entries()[2].notification.id);
     mask();
-    const QRectF icon = place(part("AppIconView"));
+    const QRectF icon = place(part("AppIconTile"));
     const QQuickItem& lock = symbol(u"lock.fill"_qs);
     const QQuickItem& pin = symbol(u"pin.fill"_qs);
     EXPECT_EQ(lock.property("size").toInt(), 9);
@@ -253,7 +253,7 @@ TEST_P(RowMetricsTest, InSelectionModeACircleStandsBeforeTheIcon) {
     view().selection()->enterSelectionMode();
     EXPECT_TRUE(turnsUntil([&] {
         draw();
-        return place(part("AppIconView")).left() == 18 + 24 + 10;
+        return place(part("AppIconTile")).left() == 18 + 24 + 10;
     }));
     const QQuickItem& circle = symbol(u"circle"_qs);
     EXPECT_EQ(circle.property("size").toInt(), 18);

@@ -59,7 +59,7 @@ Rectangle {
         onClicked: section.toggled(section.header.key)
     }
 
-    AppIconView {
+    AppIconTile {
         id: icon
 
         anchors.left: chevron.right

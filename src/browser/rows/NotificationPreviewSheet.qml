@@ -41,7 +41,7 @@ Sheet {
             width: parent.width
             height: sheet.headerIcon + 2 * Metrics.sheetPadding
 
-            AppIconView {
+            AppIconTile {
                 id: icon
 
                 x: Metrics.sheetPadding

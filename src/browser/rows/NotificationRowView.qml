@@ -175,7 +175,7 @@ Item {
         checked: row.isSelected
     }
 
-    AppIconView {
+    AppIconTile {
         id: icon
 
         anchors.left: circle.right

@@ -4,7 +4,7 @@ import Tessarine.Controls
 import Tessarine.Theme
 
 // The icon of an application, or a tile with its initials while there is none.
-AppIconViewState {
+AppIconView {
     id: view
 
     readonly property int tileRadius: 7

@@ -10,7 +10,7 @@ import Tessarine.Theme
 Sheet {
     id: sheet
 
-    required property ExportOptionsSheetState options
+    required property ExportOptionsSheet options
 
     readonly property int fixedWidth: 460
     readonly property int margin: Metrics.sheetPadding
