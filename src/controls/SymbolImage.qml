@@ -11,6 +11,6 @@ Image {
     height: size
     sourceSize.width: size
     sourceSize.height: size
-    source: symbol ? "image://symbols/" + symbol + "/" + tint : ""
+    source: Theme.symbolSource(symbol, tint)
     Accessible.ignored: true
 }

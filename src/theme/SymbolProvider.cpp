@@ -10,6 +10,11 @@ constexpr int defaultPixels = 16; // where the view names no size
 
 } // namespace
 
+QString symbolAddress(const QString& name, const QColor& tint) {
+    const QColor::NameFormat format = tint.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb;
+    return QStringLiteral("image://symbols/%1/%2").arg(name, tint.name(format));
+}
+
 SymbolProvider::SymbolProvider(const Symbols& symbols)
     : QQuickImageProvider(QQuickImageProvider::Image)
     , symbols_(symbols) {}

@@ -6,6 +6,9 @@ namespace tessarine {
 
 class Symbols;
 
+// The address of a symbol in a colour, which may be translucent.
+QString symbolAddress(const QString& name, const QColor& tint);
+
 // Symbols for QML: "image://symbols/bell.slash/#84848a" is that symbol in that colour.
 class SymbolProvider : public QQuickImageProvider {
 public:

@@ -1,6 +1,7 @@
 #include "theme/Theme.h"
 
 #include "theme/Fonts.h"
+#include "theme/SymbolProvider.h"
 
 #include <QJSEngine>
 #include <QQmlEngine>
@@ -40,6 +41,12 @@ QFont Theme::textFont(int size) const {
     QFont font = tessarine::textFont();
     font.setPixelSize(size);
     return font;
+}
+
+// Not composed in QML: in Qt 6.4 its compiled code may end the program while it turns a colour into
+// a text.
+QString Theme::symbolSource(const QString& name, const QColor& tint) const {
+    return name.isEmpty() ? QString() : symbolAddress(name, tint);
 }
 
 QString Theme::tabularFamily() const {

@@ -42,6 +42,9 @@ public:
     // itself.
     Q_INVOKABLE QFont textFont(int size) const;
 
+    // Where an Image finds the symbol in this colour. An empty name gives an empty address.
+    Q_INVOKABLE QString symbolSource(const QString& name, const QColor& tint) const;
+
     // The face for numbers that stand in columns.
     QString tabularFamily() const;
 
