@@ -8,8 +8,7 @@ endif()
 
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # A precompiled header tells ccache less about macros and times than the headers themselves.
-    set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
 # The linker that comes with the compiler takes most of the time of a build after a small change.
@@ -35,37 +34,9 @@ if(TESSARINE_SANITIZE MATCHES thread)
 endif()
 
 # Of the time that a source takes to compile, more than half goes into the headers of Qt and the
-# standard library. With TESSARINE_PRECOMPILE they are compiled once for each kind of target; builds
-# without it, as those with sanitizers, see to it that each source includes what it uses.
-set(TESSARINE_CORE_HEADERS
-    <QByteArray> <QDateTime> <QDir> <QFile> <QHash> <QList> <QObject> <QPointer> <QSet> <QString>
-    <QStringList> <QTimer> <QVariant> <algorithm> <array> <chrono> <cmath> <condition_variable>
-    <functional> <limits> <map> <memory> <mutex> <optional> <string> <utility> <variant> <vector>)
-set(TESSARINE_VIEW_HEADERS
-    ${TESSARINE_CORE_HEADERS} <QAbstractListModel> <QColor> <QFont> <QGuiApplication> <QImage>
-    <QKeyEvent> <QPainter> <QQmlEngine> <QQuickItem> <QQuickWindow> <QtQml/qqmlregistration.h>)
-
-# tessarine_headers(TARGET STATIC|PROGRAM HEADERS LIBRARY...): a target that exists for its
-# precompiled headers alone.
-function(tessarine_headers name kind headers)
-    set(source ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
-    file(CONFIGURE OUTPUT ${source} CONTENT "int main() {}\n")
-    if(kind STREQUAL STATIC)
-        add_library(${name} STATIC ${source})
-    else()
-        add_executable(${name} ${source})
-    endif()
-    target_link_libraries(${name} PRIVATE ${ARGN})
-    target_precompile_headers(${name} PRIVATE ${headers})
-endfunction()
-
-# tessarine_reuse_headers(TARGET HEADERS): HEADERS is a target whose precompiled headers serve others
-# of its kind, which is library or program.
-function(tessarine_reuse_headers name headers)
-    if(TESSARINE_PRECOMPILE)
-        target_precompile_headers(${name} REUSE_FROM ${headers})
-    endif()
-endfunction()
+# standard library. Compiling several sources as one saves that: all tests, and the program where
+# CMAKE_UNITY_BUILD says so. A build without it sees to it that each source includes what it uses.
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
 
 # A static library of one folder (or a part of one); links what it names and nothing else. MOC where
 # it has classes with signals: looking for such in every target would cost more than compiling many.
@@ -75,7 +46,6 @@ function(tessarine_library name)
     set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE tessarine_build ${ARG_PRIVATE_LINKS})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-    tessarine_reuse_headers(${name} tessarine_core_headers)
 endfunction()
 
 # What Qt's QML compiler writes is not ours to mend: no warnings for it. A file of C++ for each view
@@ -85,7 +55,7 @@ function(tessarine_generated_qml_code name)
     get_target_property(sources ${name} SOURCES)
     list(FILTER sources INCLUDE REGEX "/qmlcache/")
     set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS "-w;-g0"
-                                SKIP_PRECOMPILE_HEADERS ON)
+                                SKIP_UNITY_BUILD_INCLUSION ON)
     if(TESSARINE_SANITIZE)
         set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
     endif()
@@ -97,7 +67,7 @@ function(tessarine_generated_qml_code name)
     set(together ${CMAKE_CURRENT_BINARY_DIR}/${name}_views.cpp)
     file(CONFIGURE OUTPUT ${together} CONTENT "${includes}\n" @ONLY)
     set_source_files_properties(${together} PROPERTIES COMPILE_OPTIONS "-w;-g0" SKIP_AUTOGEN ON
-                                SKIP_PRECOMPILE_HEADERS ON)
+                                SKIP_UNITY_BUILD_INCLUSION ON)
     target_sources(${name} PRIVATE ${together})
 endfunction()
 
@@ -112,5 +82,4 @@ function(tessarine_qml_module name)
         DEPENDENCIES ${ARG_DEPENDENCIES}
         QML_FILES ${ARG_QML_FILES})
     tessarine_generated_qml_code(${name})
-    tessarine_reuse_headers(${name} tessarine_view_headers)
 endfunction()

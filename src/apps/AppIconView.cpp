@@ -18,9 +18,9 @@ constexpr char resolverProperty[] = "tessarineAppIcons";
 
 } // namespace
 
-void installAppIcons(QQmlEngine& engine, std::shared_ptr<AppIconResolver> resolver) {
+void installAppIcons(QQmlEngine& engine, const std::shared_ptr<AppIconResolver>& resolver) {
     engine.addImageProvider(QStringLiteral("appicons"), new AppIconProvider(resolver));
-    engine.setProperty(resolverProperty, QVariant::fromValue(std::move(resolver)));
+    engine.setProperty(resolverProperty, QVariant::fromValue(resolver));
 }
 
 AppIconView::AppIconView(QQuickItem* parent)

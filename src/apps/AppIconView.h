@@ -71,6 +71,6 @@ private:
 
 // Lets the views of the engine ask this resolver. Once for an engine; without it, views keep their
 // placeholders.
-void installAppIcons(QQmlEngine& engine, std::shared_ptr<AppIconResolver> resolver);
+void installAppIcons(QQmlEngine& engine, const std::shared_ptr<AppIconResolver>& resolver);
 
 } // namespace tessarine

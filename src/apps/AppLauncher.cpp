@@ -72,7 +72,7 @@ std::optional<QString> AppLauncher::findByName(const QString& appName) const {
                               QStringLiteral("/System/Applications/Utilities"),
                               fileSystem_.expandingTilde(QStringLiteral("~/Applications"))};
     for (const QString& folder : folders) {
-        if (const std::optional<QString> path = workspace_.applicationInFolder(folder, appName))
+        if (std::optional<QString> path = workspace_.applicationInFolder(folder, appName))
             return path;
     }
     return std::nullopt;

@@ -67,7 +67,7 @@ std::optional<QImage> iconByName(const IconSources& sources, const QString& appN
         sources.fileSystem.expandingTilde(QStringLiteral("~/Applications"))};
     for (const QString& folder : folders) {
         const auto path = sources.workspace.applicationInFolder(folder, appName);
-        if (const auto icon = realIcon(sources, path))
+        if (auto icon = realIcon(sources, path))
             return icon;
     }
     return std::nullopt;
@@ -141,7 +141,7 @@ std::optional<QImage> lookUpSystemSettingsIcon(const IconSources& sources, const
          {QStringLiteral("System Settings"), QStringLiteral("System Preferences")}) {
         const auto path =
             sources.workspace.applicationInFolder(QStringLiteral("/System/Applications"), name);
-        if (const auto icon = realIcon(sources, path))
+        if (auto icon = realIcon(sources, path))
             return icon;
     }
     const QImage symbol =

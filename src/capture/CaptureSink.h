@@ -28,7 +28,7 @@ public:
 
     // How much may be pending: notifications, and characters of their texts.
     static constexpr std::size_t maximumPending = 50000;
-    static constexpr qsizetype maximumPendingCharacters = 32 * 1024 * 1024;
+    static constexpr qsizetype maximumPendingCharacters = 32LL * 1024 * 1024;
 
     explicit CaptureSink(Services services);
 

@@ -18,21 +18,6 @@ constexpr char magic[] = "bplist0";
 constexpr quint64 headerSize = 8;
 constexpr quint64 trailerSize = 32;
 
-// The upper half of the byte that an object begins with.
-enum class Kind : quint8 {
-    singleton = 0x0,
-    integer = 0x1,
-    real = 0x2,
-    date = 0x3,
-    data = 0x4,
-    asciiText = 0x5,
-    utf16Text = 0x6,
-    uid = 0x8,
-    array = 0xa,
-    set = 0xc,
-    dictionary = 0xd,
-};
-
 // The lower half of a singleton's byte.
 constexpr quint8 nullDetail = 0x0;
 constexpr quint8 falseDetail = 0x8;
@@ -83,6 +68,21 @@ std::optional<qint64> readSixteenByteInteger(const uchar* bytes) {
 }
 
 } // namespace
+
+// The upper half of the byte that an object begins with.
+enum class PropertyList::Kind : quint8 {
+    singleton = 0x0,
+    integer = 0x1,
+    real = 0x2,
+    date = 0x3,
+    data = 0x4,
+    asciiText = 0x5,
+    utf16Text = 0x6,
+    uid = 0x8,
+    array = 0xa,
+    set = 0xc,
+    dictionary = 0xd,
+};
 
 // What the first bytes of an object tell.
 struct PropertyList::Object {
@@ -235,7 +235,7 @@ private:
     }
 
     void open(quint64 index, const PropertyList::Object& object) {
-        const quint64 keys = object.kind == Kind::dictionary ? object.count : 0;
+        const quint64 keys = object.kind == PropertyList::Kind::dictionary ? object.count : 0;
         mark(index) = Mark::open;
         open_.append(
             {index, object.contents, object.contents + keys * layout_.referenceWidth, object.end});
@@ -251,9 +251,10 @@ private:
 
     bool contentsAreSound(const PropertyList::Object& object) const {
         const uchar* bytes = layout_.bytes + object.contents;
-        if (object.kind == Kind::asciiText)
+        if (object.kind == PropertyList::Kind::asciiText)
             return std::all_of(bytes, bytes + object.count, [](uchar byte) { return byte < 0x80; });
-        return object.kind != Kind::uid || readNumber(bytes, object.count) <= maximumUid;
+        return object.kind != PropertyList::Kind::uid ||
+               readNumber(bytes, object.count) <= maximumUid;
     }
 
     Mark& mark(quint64 index) { return marks_[static_cast<qsizetype>(index)]; }

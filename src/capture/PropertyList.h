@@ -67,6 +67,7 @@ private:
 
         quint64 offsetOf(quint64 index) const;
     };
+    enum class Kind : quint8;
     struct Object;
 
     PropertyList(const Layout& layout, quint64 root)

@@ -2,12 +2,12 @@
 
 namespace tessarine {
 
-Services::Services(Platform& system)
-    : platform(system)
-    , hoard(*system.fileSystem, *system.userDefaults, *system.scheduler)
-    , preferences(*system.userDefaults)
-    , diagnostics(*system.scheduler, hoard)
-    , listener(NotificationListener::create({hoard, preferences, diagnostics, system}))
-    , launcher(*system.workspace, *system.fileSystem, *system.scheduler) {}
+Services::Services(Platform& platform)
+    : platform(platform)
+    , hoard(*platform.fileSystem, *platform.userDefaults, *platform.scheduler)
+    , preferences(*platform.userDefaults)
+    , diagnostics(*platform.scheduler, hoard)
+    , listener(NotificationListener::create({hoard, preferences, diagnostics, platform}))
+    , launcher(*platform.workspace, *platform.fileSystem, *platform.scheduler) {}
 
 } // namespace tessarine

@@ -7,10 +7,10 @@
 
 namespace tessarine {
 
-ViewServices::ViewServices(Services& given, Desktop& system, SetPasteboard pasteboard)
-    : services(given)
-    , desktop(system)
-    , setPasteboard(std::move(pasteboard))
+ViewServices::ViewServices(Services& services, Desktop& desktop, SetPasteboard setPasteboard)
+    : services(services)
+    , desktop(desktop)
+    , setPasteboard(std::move(setPasteboard))
     , theme(*desktop.appearance)
     , icons(AppIconResolver::create(*services.platform.scheduler,
                                     {*services.platform.workspace, *services.platform.fileSystem,

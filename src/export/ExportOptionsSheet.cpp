@@ -100,7 +100,7 @@ void ExportOptionsSheet::runExport() {
 std::optional<QString> ExportOptionsSheet::askForPath() {
     const AliveGuard::Token self = alive_.token();
     asksForPath_ = true;
-    const std::optional<QString> path = services_.exports.askSaveURL(selectedFormat_);
+    std::optional<QString> path = services_.exports.askSaveURL(selectedFormat_);
     if (!self.isAlive())
         return std::nullopt;
     asksForPath_ = false;

@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 using ::testing::Pair;
 
 // A list of rows with these keys in the hoard.
-ListEntries rows(std::initializer_list<qint64> keys) {
+ListEntries entries(std::initializer_list<qint64> keys) {
     NotificationList list;
     for (const qint64 key : keys) {
         list.emplace_back();
@@ -21,38 +21,40 @@ ListEntries rows(std::initializer_list<qint64> keys) {
 }
 
 TEST(KeptRows, AreAllWhenNothingChanged) {
-    EXPECT_THAT(keptRows(rows({1, 2, 3}), rows({1, 2, 3})),
+    EXPECT_THAT(keptRows(entries({1, 2, 3}), entries({1, 2, 3})),
                 ElementsAre(Pair(0, 0), Pair(1, 1), Pair(2, 2)));
 }
 
 TEST(KeptRows, AreNoneBetweenStrangers) {
-    EXPECT_THAT(keptRows(rows({1, 2}), rows({3, 4})), IsEmpty());
-    EXPECT_THAT(keptRows({}, rows({1})), IsEmpty());
-    EXPECT_THAT(keptRows(rows({1}), {}), IsEmpty());
+    EXPECT_THAT(keptRows(entries({1, 2}), entries({3, 4})), IsEmpty());
+    EXPECT_THAT(keptRows({}, entries({1})), IsEmpty());
+    EXPECT_THAT(keptRows(entries({1}), {}), IsEmpty());
 }
 
 TEST(KeptRows, MoveDownWhenRowsComeInFront) {
-    EXPECT_THAT(keptRows(rows({1, 2}), rows({8, 9, 1, 2})), ElementsAre(Pair(0, 2), Pair(1, 3)));
+    EXPECT_THAT(keptRows(entries({1, 2}), entries({8, 9, 1, 2})),
+                ElementsAre(Pair(0, 2), Pair(1, 3)));
 }
 
 TEST(KeptRows, LeaveOutWhatWentFromTheMiddle) {
-    EXPECT_THAT(keptRows(rows({1, 2, 3}), rows({1, 3})), ElementsAre(Pair(0, 0), Pair(2, 1)));
+    EXPECT_THAT(keptRows(entries({1, 2, 3}), entries({1, 3})), ElementsAre(Pair(0, 0), Pair(2, 1)));
 }
 
 TEST(KeptRows, AreAsManyAsTheOrderAllowsWhenARowMoves) {
-    EXPECT_THAT(keptRows(rows({1, 2, 3, 4}), rows({4, 1, 2, 3})),
+    EXPECT_THAT(keptRows(entries({1, 2, 3, 4}), entries({4, 1, 2, 3})),
                 ElementsAre(Pair(0, 1), Pair(1, 2), Pair(2, 3)));
 }
 
 TEST(KeptRows, MayHaveChangedInContent) {
-    ListEntries after = rows({1, 2, 3});
+    ListEntries after = entries({1, 2, 3});
     after[1].notification.pinned = true;
-    EXPECT_THAT(keptRows(rows({1, 2, 3}), after), ElementsAre(Pair(0, 0), Pair(1, 1), Pair(2, 2)));
+    EXPECT_THAT(keptRows(entries({1, 2, 3}), after),
+                ElementsAre(Pair(0, 0), Pair(1, 1), Pair(2, 2)));
 }
 
 TEST(KeptRows, OfOneKeyPairUpInTheirOrder) {
-    ListEntries before = rows({0, 0, 0});
-    ListEntries after = rows({0, 0});
+    ListEntries before = entries({0, 0, 0});
+    ListEntries after = entries({0, 0});
     before[0].notification.title = QStringLiteral("a");
     after[0].notification.title = QStringLiteral("b");
     after[1].notification.title = QStringLiteral("c");
@@ -77,7 +79,7 @@ TEST(KeptRows, AreTheHeadersOfGroupsThatOpenAndClose) {
 }
 
 TEST(KeptRows, AreTheRowsWhenGroupingBegins) {
-    EXPECT_THAT(keptRows(rows({1, 2}), grouped({})), ElementsAre(Pair(0, 1), Pair(1, 3)));
+    EXPECT_THAT(keptRows(entries({1, 2}), grouped({})), ElementsAre(Pair(0, 1), Pair(1, 3)));
 }
 
 } // namespace

@@ -20,23 +20,23 @@ using testing::ManualScheduler;
 using testing::SimulatedAccessibility;
 using namespace Qt::StringLiterals;
 
-constexpr qint32 pid = 501;
+constexpr qint32 shellPid = 501;
 
 class AnnouncementScanTest : public ::testing::Test {
 protected:
     std::vector<QString> scan() {
         std::vector<QString> titles;
-        runBannerScan(accessibility_, scheduler_, pid,
+        runBannerScan(accessibility_, scheduler_, shellPid,
                       [&](const CapturedNotification& record) { titles.push_back(record.title); });
         return titles;
     }
 
     void show(const std::vector<AXElementRef>& windows) {
-        accessibility_.application(pid)->attributes[ax::windows] = windows;
+        accessibility_.application(shellPid)->attributes[ax::windows] = windows;
     }
 
     static ElementPtr banner(const QString& title) {
-        return makeGroup(pid, u"Mail"_qs, {makeText(pid, title)});
+        return makeGroup(shellPid, u"Mail"_qs, {makeText(shellPid, title)});
     }
 
     ManualScheduler scheduler_;
@@ -45,13 +45,13 @@ protected:
 
 TEST_F(AnnouncementScanTest, TakesAnAnnouncementAsItIs) {
     const ElementPtr group =
-        makeGroup(pid, u"drawn, otherwise"_qs,
-                  {makeText(pid, u"drawn title"_qs), makeText(pid, u"5m ago"_qs)});
+        makeGroup(shellPid, u"drawn, otherwise"_qs,
+                  {makeText(shellPid, u"drawn title"_qs), makeText(shellPid, u"5m ago"_qs)});
     group->announcement = Announcement{u"Foo, Inc."_qs, u"Meeting 14:30 - 15:00, Room 5"_qs,
                                        u"Today at 10:00"_qs, 784999999.75};
     show({group});
     std::vector<CapturedNotification> records;
-    runBannerScan(accessibility_, scheduler_, pid,
+    runBannerScan(accessibility_, scheduler_, shellPid,
                   [&](CapturedNotification record) { records.push_back(std::move(record)); });
     ASSERT_EQ(records.size(), 1U);
     CapturedNotification expected;
@@ -77,7 +77,7 @@ TEST_F(AnnouncementScanTest, TakesAnAnnouncementOnce) {
 TEST_F(AnnouncementScanTest, GivesNoRecordForAnAnnouncementThatIsTakenBeforeItsTurn) {
     const ElementPtr group = banner(u"drawn"_qs);
     group->announcement = Announcement{u"Mail"_qs, u"announced"_qs, {}, 0};
-    const ElementPtr last = makeElement(pid, u"AXWindow"_qs);
+    const ElementPtr last = makeElement(shellPid, u"AXWindow"_qs);
     last->onRead = [&](const QString&) { accessibility_.takeAnnouncement(group); };
     show({group, last});
     EXPECT_THAT(scan(), IsEmpty());
@@ -91,7 +91,7 @@ TEST_F(AnnouncementScanTest, CancelledBetweenBannersLeavesTheNextAnnouncementUnt
     second->announcement = Announcement{u"Mail"_qs, u"b"_qs, {}, 0};
     show({first, second});
     runBannerScan(
-        accessibility_, scheduler_, pid,
+        accessibility_, scheduler_, shellPid,
         [&](const CapturedNotification&) { cancelling.request_stop(); }, cancelling.get_token());
     EXPECT_THAT(scan(), ElementsAre(u"b"_qs));
 }

@@ -96,7 +96,7 @@ protected:
 
     // A banner whose title takes this many seconds to be read.
     ElementPtr showSlowly(const QString& title, double seconds) {
-        const ElementPtr group = show(u"Mail"_qs, {});
+        ElementPtr group = show(u"Mail"_qs, {});
         const ElementPtr text = makeText(pid, title);
         text->delays[ax::value] = seconds;
         group->attributes[ax::children] = std::vector<AXElementRef>{text};

@@ -19,8 +19,8 @@ using namespace Qt::StringLiterals;
 constexpr double now = 784987200.75;
 constexpr qint64 nowUnix = 1763294400;
 constexpr double midnight = 784944000.0; // the beginning of that day
+constexpr qint64 oneDay = 86400;
 constexpr qint64 midnightUnix = 1763251200;
-constexpr qint64 day = 86400;
 
 // A moment as the record holds it: exact in seconds since 2001, and whole since 1970.
 struct Moment {
@@ -43,7 +43,7 @@ constexpr Moment today(qint64 hour, qint64 minute) {
 }
 
 constexpr Moment yesterday(qint64 hour, qint64 minute) {
-    return afterMidnight(hour * 3600 + minute * 60 - day);
+    return afterMidnight(hour * 3600 + minute * 60 - oneDay);
 }
 
 struct Row {
@@ -167,7 +167,7 @@ INSTANTIATE_TEST_SUITE_P(
         token("TwentyFiveSixtyOneCarriesOver", "25:61", today(2, 1)),
         token("NinetyNineMinutesCarryOver", "10:99", today(11, 39)),
         // 99 hours and 99 minutes after midnight, less one day: still to come.
-        token("FourDaysCarriedOverMinusOneDay", "99:99", afterMidnight(362340 - day)),
+        token("FourDaysCarriedOverMinusOneDay", "99:99", afterMidnight(362340 - oneDay)),
         token("JustNow", "Just now", atScan), token("Seconds", "30s ago", secondsAgo(30)),
         token("Minutes", "5m ago", secondsAgo(300)), token("Hours", "3h ago", secondsAgo(10800)),
         token("Days", "2d ago", secondsAgo(172800)), token("ZeroSeconds", "0s ago", atScan),

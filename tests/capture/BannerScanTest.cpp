@@ -52,7 +52,7 @@ protected:
     }
 
     static ElementPtr holding(const QString& role, const std::vector<AXElementRef>& children) {
-        const ElementPtr element = makeElement(pid, role);
+        ElementPtr element = makeElement(pid, role);
         element->attributes[ax::children] = children;
         return element;
     }

@@ -17,6 +17,8 @@ namespace tessarine::testing {
 // The program's services over the simulated platform, as one process after the other makes them.
 class CaptureFixture : public ::testing::Test {
 protected:
+    static constexpr double start = ManualScheduler::startOfTime;
+
     CaptureFixture()
         : system_(folder_.path()) {}
 

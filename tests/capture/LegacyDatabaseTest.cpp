@@ -25,7 +25,7 @@ using testing::PlistValue;
 using namespace Qt::StringLiterals;
 
 constexpr double base = 785000000.0;
-constexpr double now = base + 1000.5;
+constexpr double readingTime = base + 1000.5;
 
 void makeFile(const QString& path, const QByteArray& bytes = {}) {
     QFile file(path);
@@ -55,9 +55,9 @@ protected:
 
     NotificationList read(qint64 lastNoteId = 0,
                           const LegacyAppNames& names = {{1, u"com.example.mail"_qs}}) {
-        return readLegacyDatabase(path_, lastNoteId, names, now, [](const QString& bundleId) {
-            return u"name of "_qs + bundleId;
-        });
+        return readLegacyDatabase(
+            path_, lastNoteId, names, readingTime,
+            [](const QString& bundleId) { return u"name of "_qs + bundleId; });
     }
 
     std::vector<QString> titles(const NotificationList& records) {
@@ -148,12 +148,12 @@ TEST_F(LegacyReadingTest, ReadsApplicationNumbersAsThirtyTwoBits) {
 
 TEST_F(LegacyReadingTest, AMissingDateIsTheTimeOfTheReading) {
     add(1, {u"a"_qs, {}, std::nullopt});
-    EXPECT_EQ(read().front().timestamp, now);
+    EXPECT_EQ(read().front().timestamp, readingTime);
 }
 
 TEST_F(LegacyReadingTest, ADatePastTheEndOfTheArchiveIsTheTimeOfTheReading) {
     add(1, testing::legacyPayload({u"a"_qs, u"b"_qs, base}, 5)); // the date is object 5
-    EXPECT_EQ(read().front().timestamp, now);
+    EXPECT_EQ(read().front().timestamp, readingTime);
     EXPECT_EQ(read().front().body, u"b"_qs);
 }
 
@@ -263,7 +263,7 @@ TEST_F(LegacyReadingTest, ADateWithoutANumberIsTheTimeOfTheReading) {
                 PlistValue::string(u"a"_qs),
                 PlistValue::dictionary({{u"NS.time"_qs, PlistValue::string(u"soon"_qs)}})})));
     ASSERT_EQ(read().size(), 1U);
-    EXPECT_EQ(read().front().timestamp, now);
+    EXPECT_EQ(read().front().timestamp, readingTime);
 }
 
 // The cursor's range

@@ -1,4 +1,5 @@
 #include "capture/CaptureFixture.h"
+#include "support/Numbers.h"
 #include "support/Printers.h"
 #include "support/SystemDatabases.h"
 #include "support/SystemPayloads.h"
@@ -20,9 +21,7 @@ using ::testing::IsEmpty;
 using testing::LegacyContent;
 using testing::ManualScheduler;
 using namespace Qt::StringLiterals;
-
-constexpr double start = ManualScheduler::startOfTime;
-constexpr double day = 86400.0;
+using testing::day;
 
 class LegacyLayerTest : public testing::CaptureFixture {
 protected:

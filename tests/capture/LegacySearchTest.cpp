@@ -14,7 +14,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-void makeFile(const QString& path) {
+void makeEmptyFile(const QString& path) {
     ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
 }
 
@@ -35,18 +35,18 @@ TEST_F(LegacySearchTest, AnEmptyFolderGivesTheFolder) {
 
 TEST_F(LegacySearchTest, FindsTheDatabaseAmongOtherFiles) {
     for (const QString& name : {u"a.txt"_qs, u"b.db-wal"_qs, u"c.db"_qs, u"d.sqlite"_qs})
-        makeFile(folder_ + u'/' + name);
+        makeEmptyFile(folder_ + u'/' + name);
     EXPECT_EQ(findLegacyDatabase(folder_), folder_ + u"/c.db"_qs);
 }
 
 TEST_F(LegacySearchTest, OnlyTheEndOfANameCounts) {
     for (const QString& name : {u"a.db.old"_qs, u"b.db-shm"_qs, u"db"_qs, u"c.DB"_qs, u"dadb"_qs})
-        makeFile(folder_ + u'/' + name);
+        makeEmptyFile(folder_ + u'/' + name);
     EXPECT_EQ(findLegacyDatabase(folder_), folder_);
 }
 
 TEST_F(LegacySearchTest, AHiddenFileCounts) {
-    makeFile(folder_ + u"/.db"_qs);
+    makeEmptyFile(folder_ + u"/.db"_qs);
     EXPECT_EQ(findLegacyDatabase(folder_), folder_ + u"/.db"_qs);
 }
 
@@ -62,7 +62,7 @@ TEST_F(LegacySearchTest, ADanglingLinkCounts) {
 
 TEST_F(LegacySearchTest, OfSeveralTheFirstInTheListingIsTaken) {
     for (int i = 0; i < 20; ++i)
-        makeFile(folder_ + u"/%1.db"_qs.arg(i * 7919 % 100));
+        makeEmptyFile(folder_ + u"/%1.db"_qs.arg(i * 7919 % 100));
     const std::filesystem::directory_iterator listing(folder_.toStdString());
     EXPECT_EQ(findLegacyDatabase(folder_), QString::fromStdString(listing->path().string()));
 }

@@ -13,8 +13,6 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr double start = testing::ManualScheduler::startOfTime;
-
 class LockedHoard : public testing::ListenerFixture {
 protected:
     // Another program begins to write.

@@ -1,4 +1,5 @@
 #include "capture/ListenerFixture.h"
+#include "support/Numbers.h"
 #include "support/PropertyListWriter.h"
 
 #include <QFile>
@@ -19,9 +20,7 @@ using ::testing::Not;
 using testing::UsernotedContent;
 using testing::UsernotedForm;
 using namespace Qt::StringLiterals;
-
-constexpr double start = ManualScheduler::startOfTime;
-constexpr double day = 86400.0;
+using testing::day;
 
 class ListenerTest : public testing::ListenerFixture {};
 

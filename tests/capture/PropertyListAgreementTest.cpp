@@ -41,7 +41,7 @@ QString numberOf(plist_t node, void (*get)(plist_t, Number*)) {
 QString textOf(plist_t node) {
     char* text = nullptr;
     plist_get_string_val(node, &text);
-    const QString copy = QString::fromUtf8(text);
+    QString copy = QString::fromUtf8(text);
     std::free(text);
     return copy;
 }
@@ -222,9 +222,9 @@ private:
     std::mt19937 random_;
 };
 
-class PropertyListAgreement : public ::testing::TestWithParam<unsigned> {};
-
 } // namespace
+
+class PropertyListAgreement : public ::testing::TestWithParam<unsigned> {};
 
 TEST_P(PropertyListAgreement, WithLibplistOnARandomTree) {
     const QByteArray bytes = writeBinaryPropertyList(Trees(GetParam()).dictionary(4));

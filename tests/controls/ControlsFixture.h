@@ -20,12 +20,13 @@ namespace tessarine::testing {
 // A window that shows one of the scenes in the folder beside this file. A warning of the QML engine
 // fails the test.
 class ControlsFixture : public ::testing::Test {
-protected:
-    ControlsFixture();
+public:
     ~ControlsFixture() override;
 
+protected:
+    ControlsFixture();
     // Shows the scene, as large as it asks to be, and gives its window the keyboard.
-    void load(const QString& scene);
+    void load(const QString& name);
 
     // The thing of the scene with this objectName.
     QQuickItem& item(const QString& name) const;

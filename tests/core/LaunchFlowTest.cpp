@@ -1,5 +1,6 @@
 #include "core/LaunchFlow.h"
 
+#include "support/Numbers.h"
 #include "support/SimulatedPlatform.h"
 
 #include <QDir>
@@ -12,9 +13,8 @@ namespace tessarine {
 namespace {
 
 using namespace Qt::StringLiterals;
+using testing::day;
 using ::testing::ElementsAre;
-
-constexpr double day = 86400;
 
 class LaunchFlowTest : public ::testing::Test {
 protected:

@@ -1,6 +1,7 @@
 #include "core/Retention.h"
 
 #include "support/HoardFile.h"
+#include "support/Numbers.h"
 #include "support/Printers.h"
 #include "support/SimulatedPlatform.h"
 
@@ -16,11 +17,10 @@ namespace tessarine {
 namespace {
 
 using namespace Qt::StringLiterals;
+using testing::day;
 using ::testing::ElementsAre;
+using testing::hour;
 using ::testing::IsEmpty;
-
-constexpr double hour = 3600.0;
-constexpr double day = 86400.0;
 
 class Retention : public ::testing::Test {
 protected:

@@ -18,9 +18,10 @@ using testing::ManualScheduler;
 
 // The log and the status board, for which nobody needs the hoard.
 class DiagnosticsStoreTest : public ::testing::Test {
-protected:
+public:
     ~DiagnosticsStoreTest() override { EXPECT_FALSE(QFile::exists(hoard.path())); }
 
+protected:
     void log(const QString& message) { store.log(message, Level::info, Category::system); }
 
     QTemporaryDir home;

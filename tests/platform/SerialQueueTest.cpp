@@ -63,6 +63,7 @@ TEST(SerialQueueTest, LetsOneCallerInAtATime) {
     std::atomic<int> inside = 0;
     int counted = 0; // guarded by the queue alone
     std::vector<std::thread> threads;
+    threads.reserve(8);
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([&] {
             for (int round = 0; round < 200; ++round) {

@@ -63,7 +63,7 @@ TEST(AliveGuard, AnotherThreadMayAskAndLetGo) {
     bool wasAlive = false;
     std::thread worker([&wasAlive, token = alive->token(), guarded = alive->guard([] {})] {
         wasAlive = token.isAlive();
-        const auto copy = guarded;
+        const auto copy = guarded; // NOLINT(performance-unnecessary-copy-initialization)
     });
     worker.join();
     EXPECT_TRUE(wasAlive);

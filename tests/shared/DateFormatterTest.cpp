@@ -1,5 +1,6 @@
 #include "shared/DateFormatter.h"
 
+#include "support/Numbers.h"
 #include "support/Printers.h"
 #include "support/TimeZoneScope.h"
 
@@ -12,12 +13,11 @@ namespace tessarine {
 namespace {
 
 using namespace Qt::StringLiterals;
+using testing::infinity;
 using testing::TimeZoneScope;
 
 // 2025-11-16 15:33:20 UTC, by date(1) of 785000000 + 978307200.
 constexpr double afternoon = 785000000.0;
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 DateFormatter formatter(const QString& pattern, const char* locale = "en_US") {
     return DateFormatter::withPattern(pattern, locale);

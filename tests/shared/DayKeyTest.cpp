@@ -1,5 +1,6 @@
 #include "shared/DayKey.h"
 
+#include "support/Numbers.h"
 #include "support/TimeZoneScope.h"
 
 #include <QLocale>
@@ -16,10 +17,9 @@ namespace tessarine {
 namespace {
 
 using namespace Qt::StringLiterals;
+using testing::day;
+using testing::infinity;
 using testing::TimeZoneScope;
-
-constexpr double day = 86400.0;
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 // The text, so that a failed comparison can be read.
 std::string key(double timestamp) {

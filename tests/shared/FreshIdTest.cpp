@@ -28,6 +28,7 @@ TEST(FreshId, NeverComesTwiceInOneThread) {
 TEST(FreshId, DiffersBetweenThreads) {
     std::array<std::vector<QUuid>, 4> made;
     std::vector<std::thread> threads;
+    threads.reserve(made.size());
     for (std::vector<QUuid>& ids : made)
         threads.emplace_back([&ids] {
             for (int i = 0; i < 1000; ++i)
@@ -55,7 +56,7 @@ TEST(FreshId, HasEachFreeBitSetInHalfOfTheIds) {
         const bool isFixed = (bit >= 48 && bit < 52) || bit == 64 || bit == 65;
         if (isFixed)
             continue;
-        EXPECT_NEAR(set[std::size_t(bit)], count / 2, 700) << "bit " << bit;
+        EXPECT_NEAR(set[std::size_t(bit)], count / 2.0, 700) << "bit " << bit;
     }
 }
 

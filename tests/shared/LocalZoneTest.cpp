@@ -1,6 +1,7 @@
 #include "shared/LocalZone.h"
 
 #include "shared/ReferenceTime.h"
+#include "support/Numbers.h"
 #include "support/Printers.h"
 #include "support/TimeZoneScope.h"
 
@@ -15,9 +16,9 @@
 namespace tessarine {
 namespace {
 
+using testing::infinity;
 using testing::TimeZoneScope;
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 
 // The number of a zone

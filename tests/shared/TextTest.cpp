@@ -1,5 +1,6 @@
 #include "shared/Text.h"
 
+#include "support/Numbers.h"
 #include "support/Printers.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@ namespace tessarine {
 namespace {
 
 using namespace Qt::StringLiterals;
+using testing::infinity;
 
 struct Decimal {
     const char* name;
@@ -23,8 +25,6 @@ class DecimalText : public ::testing::TestWithParam<Decimal> {};
 TEST_P(DecimalText, IsTheShortestWithAFraction) {
     EXPECT_EQ(decimalText(GetParam().value).toStdString(), GetParam().text);
 }
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 INSTANTIATE_TEST_SUITE_P(
     Values, DecimalText,

@@ -293,7 +293,7 @@ TEST_F(CachedRows, SortTheTableOnceForManyDeletionsAndPins) {
     trace.taken();
     for (int i = 0; i < 200; ++i) {
         store->deleteNotification(store->fetchRecent(500).at(std::size_t(i)).dbId);
-        store->togglePin(store->fetchRecent(500).at(std::size_t(2 * i)).dbId);
+        store->togglePin(store->fetchRecent(500).at(2 * std::size_t(i)).dbId);
         store->togglePin(i + 1);
     }
     EXPECT_EQ(trace.taken().filter(u"ORDER BY"_qs).size(), 0);

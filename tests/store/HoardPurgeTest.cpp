@@ -1,5 +1,6 @@
 #include "store/HoardFixture.h"
 #include "store/SqlTrace.h"
+#include "support/Numbers.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,14 +11,14 @@ namespace tessarine {
 namespace {
 
 using namespace Qt::StringLiterals;
+using testing::day;
 using ::testing::ElementsAre;
+using testing::hour;
 using ::testing::IsEmpty;
 using testing::ManualScheduler;
 using testing::SqlTrace;
 
 constexpr double now = ManualScheduler::startOfTime;
-constexpr double hour = 3600.0;
-constexpr double day = 86400.0;
 
 class HoardPurge : public testing::HoardFixture {
 protected:

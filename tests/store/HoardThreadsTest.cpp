@@ -18,6 +18,7 @@ template <typename Work>
 void onAllThreads(const Work& work) {
     std::atomic<int> ready = 0;
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     for (int number = 0; number < threadCount; ++number) {
         threads.emplace_back([&, number] {
             ++ready;

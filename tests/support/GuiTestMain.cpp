@@ -8,16 +8,20 @@
 // window goes: blocks that Qt's own drawing libraries allocate. What this program allocates, and
 // what Qt's core does for it, is still reported. (Whole stacks would be more exact, and make
 // every allocation several times as slow.)
+// NOLINTBEGIN(bugprone-reserved-identifier): the sanitizer looks for these names.
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
+    // NOLINTEND(bugprone-reserved-identifier)
     return "leak:libQt6Gui.so\nleak:libQt6Quick.so\n"
            "leak:QtSharedPointer::ExternalRefCountData::getAndRef\n";
 }
 
 // ThreadSanitizer doesn't see how the font libraries and Qt's reference counts keep threads apart.
 // No code of ours runs in these functions.
+// NOLINTBEGIN(bugprone-reserved-identifier): the sanitizer looks for these names.
 extern "C" const char* __tsan_default_suppressions();
 extern "C" const char* __tsan_default_suppressions() {
+    // NOLINTEND(bugprone-reserved-identifier)
     return "called_from_lib:libfontconfig.so\n"
            "called_from_lib:libharfbuzz.so\n"
            "race:QVariant::~QVariant\n"

@@ -16,6 +16,13 @@ QPoint between(QPoint from, QPoint to, int step) {
     return from + (to - from) * step / steps;
 }
 
+// As a screen would ask for it. A window keeps what a finger moves until it draws, and takes the
+// last place only; drawing for a picture doesn't count.
+void drawFrame(QQuickWindow& window) {
+    QEvent due(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&window, &due);
+}
+
 QPointingDevice& screen() {
     static QPointingDevice* const device = QTest::createTouchDevice();
     return *device;
@@ -38,10 +45,10 @@ void dragByFinger(QQuickWindow& window, QPoint from, QPoint to) {
     QTest::touchEvent(&window, &screen()).press(1, from);
     for (int step = 1; step <= steps; ++step) {
         QTest::touchEvent(&window, &screen()).move(1, between(from, to, step));
-        window.grabWindow();
+        drawFrame(window);
     }
     QTest::touchEvent(&window, &screen()).release(1, to);
-    window.grabWindow();
+    drawFrame(window);
 }
 
 void turnWheel(QQuickWindow& window, QPoint place, int degrees) {

@@ -1,8 +1,7 @@
 #pragma once
 
 #include <chrono>
-
-#include <time.h>
+#include <ctime>
 
 namespace tessarine::testing {
 

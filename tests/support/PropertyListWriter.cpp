@@ -42,9 +42,9 @@ PlistValue::PlistValue(Content content)
 PlistValue PlistValue::dictionary(Dictionary entries) {
     QList<QString> keys;
     Array values;
-    for (auto& [key, value] : entries) {
-        keys.append(std::move(key));
-        values.append(std::move(value));
+    for (auto& entry : entries) {
+        keys.append(std::move(entry.first));
+        values.append(std::move(entry.second));
     }
     return PlistValue(std::make_shared<const Container>(true, std::move(keys), std::move(values)));
 }

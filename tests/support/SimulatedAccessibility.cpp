@@ -98,7 +98,7 @@ ElementPtr SimulatedAccessibility::addBanner(qint32 pid, const QString& descript
     std::vector<AXElementRef> children;
     for (const QString& text : texts)
         children.push_back(makeText(pid, text));
-    const ElementPtr banner = makeGroup(pid, description, children);
+    ElementPtr banner = makeGroup(pid, description, children);
     const ElementPtr window = makeElement(pid, QStringLiteral("AXWindow"));
     window->attributes[ax::children] = std::vector<AXElementRef>{banner};
     std::get<std::vector<AXElementRef>>(application(pid)->attributes[ax::windows])
@@ -111,20 +111,20 @@ void SimulatedAccessibility::removeBanners(qint32 pid) {
 }
 
 ElementPtr makeElement(qint32 pid, const QString& role) {
-    const ElementPtr element = std::make_shared<SimulatedElement>(pid);
+    ElementPtr element = std::make_shared<SimulatedElement>(pid);
     element->attributes[ax::role] = role;
     return element;
 }
 
 ElementPtr makeText(qint32 pid, const QString& value) {
-    const ElementPtr element = makeElement(pid, ax::staticText);
+    ElementPtr element = makeElement(pid, ax::staticText);
     element->attributes[ax::value] = value;
     return element;
 }
 
 ElementPtr makeGroup(qint32 pid, const QString& description,
                      const std::vector<AXElementRef>& children) {
-    const ElementPtr element = makeElement(pid, ax::group);
+    ElementPtr element = makeElement(pid, ax::group);
     element->attributes[ax::description] = description;
     element->attributes[ax::children] = children;
     return element;

@@ -4,8 +4,10 @@
 
 // ThreadSanitizer sees Qt free what its reference counts, which it doesn't see, have left to one
 // thread alone. No code of ours runs in these functions.
+// NOLINTBEGIN(bugprone-reserved-identifier): the sanitizer looks for these names.
 extern "C" const char* __tsan_default_suppressions();
 extern "C" const char* __tsan_default_suppressions() {
+    // NOLINTEND(bugprone-reserved-identifier)
     return "race:QVariant::~QVariant\n"
            "race:QtPrivate::QMetaTypeForType\n";
 }

@@ -25,7 +25,7 @@ protected:
     // A row that is in sight, and where it lies in the list's room, also a page above it.
     QString titleInTheMiddle() const {
         for (int number = 500; number > 0; --number) {
-            const QString title = QStringLiteral("Title %1").arg(number);
+            QString title = QStringLiteral("Title %1").arg(number);
             if (row(title) && place(title) > 150)
                 return title;
         }

@@ -108,12 +108,12 @@ TEST_F(SelectionBarTest, NoTipLiesOverAMenuThatItsButtonOpened) {
         const QObject& tip = tipOf(opener);
         ASSERT_TRUE(turnsUntil([&] { return tip.property("opened").toBool(); }));
         clickAt(opener, {10, 10});
-        ASSERT_TRUE(turnsUntil([&] { return isShown(panel); }));
+        ASSERT_TRUE(turnsUntil([&, &panel = panel] { return isShown(panel); }));
         EXPECT_FALSE(tip.property("visible").toBool());
         turnFor(1000); // a tip comes after 0.7 seconds
         EXPECT_FALSE(tip.property("visible").toBool());
         press(Qt::Key_Escape);
-        ASSERT_TRUE(turnsUntil([&] { return isGone(panel); }));
+        ASSERT_TRUE(turnsUntil([&, &panel = panel] { return isGone(panel); }));
     }
 }
 

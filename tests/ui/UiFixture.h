@@ -20,9 +20,11 @@ namespace tessarine::testing {
 // The real main window over a hoard in a temporary folder. A warning of the QML engine fails the
 // test.
 class UiTest : public ::testing::Test {
+public:
+    ~UiTest() override;
+
 protected:
     UiTest();
-    ~UiTest() override;
 
     // Notifications named "Title 1", "Title 2" and so on, the newest first, as the hoard would
     // give them.

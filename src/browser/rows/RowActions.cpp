@@ -27,7 +27,7 @@ RowActions::RowActions(Services services)
 }
 
 std::optional<CapturedNotification> RowActions::find(const QUuid& id) const {
-    if (const auto row = rowWith(id, services_.list.notifications()))
+    if (auto row = rowWith(id, services_.list.notifications()))
         return row;
     return menuRow_ && menuRow_->id == id ? menuRow_ : std::nullopt;
 }

@@ -1,6 +1,6 @@
 #include "platform/linux/HeapMemory.h"
 
-#include <stdlib.h> // says which library it is
+#include <cstdlib> // says which library it is
 
 #ifdef __GLIBC__
 #include <malloc.h>

@@ -4,9 +4,13 @@
 #include <system_error>
 #include <utility>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tessarine {
+
+// The mode of files that nobody else reads.
+constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
 
 inline std::error_code lastError() {
     return {errno, std::generic_category()};

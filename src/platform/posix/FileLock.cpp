@@ -10,8 +10,6 @@ namespace tessarine {
 
 namespace {
 
-constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
-
 // A file that may not be written, or lies where nothing may be, can be locked all the same. A pipe
 // in its place must not be waited on.
 Descriptor openOrMake(const QByteArray& path) {

@@ -16,8 +16,6 @@ namespace tessarine {
 
 namespace {
 
-constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
-
 std::error_code writeAll(const Descriptor& file, const QByteArray& bytes) {
     const char* next = bytes.constData();
     auto left = static_cast<std::size_t>(bytes.size());

@@ -8,10 +8,9 @@
 #include <QTimer>
 
 #include <chrono>
+#include <ctime>
 #include <future>
 #include <utility>
-
-#include <time.h>
 
 namespace tessarine {
 

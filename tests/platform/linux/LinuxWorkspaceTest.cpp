@@ -24,6 +24,16 @@ using testing::ManualScheduler;
 
 // An application of the test's own: a copy of a program that waits, and an entry that starts it.
 class LinuxWorkspaceTest : public ::testing::Test {
+public:
+    ~LinuxWorkspaceTest() override {
+        for (const auto& process : processes) {
+            process->kill();
+            process->waitForFinished();
+        }
+        qputenv("XDG_DATA_HOME", dataHomeBefore);
+        qputenv("PATH", pathBefore);
+    }
+
 protected:
     LinuxWorkspaceTest() {
         qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
@@ -35,15 +45,6 @@ protected:
         workspace =
             std::make_unique<LinuxWorkspace>(scheduler, std::make_shared<BannerProcess>(scheduler),
                                              LinuxWorkspace::Buses{{}, noBus.toStdString()});
-    }
-
-    ~LinuxWorkspaceTest() override {
-        for (const auto& process : processes) {
-            process->kill();
-            process->waitForFinished();
-        }
-        qputenv("XDG_DATA_HOME", dataHomeBefore);
-        qputenv("PATH", pathBefore);
     }
 
     void writeEntry(const QByteArray& exec) const {

@@ -101,7 +101,7 @@ TEST_P(PrivateFileTest, MakesAFileForItsOwnerAlone) {
 }
 
 TEST_P(PrivateFileTest, HeedsNoUmask) {
-    for (const mode_t mask : {0, 0777}) {
+    for (const mode_t mask : {mode_t(0), mode_t(0777)}) {
         const UmaskScope scope(mask);
         const QString file = path(QString::number(mask));
         EXPECT_FALSE(write(file, "content"));

@@ -150,6 +150,7 @@ TEST_F(QtSchedulerTest, RunsTasksOfOtherThreadsOnTheMainThread) {
 TEST_F(QtSchedulerTest, TakesTasksFromManyThreadsAtOnce) {
     std::vector<std::thread> threads;
     int ran = 0;
+    threads.reserve(8);
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([&] {
             for (int round = 0; round < 100; ++round)

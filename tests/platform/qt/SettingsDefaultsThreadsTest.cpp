@@ -20,6 +20,7 @@ TEST(SettingsDefaultsThreads, LoseNothingOfWhatSeveralThreadsWrite) {
     {
         SettingsDefaults defaults(path);
         std::vector<std::thread> threads;
+        threads.reserve(threadCount);
         for (int number = 0; number < threadCount; ++number) {
             threads.emplace_back([&defaults, number] {
                 const QString own = u"key%1"_qs.arg(number);

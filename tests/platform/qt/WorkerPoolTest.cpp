@@ -154,6 +154,7 @@ TEST(WorkerPoolTest, TakesTasksFromSeveralThreads) {
     {
         WorkerPool pool;
         std::vector<std::thread> threads;
+        threads.reserve(8);
         for (int i = 0; i < 8; ++i) {
             threads.emplace_back([&] {
                 for (int round = 0; round < 100; ++round)

@@ -56,7 +56,7 @@ QImage draw(const QString& path) {
 QImage read(const QString& path) {
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
-    const QImage picture = reader.read();
+    QImage picture = reader.read();
     if (picture.isNull() || picture.width() == picture.height())
         return picture;
     QImage image = emptySquare(std::max(picture.width(), picture.height()));

@@ -41,7 +41,7 @@ public:
     // The bus is gone, or doesn't let us look.
     void disconnected();
 
-    void ownerChanged(NotificationService service, const NameOwner& owner);
+    void ownerChanged(NotificationService service, const NameOwner& next);
 
     // Whether an announcement that is addressed to this name counts, as things stand.
     bool counts(NotificationService service, std::string_view destination) const;

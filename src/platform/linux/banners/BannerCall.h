@@ -34,6 +34,7 @@ struct BannerName {
     std::string application;
     std::string name;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): the zero that it finds is the compiler's own.
     auto operator<=>(const BannerName&) const = default;
 };
 

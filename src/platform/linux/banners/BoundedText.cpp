@@ -68,7 +68,7 @@ QString boundedText(TextSource& source, qsizetype characters) {
         const std::string_view yielded = source.upTo(size);
         const std::string_view start = wholeCodePoints(yielded, size);
         const bool isAll = source.isWhole() && start.size() == yielded.size();
-        const QString text = fromUtf8(start);
+        QString text = fromUtf8(start);
         const qsizetype end = endOfCharacters(text, characters);
         if (text.size() > mostUnits && end > mostUnits)
             return withEllipsis(withoutLastCharacter(wholeCodePoints(text, mostUnits)));

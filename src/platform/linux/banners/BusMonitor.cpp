@@ -217,7 +217,7 @@ QString BusMonitor::senderName(const char* sender) {
     if (const std::optional<QString> known = senderNames_.find(sender))
         return *known;
     const std::optional<qint32> pid = questions_->processOf(sender);
-    const QString name = pid ? boundedText(processName(*pid), longestName) : QString();
+    QString name = pid ? boundedText(processName(*pid), longestName) : QString();
     if (!name.isEmpty())
         senderNames_.set(sender, name);
     return name;

@@ -36,7 +36,7 @@ protected:
     }
 
     QString write(const QString& file, const QByteArray& content) const {
-        const QString path = root.filePath(file);
+        QString path = root.filePath(file);
         EXPECT_TRUE(QDir().mkpath(QFileInfo(path).path()));
         QFile written(path);
         EXPECT_TRUE(written.open(QIODevice::WriteOnly));
@@ -45,7 +45,7 @@ protected:
     }
 
     QString paint(const QString& file, const QImage& picture) const {
-        const QString path = root.filePath(file);
+        QString path = root.filePath(file);
         EXPECT_TRUE(QDir().mkpath(QFileInfo(path).path()));
         EXPECT_TRUE(picture.save(path));
         return path;

@@ -26,7 +26,7 @@ const NameOwner nobody{};
 const NameOwner dunst{":1.5", 100};
 const NameOwner xfce{":1.9", 200};
 const NameOwner shell{":1.12", 300};
-const BannerName tea{"com.example.Teapot", "tea"};
+const BannerName teaReady{"com.example.Teapot", "tea"};
 
 struct AnnouncementFilterTest : ::testing::Test {
     ManualScheduler scheduler;
@@ -49,7 +49,7 @@ struct AnnouncementFilterTest : ::testing::Test {
 
     AnnouncementKey announce(const QString& title, const std::string& destination = wellKnown,
                              const BannerId& id = 0U) {
-        const AnnouncementKey key{":1.20", ++lastSerial};
+        AnnouncementKey key{":1.20", ++lastSerial};
         if (filter.counts(serviceOf(id), destination))
             filter.announced({key, id, {u"Mail"_qs, title, {}}, filter.uptime()});
         return key;
@@ -294,19 +294,19 @@ TEST_F(AnnouncementFilterTest, DropsWhatNoSecondServiceIsStartedFor) {
 TEST_F(AnnouncementFilterTest, ForgetsTheIdsOfTheServiceThatChanges) {
     filter.connected(dunst, shell);
     announce(u"same"_qs, wellKnown, 7U);
-    announce(u"same"_qs, gtkWellKnown, tea);
+    announce(u"same"_qs, gtkWellKnown, teaReady);
     filter.ownerChanged(gtk, nobody);
     filter.ownerChanged(gtk, shell);
     announce(u"same"_qs, wellKnown, 7U);
-    announce(u"same"_qs, gtkWellKnown, tea);
+    announce(u"same"_qs, gtkWellKnown, teaReady);
     EXPECT_THAT(shown(), SizeIs(3)) << "the banner of the number 7 is still the same";
 }
 
 TEST_F(AnnouncementFilterTest, TakesARemovedNameForANewBanner) {
     filter.connected(nobody, shell);
-    announce(u"same"_qs, gtkWellKnown, tea);
-    filter.removed(tea);
-    announce(u"same"_qs, gtkWellKnown, tea);
+    announce(u"same"_qs, gtkWellKnown, teaReady);
+    filter.removed(teaReady);
+    announce(u"same"_qs, gtkWellKnown, teaReady);
     EXPECT_THAT(shown(), SizeIs(2));
 }
 

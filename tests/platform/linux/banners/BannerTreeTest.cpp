@@ -304,6 +304,7 @@ TEST_F(BannerTreeTest, LosesNothingAndGivesNothingTwiceWhenManyThreadsAnnounceAn
     std::thread taker(take);
     std::thread otherTaker(take);
     std::vector<std::thread> announcers;
+    announcers.reserve(threads);
     for (int t = 0; t < threads; ++t)
         announcers.emplace_back([this, t] {
             for (std::uint32_t serial = 1; serial <= each; ++serial) {

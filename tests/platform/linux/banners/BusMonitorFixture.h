@@ -117,6 +117,7 @@ inline QString terminationOf(qint64 pid) {
 
 inline std::vector<QString> numbered(const QString& pattern, int count) {
     std::vector<QString> texts;
+    texts.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         texts.push_back(pattern.arg(i));
     return texts;

@@ -304,6 +304,7 @@ TEST_F(BusMonitorTest, CapturesABurstOfOneClientInOrder) {
 TEST_F(BusMonitorTest, CapturesManyClientsAtOnce) {
     watchWithDaemon();
     std::vector<std::thread> clients;
+    clients.reserve(20);
     for (int c = 0; c < 20; ++c)
         clients.emplace_back([this, c] {
             BusClient client(bus.address());

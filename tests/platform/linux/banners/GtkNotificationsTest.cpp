@@ -98,8 +98,8 @@ TEST_F(GtkNotificationsTest, HaveTheNameThatTheApplicationHasWithTheOtherService
     ASSERT_TRUE(capturesAllSoFar());
     EXPECT_THAT(headlines(),
                 ElementsAre(u"Teapot Timer: by one"_qs, u"Teapot Timer: by the other"_qs,
-                            u"test_gtk_notifications: by one"_qs,
-                            u"test_gtk_notifications: by the other"_qs));
+                            u"test_linux_threads: by one"_qs,
+                            u"test_linux_threads: by the other"_qs));
 }
 
 TEST_F(GtkNotificationsTest, AreCapturedWhenTheyAreSentToTheShellsUniqueName) {

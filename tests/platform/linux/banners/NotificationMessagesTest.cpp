@@ -227,6 +227,7 @@ TEST(ReadAddNotification, BoundsWhatItIsKnownBy) {
 
 TEST(ReadAddNotification, FindsTheTitleBehindManyOthers) {
     std::vector<Entry> entries;
+    entries.reserve(10001);
     for (int i = 0; i < 10000; ++i)
         entries.push_back(textEntry("key " + std::to_string(i), "value"));
     entries.push_back(textEntry("title", "last"));

@@ -33,6 +33,7 @@ std::string ChildProcess::startAndAwaitLine(const std::vector<std::string>& comm
 
 void ChildProcess::spawn(const std::vector<std::string>& command, int output) {
     std::vector<char*> arguments;
+    arguments.reserve(command.size() + 1);
     for (const std::string& word : command)
         arguments.push_back(const_cast<char*>(word.c_str()));
     arguments.push_back(nullptr);

@@ -29,7 +29,7 @@ std::string marshalled(DBusMessage* message, unsigned serial) {
     char* bytes = nullptr;
     int length = 0;
     dbus_message_marshal(message, &bytes, &length);
-    const std::string result(bytes, static_cast<std::size_t>(length));
+    std::string result(bytes, static_cast<std::size_t>(length));
     dbus_free(bytes);
     return result;
 }
