@@ -25,7 +25,7 @@ using testing::UsernotedContent;
 using testing::UsernotedForm;
 using namespace Qt::StringLiterals;
 
-constexpr double base = 785000000.0;
+constexpr double recordTime = 785000000.0;
 
 QByteArray payload(const QString& title) {
     return *testing::usernotedPayload(UsernotedForm::RequestTitle, {.title = title});
@@ -60,7 +60,7 @@ protected:
 };
 
 TEST_F(UsernotedReadingTest, BuildsTheWholeRecord) {
-    add(41, u"Hello"_qs, base + 0.25);
+    add(41, u"Hello"_qs, recordTime + 0.25);
     const UsernotedReading reading = read();
     ASSERT_EQ(reading.records.size(), 1U);
     const CapturedNotification& record = reading.records.front();
@@ -70,65 +70,65 @@ TEST_F(UsernotedReadingTest, BuildsTheWholeRecord) {
     EXPECT_EQ(record.appName, u"mail"_qs);
     EXPECT_EQ(record.title, u"Hello"_qs);
     EXPECT_EQ(record.body, QString());
-    EXPECT_EQ(record.timestamp, base + 0.25);
+    EXPECT_EQ(record.timestamp, recordTime + 0.25);
     EXPECT_FALSE(record.pinned);
 }
 
 TEST_F(UsernotedReadingTest, ReadsTheWholeTableFromACursorOfZero) {
     add(1, u"old"_qs, 0.5);
-    add(2, u"new"_qs, base);
+    add(2, u"new"_qs, recordTime);
     EXPECT_THAT(titles(read()), ElementsAre(u"old"_qs, u"new"_qs));
 }
 
 TEST_F(UsernotedReadingTest, ReachesTwoSecondsBehindTheCursorAndNoFurther) {
-    add(1, u"exactly two behind"_qs, base - 2.0);
-    add(2, u"a little less"_qs, base - 1.999);
-    EXPECT_THAT(titles(read({base, {}})), ElementsAre(u"a little less"_qs));
+    add(1, u"exactly two behind"_qs, recordTime - 2.0);
+    add(2, u"a little less"_qs, recordTime - 1.999);
+    EXPECT_THAT(titles(read({recordTime, {}})), ElementsAre(u"a little less"_qs));
 }
 
 TEST_F(UsernotedReadingTest, SkipsAtTheCursorDateOnlyTheKeysOfTheSet) {
-    add(1, u"seen"_qs, base);
-    add(2, u"unseen"_qs, base);
-    const UsernotedReading reading = read({base, {1}});
+    add(1, u"seen"_qs, recordTime);
+    add(2, u"unseen"_qs, recordTime);
+    const UsernotedReading reading = read({recordTime, {1}});
     EXPECT_THAT(titles(reading), ElementsAre(u"unseen"_qs));
-    EXPECT_EQ(reading.newest.timestamp, base);
+    EXPECT_EQ(reading.newest.timestamp, recordTime);
     EXPECT_EQ(reading.newest.recIds, std::set<qint64>{2});
 }
 
 TEST_F(UsernotedReadingTest, TakesALateRowBehindTheCursorAndLeavesTheCursor) {
-    add(9, u"late"_qs, base - 1.0);
-    const UsernotedReading reading = read({base, {1}});
+    add(9, u"late"_qs, recordTime - 1.0);
+    const UsernotedReading reading = read({recordTime, {1}});
     EXPECT_THAT(titles(reading), ElementsAre(u"late"_qs));
-    EXPECT_EQ(reading.newest.timestamp, base);
+    EXPECT_EQ(reading.newest.timestamp, recordTime);
     EXPECT_THAT(reading.newest.recIds, IsEmpty());
 }
 
 TEST_F(UsernotedReadingTest, CollectsTheKeysAtTheNewestDate) {
-    add(1, u"a"_qs, base + 1);
-    add(2, u"b"_qs, base + 2);
-    add(3, u"c"_qs, base + 2);
-    const UsernotedReading reading = read({base, {}});
-    EXPECT_EQ(reading.newest.timestamp, base + 2);
+    add(1, u"a"_qs, recordTime + 1);
+    add(2, u"b"_qs, recordTime + 2);
+    add(3, u"c"_qs, recordTime + 2);
+    const UsernotedReading reading = read({recordTime, {}});
+    EXPECT_EQ(reading.newest.timestamp, recordTime + 2);
     EXPECT_EQ(reading.newest.recIds, (std::set<qint64>{2, 3}));
 }
 
 TEST_F(UsernotedReadingTest, MovesTheCursorByARowWithoutTexts) {
     ASSERT_TRUE(
-        writer_.append(5, 1, testing::usernotedPayload(UsernotedForm::Broken, {}), base + 3));
-    const UsernotedReading reading = read({base, {}});
+        writer_.append(5, 1, testing::usernotedPayload(UsernotedForm::Broken, {}), recordTime + 3));
+    const UsernotedReading reading = read({recordTime, {}});
     EXPECT_THAT(reading.records, IsEmpty());
-    EXPECT_EQ(reading.newest.timestamp, base + 3);
+    EXPECT_EQ(reading.newest.timestamp, recordTime + 3);
     EXPECT_EQ(reading.newest.recIds, std::set<qint64>{5});
 }
 
 TEST_F(UsernotedReadingTest, DropsANullPayload) {
-    ASSERT_TRUE(writer_.append(5, 1, std::nullopt, base));
-    add(6, u"next"_qs, base + 1);
+    ASSERT_TRUE(writer_.append(5, 1, std::nullopt, recordTime));
+    add(6, u"next"_qs, recordTime + 1);
     EXPECT_THAT(titles(read()), ElementsAre(u"next"_qs));
 }
 
 TEST_F(UsernotedReadingTest, NamesAnUnknownApplicationByItsNumber) {
-    ASSERT_TRUE(writer_.append(5, 7, payload(u"Hello"_qs), base));
+    ASSERT_TRUE(writer_.append(5, 7, payload(u"Hello"_qs), recordTime));
     const UsernotedReading reading = read();
     ASSERT_EQ(reading.records.size(), 1U);
     EXPECT_EQ(reading.records.front().appBundleId, u"app_id_7"_qs);
@@ -137,12 +137,12 @@ TEST_F(UsernotedReadingTest, NamesAnUnknownApplicationByItsNumber) {
 
 TEST_F(UsernotedReadingTest, NamesAnApplicationWithANullIdentifierByItsNumber) {
     ASSERT_TRUE(testing::DatabaseFile(path_).run(u"INSERT INTO app VALUES(8, NULL)"_qs));
-    ASSERT_TRUE(writer_.append(5, 8, payload(u"Hello"_qs), base));
+    ASSERT_TRUE(writer_.append(5, 8, payload(u"Hello"_qs), recordTime));
     EXPECT_EQ(read().records.front().appBundleId, u"app_id_8"_qs);
 }
 
 TEST_F(UsernotedReadingTest, LeavesTheLogToTheDaemonThatHoldsIt) {
-    add(1, u"Hello"_qs, base);
+    add(1, u"Hello"_qs, recordTime);
     read();
     EXPECT_TRUE(QFile::exists(path_ + u"-wal"_qs));
 }
@@ -156,10 +156,10 @@ TEST_F(UsernotedReadingTest, NeverSeesANullDate) {
 
 TEST_F(UsernotedReadingTest, TakesATextDateAsZeroWithoutMovingTheCursor) {
     add(1, u"text"_qs, QStringLiteral("yesterday"));
-    const UsernotedReading reading = read({base, {}});
+    const UsernotedReading reading = read({recordTime, {}});
     ASSERT_EQ(reading.records.size(), 1U);
     EXPECT_EQ(reading.records.front().timestamp, 0.0);
-    EXPECT_EQ(reading.newest.timestamp, base);
+    EXPECT_EQ(reading.newest.timestamp, recordTime);
 }
 
 TEST_F(UsernotedReadingTest, NeverSeesANegativeDate) {
@@ -168,11 +168,11 @@ TEST_F(UsernotedReadingTest, NeverSeesANegativeDate) {
 }
 
 TEST_F(UsernotedReadingTest, TakesAnInfiniteDateWithoutMovingTheCursor) {
-    add(1, u"real"_qs, base + 1);
+    add(1, u"real"_qs, recordTime + 1);
     add(2, u"endless"_qs, std::numeric_limits<double>::infinity());
-    const UsernotedReading reading = read({base, {}});
+    const UsernotedReading reading = read({recordTime, {}});
     EXPECT_THAT(titles(reading), ElementsAre(u"real"_qs, u"endless"_qs));
-    EXPECT_EQ(reading.newest.timestamp, base + 1);
+    EXPECT_EQ(reading.newest.timestamp, recordTime + 1);
     EXPECT_EQ(reading.newest.recIds, std::set<qint64>{1});
 }
 
@@ -182,9 +182,9 @@ class BadPayloadRow : public UsernotedReadingTest,
                       public ::testing::WithParamInterface<UsernotedForm> {};
 
 TEST_P(BadPayloadRow, IsPassedOver) {
-    add(1, u"before"_qs, base);
-    ASSERT_TRUE(writer_.append(2, 1, testing::usernotedPayload(GetParam(), {}), base + 1));
-    add(3, u"after"_qs, base + 2);
+    add(1, u"before"_qs, recordTime);
+    ASSERT_TRUE(writer_.append(2, 1, testing::usernotedPayload(GetParam(), {}), recordTime + 1));
+    add(3, u"after"_qs, recordTime + 2);
     EXPECT_THAT(titles(read()), ElementsAre(u"before"_qs, u"after"_qs));
 }
 
@@ -196,7 +196,7 @@ INSTANTIATE_TEST_SUITE_P(Forms, BadPayloadRow,
 TEST_F(UsernotedReadingTest, ReadsPayloadsStoredAsText) {
     ASSERT_TRUE(testing::DatabaseFile(path_).run(
         u"INSERT INTO record(rec_id, app_id, data, delivered_date) VALUES(1, 'mail', 'some text', 5)"_qs));
-    add(2, u"after"_qs, base);
+    add(2, u"after"_qs, recordTime);
     EXPECT_THAT(titles(read()), ElementsAre(u"after"_qs));
 }
 
@@ -205,12 +205,13 @@ TEST_F(UsernotedReadingTest, ReadsPayloadsStoredAsText) {
 class BadDatabase : public ::testing::Test {
 protected:
     UsernotedReading read() {
-        return readUsernotedDatabase(path_, {base, {1}}, DecoderVariant::poll, lastBundleComponent);
+        return readUsernotedDatabase(path_, {recordTime, {1}}, DecoderVariant::poll,
+                                     lastBundleComponent);
     }
     void expectNothingRead() {
         const UsernotedReading reading = read();
         EXPECT_THAT(reading.records, IsEmpty());
-        EXPECT_EQ(reading.newest.timestamp, base);
+        EXPECT_EQ(reading.newest.timestamp, recordTime);
         EXPECT_THAT(reading.newest.recIds, IsEmpty());
     }
     QByteArray contents() {
@@ -263,7 +264,7 @@ protected:
         ASSERT_TRUE(writer.createTables());
         ASSERT_TRUE(writer.begin());
         for (std::size_t i = 0; i < rows; ++i)
-            ASSERT_TRUE(writer.append(qint64(i), 1, payload(u"Title"_qs), base + double(i)));
+            ASSERT_TRUE(writer.append(qint64(i), 1, payload(u"Title"_qs), recordTime + double(i)));
         ASSERT_TRUE(writer.commit());
         writer.close();
         whole_ = contents();
@@ -302,7 +303,7 @@ TEST_F(BadDatabase, WithoutTheTableOfRecordsGivesNothing) {
 TEST_F(BadDatabase, WithoutTheTableOfApplicationsNamesThemByNumber) {
     testing::UsernotedWriter writer(path_);
     ASSERT_TRUE(writer.createTables());
-    ASSERT_TRUE(writer.append(2, 3, payload(u"Hello"_qs), base + 1));
+    ASSERT_TRUE(writer.append(2, 3, payload(u"Hello"_qs), recordTime + 1));
     ASSERT_TRUE(testing::DatabaseFile(path_).run(u"DROP TABLE app"_qs));
     const UsernotedReading reading = read();
     ASSERT_EQ(reading.records.size(), 1U);
@@ -335,7 +336,7 @@ TEST_F(BadDatabase, WithColumnsOfOtherTypesIsReadAsFarAsItGoes) {
 TEST_F(BadDatabase, LockedByAnotherConnectionGivesNothingNow) {
     testing::UsernotedWriter writer(path_);
     ASSERT_TRUE(writer.createTables());
-    ASSERT_TRUE(writer.append(2, 3, payload(u"Hello"_qs), base + 1));
+    ASSERT_TRUE(writer.append(2, 3, payload(u"Hello"_qs), recordTime + 1));
     writer.close();
     {
         const SqliteConnection locker(path_, SqliteConnection::Mode::ownFile);

@@ -1,54 +1,130 @@
 #!/usr/bin/env python3
 """Runs clang-tidy over sources that have changed since it last found nothing in them.
 
-usage: check_tidy.py CLANG_TIDY ROOT BUILD_FOLDER FOLDER...
+usage: check_tidy.py CLANG_TIDY ROOT BUILD_FOLDER FOLDER
 
-It reads what the compiler reads: where the build compiles several sources as one, so does
-clang-tidy, which spends nearly all of its time on the headers that they share. Such a set counts as
-unchanged while its sources, all they include of this project, the compile command, the settings and
-clang-tidy itself are the same.
+clang-tidy spends nearly all of its time on the headers of libraries, so the sources of a folder are
+read as few units, each a list of includes. A unit counts as unchanged while its sources, all they
+include of this project, its compile command, the settings and clang-tidy itself are the same.
 """
 
-import concurrent.futures
 import dataclasses
 import hashlib
 import json
-import os
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 
 import sources
 
-INCLUDE = re.compile(r'^#include "([^"]+)"', re.MULTILINE)
+UNITY_INCLUDE = re.compile(r'^#include "([^"]+)"', re.MULTILINE)
+
+
+# More take no less time together, and memory.
+LARGEST_UNIT = 24
+
+
+class Command:
+    """The union of the compiler's arguments for several sources."""
+
+    def __init__(self):
+        self.arguments, self.macros = {}, set()
+
+    def add(self, words):
+        words = iter(words[1:])
+        for word in words:
+            if word in ("-isystem", "-include"):
+                word = (word, next(words))
+            elif word in ("-o", "-c", "-MF", "-MT"):
+                next(words)
+                continue
+            elif word.startswith("-D"):
+                macro = word.partition("=")[0]
+                if macro in self.macros:
+                    continue
+                self.macros.add(macro)
+            elif not word.startswith(("-I", "-f", "-std", "-W")):
+                continue
+            self.arguments[word] = None
+
+    def words(self):
+        flat = [(word,) if isinstance(word, str) else word for word in self.arguments]
+        return ["clang++", *(word for pair in flat for word in pair)]
+
+
+@dataclasses.dataclass
+class Unit:
+    path: pathlib.Path
+    files: list  # of ours, from the root
+    command: list
+
+    def write(self, root):
+        text = "".join(f'#include "{(root / file).as_posix()}"\n' for file in self.files)
+        if not self.path.exists() or self.path.read_text() != text:
+            self.path.write_text(text)
+
+    def as_entry(self):
+        return {"directory": str(self.path.parent), "file": str(self.path),
+                "arguments": [*self.command, "-c", str(self.path)]}
+
+
+def sources_of(entry):
+    """What an entry of the build compiles, itself perhaps a list of includes."""
+    path = pathlib.Path(entry["directory"], entry["file"])
+    if path.parent.name != "Unity":
+        return [path]
+    return [pathlib.Path(name) for name in UNITY_INCLUDE.findall(path.read_text())]
+
+
+def is_program(path):
+    return re.search(r"^int main\(", path.read_text(), re.MULTILINE) is not None
+
+
+def units_of(root, build, checked):
+    """The sources below the folder that the build compiles, as units."""
+    groups, commands = {}, {}
+    for entry in json.loads((build / "compile_commands.json").read_text()):
+        for path in sources_of(entry):
+            if root / checked not in path.parents:
+                continue
+            file = path.relative_to(root)
+            group = file if is_program(path) else pathlib.Path(*file.parts[:2])
+            groups.setdefault(group, set()).add(file)
+            commands.setdefault(group, Command()).add(shlex.split(entry["command"]))
+    units = []
+    for group, files in sorted(groups.items()):
+        files, parts = sorted(files), -(-len(files) // LARGEST_UNIT)
+        for part in range(parts):
+            name = f"{group.as_posix().replace('/', '_')}_{part}.cpp"
+            units.append(Unit(build / "tidy" / checked / name, files[part::parts], commands[group].words()))
+    return units
 
 
 class Tidy:
-    def __init__(self, program, root, build, folders):
-        self.program, self.root, self.build = program, root, build
-        self.stamps = build / "tidy"
-        self.stamps.mkdir(exist_ok=True)
+    def __init__(self, program, root, folder):
+        self.program, self.root, self.folder = program, root, folder
         version = subprocess.run([program, "--version"], capture_output=True, check=True).stdout
         self.base = hashlib.sha256(version + (root / ".clang-tidy").read_bytes()).digest()
         # Without what the build generates, which lies below the root too.
-        self.ours = f"^{re.escape(str(root))}/({'|'.join(folders)})/.*\\.(h|cpp)$"
+        self.ours = f"^{re.escape(str(root))}/(src|tests)/.*\\.(h|cpp)$"
 
-    def fingerprint(self, files, command):
-        digest = hashlib.sha256(self.base + command.encode())
-        included = {name for file in files
+    def fingerprint(self, unit):
+        digest = hashlib.sha256(self.base + json.dumps(unit.as_entry()).encode())
+        included = {name for file in unit.files
                     for name in sources.with_everything_included(self.root, file)}
         for name in sorted(included):
-            digest.update(hashlib.sha256((self.root / name).read_bytes()).digest())
+            digest.update(name.as_posix().encode() + (self.root / name).read_bytes())
         return digest.hexdigest()
 
     def check(self, unit):
         """Nothing if the unit is clean, else what clang-tidy says."""
-        stamp = self.stamps / unit.path.relative_to(self.build).as_posix().replace("/", "_")
-        fingerprint = self.fingerprint(unit.files, unit.command)
+        stamp = unit.path.with_suffix(".clean")
+        fingerprint = self.fingerprint(unit)
         if stamp.exists() and stamp.read_text() == fingerprint:
             return None
-        done = subprocess.run([self.program, "-p", self.build, "--quiet",
+        done = subprocess.run([self.program, "-p", self.folder, "--quiet",
                                "--header-filter", self.ours, unit.path],
                               capture_output=True, text=True, encoding="utf-8")
         if done.returncode == 0:
@@ -57,46 +133,29 @@ class Tidy:
         return done.stdout or done.stderr
 
 
-@dataclasses.dataclass
-class Unit:
-    """What the compiler reads at once: a list of includes that the build wrote."""
-    path: pathlib.Path
-    command: str
-    files: list  # of ours, from the root
-
-
-def units_of(root, build, folders):
-    """The units of sources under the folders, and the set of those sources."""
-    units, covered = [], set()
-    for entry in json.loads((build / "compile_commands.json").read_text()):
-        path = pathlib.Path(entry["directory"], entry["file"])
-        if path.parent.name != "Unity":
-            continue
-        included = [pathlib.Path(name) for name in INCLUDE.findall(path.read_text())]
-        files = [name.relative_to(root) for name in included
-                 if any((root / folder) in name.parents for folder in folders)]
-        if files:
-            units.append(Unit(path, entry["command"], files))
-            covered.update(files)
-    return units, covered
-
-
 def main():
-    if len(sys.argv) < 5:
+    if len(sys.argv) != 5:
         sys.exit(__doc__)
     program, root, build = sys.argv[1], *(pathlib.Path(name).resolve() for name in sys.argv[2:4])
-    folders = sys.argv[4:]
-    units, covered = units_of(root, build, folders)
-    left_out = [file.as_posix() for file in sources.cpp_files(root, folders)
+    checked = sys.argv[4]
+    units = units_of(root, build, checked)
+    covered = {file for unit in units for file in unit.files}
+    left_out = [file.as_posix() for file in sources.cpp_files(root, [checked])
                 if file.suffix == ".cpp" and file not in covered and "fuzz" not in file.parts]
     if left_out:
         sys.exit("not compiled by this build, so not checked: " + " ".join(left_out))
-    tidy = Tidy(program, root, build, folders)
-    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as workers:
-        complaints = list(workers.map(tidy.check, units))
-    for complaint in filter(None, complaints):
-        print(complaint)
-    failed = sum(complaint is not None for complaint in complaints)
+
+    folder = build / "tidy" / checked
+    folder.mkdir(parents=True, exist_ok=True)
+    for unit in units:
+        unit.write(root)
+    (folder / "compile_commands.json").write_text(json.dumps([unit.as_entry() for unit in units]))
+    tidy, failed = Tidy(program, root, folder), 0
+    for unit in units:
+        complaint = tidy.check(unit)
+        if complaint:
+            failed += 1
+            print(complaint)
     print(f"{len(covered)} sources in {len(units)} units, {failed} with complaints")
     sys.exit(1 if failed else 0)
 

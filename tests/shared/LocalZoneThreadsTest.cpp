@@ -15,13 +15,13 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // 2025-11-16 15:33:20 UTC, by date(1) of 785000000 + 978307200.
-constexpr double afternoon = 785000000.0;
+constexpr double firstMoment = 785000000.0;
 
 // Some years of days, each at the same time of day; counts those that are not as in Tokyo.
 void showDays(int* wrong) {
     const auto time = DateFormatter::withPattern(u"HH:mm"_qs, "en_US");
     for (int day = 0; day < 1500; ++day) {
-        const double moment = afternoon + 86400.0 * day;
+        const double moment = firstMoment + 86400.0 * day;
         const bool isRight = time.text(moment) == u"00:33"_qs &&
                              static_cast<double>(wallTime(moment)) == moment + 32400 &&
                              startOfDay(dayKey(moment)) == moment - 2000;

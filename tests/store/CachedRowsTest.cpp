@@ -4,6 +4,7 @@
 #include "shared/DayKey.h"
 #include "store/HoardFixture.h"
 #include "store/SqlTrace.h"
+#include "support/Numbers.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,9 +20,8 @@ namespace {
 using namespace Qt::StringLiterals;
 using ::testing::ContainerEq;
 using ::testing::ElementsAre;
+using testing::infinity;
 using testing::SqlTrace;
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 // A second connection, as another program would hold it.
 class Outsider {

@@ -157,7 +157,7 @@ Setting integerList(const char* name, const std::vector<qint64>& value, Readings
 
 constexpr qint64 largest = std::numeric_limits<qint64>::max();
 constexpr double infinity = std::numeric_limits<double>::infinity();
-const QStringList none;
+const QStringList noTexts;
 
 // In the order of the getters: bool, integer, number, text, list of texts, list of integers.
 const Setting settings[] = {
@@ -194,7 +194,7 @@ const Setting settings[] = {
     text("WithACommaInIt", u"a, b"_qs, {false, 0, 0, u"a, b"_qs, {u"a, b"_qs}, {}}),
     text("ThatLooksLikeNone", u"@Invalid()"_qs,
          {false, 0, 0, u"@Invalid()"_qs, {u"@Invalid()"_qs}, {}}),
-    textList("NoTexts", {}, {false, 0, 0, std::nullopt, none, {}}),
+    textList("NoTexts", {}, {false, 0, 0, std::nullopt, noTexts, {}}),
     textList("ListOfOne", {u"a.b"_qs}, {false, 0, 0, u"a.b"_qs, {u"a.b"_qs}, {}}),
     textList("ListOfTwo", {u"a"_qs, u"b"_qs}, {false, 0, 0, std::nullopt, {u"a"_qs, u"b"_qs}, {}}),
     textList("ListOfDigits", {u"1"_qs, u"2"_qs},
@@ -203,7 +203,7 @@ const Setting settings[] = {
              {false, 0, 0, std::nullopt, {u"1"_qs, u"two"_qs}, {}}),
     textList("ListOfDigitsAndAFraction", {u"1"_qs, u"2.5"_qs},
              {false, 0, 0, std::nullopt, {u"1"_qs, u"2.5"_qs}, {}}),
-    integerList("NoIntegers", {}, {false, 0, 0, std::nullopt, none, {}}),
+    integerList("NoIntegers", {}, {false, 0, 0, std::nullopt, noTexts, {}}),
     integerList("OneInteger", {5}, {false, 5, 5, u"5"_qs, {u"5"_qs}, {5}}),
     integerList("Integers", {3, -1, 2},
                 {false, 0, 0, std::nullopt, {u"3"_qs, u"-1"_qs, u"2"_qs}, {3, -1, 2}}),

@@ -4,6 +4,7 @@
 #include "core/Services.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/banners/BannerProcess.h"
+#include "platform/linux/banners/BannerProcessFixture.h"
 #include "platform/linux/banners/LinuxAccessibility.h"
 #include "support/HoardFile.h"
 #include "support/Printers.h"
@@ -23,9 +24,8 @@ using namespace Qt::Literals::StringLiterals;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using testing::ManualScheduler;
+using testing::pid;
 using ::testing::SizeIs;
-
-constexpr qint32 pid = 4711;
 
 // A session with a daemon, in which the program was started.
 struct BannersToHoardTest : ::testing::Test {

@@ -2,10 +2,10 @@
 #include "platform/linux/desktop/LinuxStatusPanel.h"
 #include "platform/linux/desktop/LinuxSymbols.h"
 #include "platform/linux/desktop/LinuxSystemAppearance.h"
+#include "platform/linux/desktop/QtBus.h"
 #include "platform/linux/desktop/StatusPicture.h"
 #include "support/EventLoop.h"
 #include "support/SimulatedDesktop.h"
-#include "ui/PrivateBus.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -130,7 +130,7 @@ protected:
         return turnsUntil([&] { return appearance.prefersDark() == dark; });
     }
 
-    testing::PrivateBus bus_;
+    testing::QtBus bus_;
     const QString group_ = u"org.freedesktop.appearance"_qs;
 };
 
@@ -198,7 +198,7 @@ protected:
         return turnsUntil([&] { return watch.isPresent() == present; });
     }
 
-    testing::PrivateBus bus_;
+    testing::QtBus bus_;
 };
 
 TEST_F(TrayWatchTest, ATrayThatWasThereBeforeIsFound) {

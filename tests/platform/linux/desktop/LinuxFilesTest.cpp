@@ -1,8 +1,8 @@
 #include "platform/linux/desktop/LinuxFileViewer.h"
 #include "platform/linux/desktop/LinuxSavePanel.h"
+#include "platform/linux/desktop/QtBus.h"
 #include "support/Printers.h"
 #include "support/SimulatedDesktop.h"
-#include "ui/PrivateBus.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -63,7 +63,7 @@ public Q_SLOTS:
 
 class FileViewerTest : public ::testing::Test {
 protected:
-    testing::PrivateBus bus_;
+    testing::QtBus bus_;
     FolderOpener opener_;
 };
 
