@@ -20,7 +20,7 @@ T.RadioButton {
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     horizontalPadding: Metrics.controlPadding
-    focusPolicy: tabStop ? Qt.TabFocus : Qt.NoFocus
+    focusPolicy: tabStop || activeFocus ? Qt.TabFocus : Qt.NoFocus // Qt takes it from nobody who has the keyboard
     hoverEnabled: true
     autoExclusive: false
     checked: chosen

@@ -98,6 +98,10 @@ void ControlsFixture::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
                                          << thing.property(property).toString().toStdString();
 }
 
+void ControlsFixture::focus(const QString& name) {
+    item(name).forceActiveFocus(Qt::TabFocusReason);
+}
+
 QString ControlsFixture::focusName() const {
     const QQuickItem* focus = window->activeFocusItem();
     return focus ? focus->objectName() : QString();
@@ -127,6 +131,45 @@ QAccessibleInterface* ControlsFixture::spokenBelow(QAccessibleInterface& top,
             return deeper;
     }
     return nullptr;
+}
+
+QAccessibleInterface& ControlsFixture::spokenItem(const QString& name) const {
+    return spoken(item(name));
+}
+
+QString ControlsFixture::nameOf(const QString& name) const {
+    return spokenItem(name).text(QAccessible::Name);
+}
+
+QString ControlsFixture::descriptionOf(const QString& name) const {
+    return spokenItem(name).text(QAccessible::Description);
+}
+
+void ControlsFixture::pressFromOutside(const QString& name, const QString& action) const {
+    spokenItem(name).actionInterface()->doAction(action);
+}
+
+QColor ControlsFixture::colourIn(const QString& name, const QPointF& place) {
+    const QPointF point = item(name).mapToScene(place);
+    return picture().pixelColor((point * window->effectiveDevicePixelRatio()).toPoint());
+}
+
+QStringList ControlsFixture::overflowing(const QString& name) const {
+    const QQuickItem& top = item(name);
+    const QRectF room = top.boundingRect().adjusted(-0.5, -0.5, 0.5, 0.5);
+    QStringList texts;
+    firstBelow(top, [&](const QQuickItem& child) {
+        if (!child.isVisible() || child.property("paintedWidth").toDouble() == 0)
+            return false; // no text, or an empty one
+        const QSizeF painted(child.property("paintedWidth").toDouble(),
+                             child.property("paintedHeight").toDouble());
+        const bool tooLarge =
+            painted.width() > child.width() + 0.5 || painted.height() > child.height() + 0.5;
+        if (tooLarge || !room.contains(child.mapRectToItem(&top, child.boundingRect())))
+            texts << child.property("text").toString();
+        return false;
+    });
+    return texts;
 }
 
 } // namespace tessarine::testing

@@ -6,6 +6,7 @@
 #include "windows/ViewEngine.h"
 
 #include <QAccessible>
+#include <QColor>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -51,6 +52,8 @@ protected:
     ::testing::AssertionResult becomes(const QString& name, const char* property,
                                        const QVariant& value);
 
+    // Gives the thing the keyboard as the Tab key would.
+    void focus(const QString& name);
     QString focusName() const;
     bool showsFocusRing(const QString& name) const;
 
@@ -58,6 +61,17 @@ protected:
     // The first interface with the role below another; null if there is none.
     static QAccessibleInterface* spokenBelow(QAccessibleInterface& top, QAccessible::Role role,
                                              const QString& name = {});
+    QAccessibleInterface& spokenItem(const QString& name) const;
+    QString nameOf(const QString& name) const;
+    QString descriptionOf(const QString& name) const;
+    // What a screen reader, or a test from outside, does with the thing.
+    void pressFromOutside(const QString& name, const QString& action) const;
+
+    // The colour of one point of the thing, as the window shows it.
+    QColor colourIn(const QString& name, const QPointF& place);
+
+    // The texts below the thing that need more room than they have, or reach beyond the thing.
+    QStringList overflowing(const QString& name) const;
 
     SimulatedAppearance appearance;
     std::unique_ptr<Symbols> symbols = makeSymbols();

@@ -11,23 +11,7 @@ class ControlsTest : public ControlsFixture {
 protected:
     void SetUp() override { load(u"controls"_qs); }
 
-    void focus(const QString& name) { item(name).forceActiveFocus(Qt::TabFocusReason); }
-
     void disableAll() { scene->setProperty("usable", false); }
-
-    QAccessibleInterface& spokenItem(const QString& name) { return spoken(item(name)); }
-
-    void pressFromOutside(const QString& name, const QString& action) {
-        spokenItem(name).actionInterface()->doAction(action);
-    }
-
-    QString nameOf(const QString& name) { return spokenItem(name).text(QAccessible::Name); }
-
-    // The colour of one point of a control, as the window shows it.
-    QColor colourIn(const QString& name, const QPointF& place) {
-        const QPointF point = item(name).mapToScene(place);
-        return picture().pixelColor((point * window->effectiveDevicePixelRatio()).toPoint());
-    }
 
     // Inside the edge, clear of the text.
     static constexpr QPointF corner_{4, 4};
@@ -233,6 +217,17 @@ TEST_F(ThemeSegmentsTest, TheRowIsOneStopForTab) {
     EXPECT_EQ(window->activeFocusItem(), &part(u"App"_qs));
     press(Qt::Key_Tab);
     EXPECT_EQ(focusName(), u"search"_qs);
+}
+
+TEST_F(ThemeSegmentsTest, TheRowIsOneStopForTabAlsoAfterTheArrows) {
+    focusPart(u"App"_qs);
+    press(Qt::Key_Right);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focusName(), u"search"_qs);
+    press(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(window->activeFocusItem(), &part(u"Date"_qs));
+    press(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(focusName(), u"picker"_qs);
 }
 
 TEST_F(ThemeSegmentsTest, AScreenReaderSeesAGroupOfRadioButtons) {
