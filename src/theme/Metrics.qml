@@ -30,6 +30,15 @@ QtObject {
     readonly property int menuColumn: 28 // of the symbols before the texts of a menu
     readonly property int symbolSize: 14
     readonly property int smallSymbolSize: 12
+    readonly property int tabSymbolSize: 18
+    readonly property int tabWidth: 84
+    readonly property int badgeSize: 18
+    readonly property int checkBoxSize: 16
+    readonly property int barHeight: 6
+    readonly property int ringSize: 22
+    readonly property int ringWidth: 3
+    readonly property int stepSize: 20
+    readonly property int dotSize: 6
     readonly property real disabledOpacity: 0.4
     readonly property int focusRingWidth: 2
     readonly property int hairline: 1
@@ -47,5 +56,7 @@ QtObject {
     readonly property int quick: 100
     readonly property int swift: 150
     readonly property int gentle: 200
+    readonly property int leisurely: 250
+    readonly property int ringStep: 1000
     readonly property int tipDelay: 700
 }
