@@ -19,6 +19,10 @@ T.AbstractButton {
 
     signal activated(int index)
 
+    function open() {
+        menu.open();
+    }
+
     function choose(index: int) {
         menu.close();
         if (index >= 0)
