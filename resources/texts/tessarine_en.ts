@@ -237,6 +237,10 @@
         <source>menu.quit</source>
         <translation>Quit Tessarine</translation>
     </message>
+    <message id="pageDots.position">
+        <source>pageDots.position</source>
+        <translation>Step %1 of %2</translation>
+    </message>
     <message id="preview.copy">
         <source>preview.copy</source>
         <translation>Copy</translation>
@@ -252,6 +256,10 @@
     <message id="preview.title">
         <source>preview.title</source>
         <translation>Notification</translation>
+    </message>
+    <message id="progress.percent">
+        <source>progress.percent</source>
+        <translation>%1%</translation>
     </message>
     <message id="row.clickToReveal">
         <source>row.clickToReveal</source>

@@ -12,6 +12,11 @@ namespace {
 
 constexpr char engineProperty[] = "tessarineTheme";
 
+QFont sized(QFont font, int size) {
+    font.setPixelSize(size);
+    return font;
+}
+
 } // namespace
 
 Theme::Theme(SystemAppearance& appearance)
@@ -37,10 +42,14 @@ const Palette& Theme::colours() const {
     return dark() ? Palette::dark() : Palette::light();
 }
 
-QFont Theme::textFont(int size) const {
-    QFont font = tessarine::textFont();
-    font.setPixelSize(size);
+QFont Theme::textFont(int size, int weight) const {
+    QFont font = sized(tessarine::textFont(), size);
+    font.setWeight(QFont::Weight(weight));
     return font;
+}
+
+QFont Theme::monospacedFont(int size) const {
+    return sized(tessarine::monospacedFont(), size);
 }
 
 // Not composed in QML: in Qt 6.4 its compiled code may end the program while it turns a colour into

@@ -40,7 +40,10 @@ public:
 
     // The face of running text at a size in points, for what doesn't take the application's by
     // itself.
-    Q_INVOKABLE QFont textFont(int size) const;
+    Q_INVOKABLE QFont textFont(int size, int weight = QFont::Normal) const;
+
+    // The face whose letters are all equally wide.
+    Q_INVOKABLE QFont monospacedFont(int size) const;
 
     // Where an Image finds the symbol in this colour. An empty name gives an empty address.
     Q_INVOKABLE QString symbolSource(const QString& name, const QColor& tint) const;
