@@ -45,7 +45,9 @@ TEST_P(GalleryTest, HoveredPressedAndFocused) {
     QTest::mousePress(window.get(), Qt::LeftButton, {}, centre(u"first"_qs));
     save(u"pressed"_qs);
     QTest::mouseRelease(window.get(), Qt::LeftButton, {}, centre(u"first"_qs));
-    for (const QString& name : {u"first"_qs, u"icon"_qs, u"picker"_qs, u"toggle"_qs}) {
+    for (const QString& name :
+         {u"first"_qs, u"icon"_qs, u"picker"_qs, u"toggle"_qs, u"switchRow"_qs, u"choiceRow"_qs,
+          u"textField"_qs, u"checkBox"_qs, u"link"_qs}) {
         item(name).forceActiveFocus(Qt::TabFocusReason);
         EXPECT_TRUE(showsFocusRing(name));
         save(u"focused-"_qs + name);
