@@ -16,9 +16,15 @@ CheckControl {
     rightPadding: mirrored ? boxRoom : 0
     Accessible.name: text
 
+    FontMetrics {
+        id: firstLine
+
+        font.pixelSize: Metrics.textBody
+    }
+
     indicator: Rectangle {
         x: box.mirrored ? box.width - width : 0
-        y: Math.round((Math.min(box.height, label.firstLineHeight) - height) / 2)
+        y: Math.round((Math.min(box.height, firstLine.height) - height) / 2)
         width: Metrics.checkBoxSize
         height: Metrics.checkBoxSize
         radius: Metrics.spacingSmall
@@ -49,10 +55,6 @@ CheckControl {
     }
 
     contentItem: PlainLabel {
-        id: label
-
-        readonly property real firstLineHeight: lineCount > 0 ? implicitHeight / lineCount : implicitHeight
-
         text: box.text
         color: box.enabled ? Theme.colours.label : Theme.colours.secondaryLabel
         font.weight: box.textWeight

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Templates as T
-import Tessarine.Theme
 
 // What all that is on or off has in common. It shows what its owner holds (`checked`) and tells what
 // the user wants (`activated`): one that the owner refuses stays as it was.

@@ -31,7 +31,7 @@ FocusableItem {
     implicitHeight: Math.max(picker.height, texts.height)
     Accessible.role: Accessible.ComboBox
     Accessible.name: title
-    Accessible.description: [displayText, texts.spokenDetail].filter(text => text).join("\n")
+    Accessible.description: Array.from([displayText, texts.spokenDetail]).filter(text => text).join("\n")
     Accessible.focusable: true
     Accessible.onPressAction: open()
     Keys.onDownPressed: open()

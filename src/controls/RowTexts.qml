@@ -12,7 +12,7 @@ Column {
     property string noteSymbol
     property color noteInk: Theme.colours.secondaryLabel
 
-    readonly property string spokenDetail: [caption, note].filter(text => text).join("\n")
+    readonly property string spokenDetail: Array.from([caption, note]).filter(text => text).join("\n")
     readonly property int symbolRoom: noteSymbol ? Metrics.smallSymbolSize + Metrics.spacingSmall : 0
 
     component Detail: PlainLabel {

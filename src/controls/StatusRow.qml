@@ -22,7 +22,7 @@ Item {
     implicitHeight: Math.max(Metrics.controlHeight, texts.height, trailing.height)
     Accessible.role: Accessible.Grouping
     Accessible.name: title
-    Accessible.description: [status, texts.spokenDetail].filter(text => text).join("\n")
+    Accessible.description: Array.from([status, texts.spokenDetail]).filter(text => text).join("\n")
 
     SymbolImage {
         id: badge

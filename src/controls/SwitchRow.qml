@@ -20,23 +20,21 @@ CheckControl {
     Accessible.name: title
     Accessible.description: texts.spokenDetail
 
-    contentItem: Item {
-        RowTexts {
-            id: texts
+    RowTexts {
+        id: texts
 
-            anchors.left: parent.left
-            anchors.right: face.left
-            anchors.rightMargin: Metrics.spacingLarge
-            anchors.verticalCenter: parent.verticalCenter
-            title: row.title
-        }
+        anchors.left: parent.left
+        anchors.right: face.left
+        anchors.rightMargin: Metrics.spacingLarge
+        anchors.verticalCenter: parent.verticalCenter
+        title: row.title
+    }
 
-        ToggleFace {
-            id: face
+    ToggleFace {
+        id: face
 
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            control: row
-        }
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        control: row
     }
 }

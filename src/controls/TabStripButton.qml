@@ -47,34 +47,9 @@ T.TabButton {
         fill: Theme.colours.track
     }
 
-    contentItem: Item {
-        implicitWidth: Math.ceil(label.implicitWidth)
-        implicitHeight: lines.implicitHeight
-
-        Column {
-            id: lines
-
-            anchors.centerIn: parent
-            spacing: Metrics.spacingTiny
-
-            SymbolImage {
-                anchors.horizontalCenter: parent.horizontalCenter
-                symbol: tab.symbol
-                size: Metrics.tabSymbolSize
-                tint: tab.ink
-                visible: symbol
-            }
-
-            PlainLabel {
-                id: label
-
-                width: Math.min(Math.ceil(implicitWidth), tab.availableWidth)
-                text: tab.text
-                color: tab.ink
-                font.pixelSize: tab.symbol ? Metrics.textTiny : Metrics.textBody
-                horizontalAlignment: Text.AlignHCenter
-                Accessible.ignored: true
-            }
-        }
+    contentItem: TabStripFace {
+        symbol: tab.symbol
+        text: tab.text
+        ink: tab.ink
     }
 }

@@ -9,7 +9,7 @@ LineField {
     required property string accessibleName
     property string value
 
-    readonly property bool cameByKeyboard: [Qt.TabFocusReason, Qt.BacktabFocusReason, Qt.ShortcutFocusReason].includes(focusReason)
+    readonly property bool cameByKeyboard: Array.from([Qt.TabFocusReason, Qt.BacktabFocusReason, Qt.ShortcutFocusReason]).includes(focusReason)
 
     // False if there was nothing to put back.
     function restore(): bool {

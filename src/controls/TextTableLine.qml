@@ -16,7 +16,7 @@ Row {
     property int cellRole: Accessible.Cell
 
     Accessible.role: Accessible.Row
-    Accessible.name: cells.join("\n")
+    Accessible.name: Array.from(cells).join("\n")
 
     Repeater {
         model: line.columns

@@ -14,9 +14,10 @@ CheckControl {
     opacity: enabled ? 1 : Metrics.disabledOpacity
     Accessible.name: accessibleName
 
-    background: ToggleFace {
+    ToggleFace {
         id: face
 
+        anchors.fill: parent
         control: toggle
     }
 }
