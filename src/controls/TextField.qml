@@ -19,6 +19,7 @@ LineField {
     }
 
     text: value
+    autoScroll: activeFocus // else it shows where its text begins
     Accessible.name: accessibleName
     Keys.onEscapePressed: event => event.accepted = field.restore()
     onActiveFocusChanged: if (activeFocus && cameByKeyboard) selectAll()

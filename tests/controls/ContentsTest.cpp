@@ -130,16 +130,17 @@ TEST_P(ProgressTest, AScreenReaderReadsItsPercentage) {
     EXPECT_EQ(descriptionOf(name_), u"100%"_qs);
 }
 
-struct BoundCase {
+struct FractionBound {
     double fraction;
     double shown;
 };
 
 TEST_P(ProgressTest, WhatIsNoFractionIsTakenForTheNearest) {
     item(name_).setVisible(false);
-    for (const BoundCase& bound : {BoundCase{1.5, 1}, BoundCase{-0.5, 0},
-                                   BoundCase{std::numeric_limits<double>::infinity(), 1},
-                                   BoundCase{std::numeric_limits<double>::quiet_NaN(), 0}}) {
+    for (const FractionBound& bound :
+         {FractionBound{1.5, 1}, FractionBound{-0.5, 0},
+          FractionBound{std::numeric_limits<double>::infinity(), 1},
+          FractionBound{std::numeric_limits<double>::quiet_NaN(), 0}}) {
         scene->setProperty("fraction", bound.fraction);
         EXPECT_EQ(shown(), bound.shown) << bound.fraction;
     }

@@ -121,6 +121,26 @@ TEST_F(FieldsTest, AScreenReaderSeesATextFieldWithItsValue) {
     EXPECT_FALSE(field.state().searchEdit);
 }
 
+TEST_F(FieldsTest, AFieldWithoutTheKeyboardShowsWhereItsTextBegins) {
+    const auto firstLetter = [this] {
+        picture();
+        QRectF place;
+        QMetaObject::invokeMethod(&item(u"field"_qs), "positionToRectangle",
+                                  Q_RETURN_ARG(QRectF, place), Q_ARG(int, 0));
+        return place.left();
+    };
+    const double beginning = firstLetter();
+    scene->setProperty("name", u"A text that is too long for a field of 200 points"_qs);
+    item(u"field"_qs).setProperty("maximumLength", 100);
+    scene->setProperty("name", u"Another text that is too long for a field of 200 points"_qs);
+    EXPECT_EQ(firstLetter(), beginning);
+    focus(u"field"_qs);
+    press(Qt::Key_End);
+    EXPECT_LT(firstLetter(), beginning);
+    focus(u"before"_qs);
+    EXPECT_EQ(firstLetter(), beginning);
+}
+
 // Check box
 
 TEST_F(FieldsTest, AClickOnABoxOrItsTextTicksIt) {

@@ -80,7 +80,9 @@ TEST_P(PaletteTest, WhatIsWrittenOnFullFillsCanBeRead) {
 
 TEST_P(PaletteTest, ThePartsOfAGrooveCanBeRead) {
     for (const QColor& background : backgrounds_)
-        EXPECT_GE(contrast(colours_.secondaryLabel, over(colours_.track, background)), text_);
+        for (const QColor& text : {colours_.secondaryLabel, colours_.accentLabel})
+            EXPECT_GE(contrast(text, over(colours_.track, background)), text_)
+                << text.name().toStdString() << " on " << background.name().toStdString();
     EXPECT_GE(contrast(colours_.label, colours_.raised), text_);
 }
 
