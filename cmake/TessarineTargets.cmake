@@ -28,7 +28,7 @@ if(TESSARINE_SANITIZE)
                         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${TESSARINE_SANITIZE})
 endif()
-if(TESSARINE_SANITIZE MATCHES thread)
+if(TESSARINE_SANITIZE MATCHES thread AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     # What Qt generates for QML has fences, which ThreadSanitizer doesn't follow. Ours has none.
     add_compile_options(-Wno-tsan)
 endif()

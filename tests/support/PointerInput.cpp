@@ -28,13 +28,6 @@ QPointingDevice& screen() {
     return *device;
 }
 
-// Qt hands a finger's moves to the items with the next frame that the window itself asks for: a
-// picture of the window is none, and the clock would decide which moves become one.
-void drawFrame(QQuickWindow& window) {
-    QEvent request(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&window, &request);
-}
-
 } // namespace
 
 void dragByMouse(QQuickWindow& window, QPoint from, QPoint to) {
