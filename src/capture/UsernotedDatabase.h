@@ -29,7 +29,7 @@ struct UsernotedReading {
 // seconds before the cursor, so that a row which was committed late is not lost; the store refuses
 // rows that it has already. nameOf gives an application's shown name.
 //
-// Opens the file anew and closes it. A database that can't be opened or lacks a table gives an
+// Opens the file again and closes it. A database that can't be opened or lacks a table gives an
 // empty reading. Any thread.
 UsernotedReading readUsernotedDatabase(const QString& path, const UsernotedCursor& cursor,
                                        DecoderVariant variant,

@@ -4,40 +4,39 @@ namespace tessarine {
 
 namespace {
 
-struct Traits {
-    QString rawValue;
-    QString fileExtension;
-    QString iconName;
-    QString descriptionKey;
+struct Texts {
+    const char16_t* rawValue;
+    const char16_t* fileExtension;
+    const char16_t* iconName;
+    const char16_t* descriptionKey;
 };
 
-const Traits& traits(ExportFormat format) {
-    static const std::array<Traits, allExportFormats.size()> all{
-        Traits{QStringLiteral("Text"), QStringLiteral("txt"), QStringLiteral("doc.text"),
-               QStringLiteral("export.format.txt.desc")},
-        Traits{QStringLiteral("CSV"), QStringLiteral("csv"), QStringLiteral("tablecells"),
-               QStringLiteral("export.format.csv.desc")},
-        Traits{QStringLiteral("PDF Report"), QStringLiteral("pdf"),
-               QStringLiteral("doc.richtext.fill"), QStringLiteral("export.format.pdf.desc")}};
-    return all[static_cast<std::size_t>(format)];
+constexpr std::array<Texts, allExportFormats.size()> formatTexts{{
+    {u"Text", u"txt", u"doc.text", u"export.format.txt.desc"},
+    {u"CSV", u"csv", u"tablecells", u"export.format.csv.desc"},
+    {u"PDF Report", u"pdf", u"doc.richtext.fill", u"export.format.pdf.desc"},
+}};
+
+const Texts& texts(ExportFormat format) {
+    return formatTexts.at(static_cast<std::size_t>(format));
 }
 
 } // namespace
 
 QString rawValue(ExportFormat format) {
-    return traits(format).rawValue;
+    return QString::fromUtf16(texts(format).rawValue);
 }
 
 QString fileExtension(ExportFormat format) {
-    return traits(format).fileExtension;
+    return QString::fromUtf16(texts(format).fileExtension);
 }
 
 QString iconName(ExportFormat format) {
-    return traits(format).iconName;
+    return QString::fromUtf16(texts(format).iconName);
 }
 
 QString descriptionKey(ExportFormat format) {
-    return traits(format).descriptionKey;
+    return QString::fromUtf16(texts(format).descriptionKey);
 }
 
 } // namespace tessarine

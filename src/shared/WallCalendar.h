@@ -7,7 +7,7 @@
 
 #include <memory>
 
-// Calendars of ICU that reckon in wall time, so that they know of no time zone. Any thread.
+// Calendars of ICU that compute in wall time, so that they know of no time zone. Any thread.
 
 namespace tessarine {
 
@@ -15,7 +15,7 @@ namespace tessarine {
 UDate icuDate(qint64 wallTime);
 qint64 wallTimeOf(UDate date);
 
-// Makes a calendar reckon in wall time. One of the Gregorian kind has no Julian dates before 1582
+// Makes a calendar compute in wall time. One of the Gregorian kind has no Julian dates before 1582
 // then, since the keys of days have none.
 void useWallTime(icu::Calendar& calendar);
 

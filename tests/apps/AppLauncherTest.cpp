@@ -40,7 +40,7 @@ TEST_F(AppLauncherTest, HandsOverALink) {
     EXPECT_EQ(said, u"[AppLauncher] Deep link opened: message://Id@Host\n"_qs);
 }
 
-TEST_F(AppLauncherTest, ReckonsFromTheClickNotFromTheNotification) {
+TEST_F(AppLauncherTest, CountsFromTheClickNotFromTheNotification) {
     system.workspace.installed[u"com.apple.iCal"_qs] = u"/Applications/Calendar.app"_qs;
     open(u"com.apple.iCal"_qs, u"Calendar"_qs, u"Lunch in 5 minutes"_qs);
     // 785000000 + 978307200 + 300

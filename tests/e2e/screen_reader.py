@@ -42,7 +42,7 @@ def pulse(seconds):
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         start = time.monotonic()
-        component.getExtents(pyatspi.DESKTOP_COORDS)  # asked anew each time
+        component.getExtents(pyatspi.DESKTOP_COORDS)  # asked again each time
         waits.append((time.monotonic() - start) * 1000)
         time.sleep(0.002)
     waits.sort()

@@ -51,7 +51,7 @@ def wait_until(condition, what, seconds=PATIENCE):
 
 
 class Display:
-    """An X server of its own, shared by the tests of a process. It doesn't begin anew when its last
+    """An X server of its own, shared by the tests of a process. It doesn't begin again when its last
     client goes: a program that starts in that moment would find no server."""
 
     _shared = None

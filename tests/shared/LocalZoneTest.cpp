@@ -114,7 +114,7 @@ TEST(WallTimeFarAway, TakesWhatIsNoNumberAsTheFirstDate) {
     EXPECT_EQ(wallTime(noNumber), wallTime(firstSecond));
 }
 
-TEST(WallTimeFarAway, IsReckonedByTheRulesOfTheZone) {
+TEST(WallTimeFarAway, IsComputedByTheRulesOfTheZone) {
     const TimeZoneScope zone("America/Nuuk");                   // two hours behind in winter
     EXPECT_EQ(wallTime(-63113000000.0) - -63113000000, -12416); // 3:26:56 behind in the year 1
     EXPECT_EQ(wallTime(252423000000.0) - 252423000000, -7200);  // in December 9999

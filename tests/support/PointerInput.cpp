@@ -52,7 +52,7 @@ void dragByFinger(QQuickWindow& window, QPoint from, QPoint to) {
 }
 
 void turnWheel(QQuickWindow& window, QPoint place, int degrees) {
-    // A view reckons the speed from the time between two events of one clock.
+    // A view computes the speed from the time between two events of one clock.
     static quint64 timestamp = 1'000'000'000;
     for (int notch = 0; notch < 2; ++notch) {
         QWheelEvent event(place, window.mapToGlobal(place), {}, {0, degrees * 4}, Qt::NoButton,

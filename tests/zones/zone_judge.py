@@ -126,7 +126,7 @@ class JudgeTestCase(unittest.TestCase):
                    [str(day) if start is None else title(day) for day, start in zip(days, starts)])
 
     def judge_days(self, name, zone, changes):
-        """What reckons with days, on and around those of some changes."""
+        """What computes with days, on and around those of some changes."""
         looks = [change + step for change in changes
                  for step in (-1, 0, DAY // 2, DAY, 9 * DAY, 35 * DAY)]
         readings = [(change + step, time) for change in changes

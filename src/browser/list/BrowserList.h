@@ -16,9 +16,9 @@ namespace tessarine {
 class PreferencesStore;
 
 // The browser's list: which of the loaded rows pass the search and the app filter, how they are
-// sorted and grouped, and the lines that a view shows of them. The lines are derived anew with each
-// list that is loaded and each wish of the user, and kept until the next. Nothing here outlives the
-// process. Main thread.
+// sorted and grouped, and the lines that a view shows of them. The lines are derived again with
+// each list that is loaded and each wish of the user, and kept until the next. Nothing here
+// outlives the process. Main thread.
 class BrowserList : public QObject {
     Q_OBJECT
     QML_ELEMENT

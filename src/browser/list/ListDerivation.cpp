@@ -8,12 +8,38 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 
 namespace tessarine {
 
 namespace {
+
+struct ModeTexts {
+    const char16_t* rawValue;
+    const char* labelId;
+};
+
+constexpr std::array<ModeTexts, 3> groupModeTexts{{
+    {u"none", QT_TRID_NOOP("toolbar.group.none")},
+    {u"app", QT_TRID_NOOP("toolbar.group.byApp")},
+    {u"date", QT_TRID_NOOP("toolbar.group.byDate")},
+}};
+
+constexpr std::array<ModeTexts, 3> sortModeTexts{{
+    {u"newest", QT_TRID_NOOP("toolbar.sort.newest")},
+    {u"oldest", QT_TRID_NOOP("toolbar.sort.oldest")},
+    {u"app", QT_TRID_NOOP("toolbar.sort.appAZ")},
+}};
+
+const ModeTexts& texts(GroupMode mode) {
+    return groupModeTexts.at(static_cast<std::size_t>(mode));
+}
+
+const ModeTexts& texts(SortMode mode) {
+    return sortModeTexts.at(static_cast<std::size_t>(mode));
+}
 
 double sortKey(const CapturedNotification& row) {
     return std::isnan(row.timestamp) ? -std::numeric_limits<double>::infinity() : row.timestamp;
@@ -63,51 +89,19 @@ std::vector<NotificationGroup> groupedBy(const KeyOf& keyOf, const NotificationL
 } // namespace
 
 QString rawValue(GroupMode mode) {
-    switch (mode) {
-    case GroupMode::none:
-        return QStringLiteral("none");
-    case GroupMode::app:
-        return QStringLiteral("app");
-    case GroupMode::date:
-        return QStringLiteral("date");
-    }
-    return {};
+    return QString::fromUtf16(texts(mode).rawValue);
 }
 
 QString rawValue(SortMode mode) {
-    switch (mode) {
-    case SortMode::newest:
-        return QStringLiteral("newest");
-    case SortMode::oldest:
-        return QStringLiteral("oldest");
-    case SortMode::app:
-        return QStringLiteral("app");
-    }
-    return {};
+    return QString::fromUtf16(texts(mode).rawValue);
 }
 
 QString label(GroupMode mode) {
-    switch (mode) {
-    case GroupMode::none:
-        return qtTrId("toolbar.group.none");
-    case GroupMode::app:
-        return qtTrId("toolbar.group.byApp");
-    case GroupMode::date:
-        return qtTrId("toolbar.group.byDate");
-    }
-    return {};
+    return qtTrId(texts(mode).labelId);
 }
 
 QString label(SortMode mode) {
-    switch (mode) {
-    case SortMode::newest:
-        return qtTrId("toolbar.sort.newest");
-    case SortMode::oldest:
-        return qtTrId("toolbar.sort.oldest");
-    case SortMode::app:
-        return qtTrId("toolbar.sort.appAZ");
-    }
-    return {};
+    return qtTrId(texts(mode).labelId);
 }
 
 NotificationList keepingApp(NotificationList rows, const QString& selectedApp) {

@@ -15,7 +15,7 @@ class Scheduler;
 
 // The rows that the browser has in memory, and how many the hoard holds: the listener's published
 // list, which a capture brings back to its own length, and the limit up to which this view reads it
-// anew. Main thread, where the store's calls block.
+// again. Main thread, where the store's calls block.
 class LoadedRows : public QObject {
     Q_OBJECT
 

@@ -21,7 +21,7 @@ DateFormatter formatterOf(RowTimeFormatter::Style style, const QByteArray& local
     return DateFormatter::withStyles(Part::full, Part::none, locale);
 }
 
-// Made anew when the user's locale changes.
+// Made again when the user's locale changes.
 template <RowTimeFormatter::Style style>
 const RowTimeFormatter& userFormatter() {
     static QByteArray locale = userDateLocale();

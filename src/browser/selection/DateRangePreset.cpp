@@ -12,6 +12,26 @@ namespace tessarine {
 
 namespace {
 
+struct PresetTexts {
+    const char16_t* rawValue;
+    const char* labelId;
+    const char16_t* symbolName;
+};
+
+constexpr std::array<PresetTexts, allDateRangePresets.size()> presetTexts{{
+    {u"today", QT_TRID_NOOP("datePreset.today"), u"sun.max"},
+    {u"yesterday", QT_TRID_NOOP("datePreset.yesterday"), u"moon"},
+    {u"last7days", QT_TRID_NOOP("datePreset.last7days"), u"7.circle"},
+    {u"last30days", QT_TRID_NOOP("datePreset.last30days"), u"30.circle"},
+    {u"thisMonth", QT_TRID_NOOP("datePreset.thisMonth"), u"calendar"},
+    {u"lastMonth", QT_TRID_NOOP("datePreset.lastMonth"), u"calendar.badge.minus"},
+    {u"thisYear", QT_TRID_NOOP("datePreset.thisYear"), u"calendar.badge.clock"},
+}};
+
+const PresetTexts& texts(DateRangePreset preset) {
+    return presetTexts.at(static_cast<std::size_t>(preset));
+}
+
 // A day of the user's calendar, by its first instant: where the clock skips midnight, the day
 // begins after the gap; where it strikes twice, at the first stroke.
 class Day {
@@ -51,63 +71,15 @@ private:
 } // namespace
 
 QString rawValue(DateRangePreset preset) {
-    switch (preset) {
-    case DateRangePreset::today:
-        return QStringLiteral("today");
-    case DateRangePreset::yesterday:
-        return QStringLiteral("yesterday");
-    case DateRangePreset::last7days:
-        return QStringLiteral("last7days");
-    case DateRangePreset::last30days:
-        return QStringLiteral("last30days");
-    case DateRangePreset::thisMonth:
-        return QStringLiteral("thisMonth");
-    case DateRangePreset::lastMonth:
-        return QStringLiteral("lastMonth");
-    case DateRangePreset::thisYear:
-        return QStringLiteral("thisYear");
-    }
-    return {};
+    return QString::fromUtf16(texts(preset).rawValue);
 }
 
 QString label(DateRangePreset preset) {
-    switch (preset) {
-    case DateRangePreset::today:
-        return qtTrId("datePreset.today");
-    case DateRangePreset::yesterday:
-        return qtTrId("datePreset.yesterday");
-    case DateRangePreset::last7days:
-        return qtTrId("datePreset.last7days");
-    case DateRangePreset::last30days:
-        return qtTrId("datePreset.last30days");
-    case DateRangePreset::thisMonth:
-        return qtTrId("datePreset.thisMonth");
-    case DateRangePreset::lastMonth:
-        return qtTrId("datePreset.lastMonth");
-    case DateRangePreset::thisYear:
-        return qtTrId("datePreset.thisYear");
-    }
-    return {};
+    return qtTrId(texts(preset).labelId);
 }
 
 QString symbolName(DateRangePreset preset) {
-    switch (preset) {
-    case DateRangePreset::today:
-        return QStringLiteral("sun.max");
-    case DateRangePreset::yesterday:
-        return QStringLiteral("moon");
-    case DateRangePreset::last7days:
-        return QStringLiteral("7.circle");
-    case DateRangePreset::last30days:
-        return QStringLiteral("30.circle");
-    case DateRangePreset::thisMonth:
-        return QStringLiteral("calendar");
-    case DateRangePreset::lastMonth:
-        return QStringLiteral("calendar.badge.minus");
-    case DateRangePreset::thisYear:
-        return QStringLiteral("calendar.badge.clock");
-    }
-    return {};
+    return QString::fromUtf16(texts(preset).symbolName);
 }
 
 std::pair<double, double> presetBounds(DateRangePreset preset, double now) {

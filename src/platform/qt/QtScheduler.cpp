@@ -124,8 +124,8 @@ bool QtScheduler::MainThread::event(QEvent* event) {
     lock.unlock();
     if (!isTask)
         return QObject::event(event);
-    if (owed_ > 0 || turnIsUsedUp())
-        owe();
+    if (postponed_ > 0 || turnIsUsedUp())
+        postponeTask();
     else
         runOne();
     return true;
@@ -140,27 +140,27 @@ void QtScheduler::MainThread::runOne() {
 }
 
 // A task may turn the event loop itself, in which the others go on.
-void QtScheduler::MainThread::runOwed() {
+void QtScheduler::MainThread::runPostponed() {
     continuesLater_ = false;
     turnBegan_ = std::chrono::steady_clock::now();
-    while (owed_ > 0 && !turnIsUsedUp()) {
-        if (--owed_ > 0)
+    while (postponed_ > 0 && !turnIsUsedUp()) {
+        if (--postponed_ > 0)
             continueLater();
         runOne();
     }
-    if (owed_ > 0)
+    if (postponed_ > 0)
         continueLater();
 }
 
-void QtScheduler::MainThread::owe() {
-    ++owed_;
+void QtScheduler::MainThread::postponeTask() {
+    ++postponed_;
     continueLater();
 }
 
 // A timer that is due at once comes after input and drawing.
 void QtScheduler::MainThread::continueLater() {
     if (!std::exchange(continuesLater_, true))
-        QTimer::singleShot(0, this, [this] { runOwed(); });
+        QTimer::singleShot(0, this, [this] { runPostponed(); });
 }
 
 bool QtScheduler::MainThread::turnIsUsedUp() const {

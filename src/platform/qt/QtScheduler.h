@@ -41,8 +41,8 @@ private:
 
     private:
         void runOne();
-        void runOwed();
-        void owe();
+        void runPostponed();
+        void postponeTask();
         void continueLater();
         bool turnIsUsedUp() const;
 
@@ -51,7 +51,7 @@ private:
 
         // Of the main thread alone.
         std::chrono::steady_clock::time_point turnBegan_;
-        int owed_ = 0;
+        int postponed_ = 0;
         bool continuesLater_ = false;
     };
 

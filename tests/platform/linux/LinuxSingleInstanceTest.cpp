@@ -385,7 +385,7 @@ TEST_F(SingleInstanceTest, NeitherStartsNorWaitsByWhatAnImpostorDoes) {
         second.activateFirst();
 }
 
-TEST_F(SingleInstanceTest, HeedsNoRequestOfAnotherUser) {
+TEST_F(SingleInstanceTest, IgnoresTheRequestOfAnotherUser) {
     if (geteuid() != 0)
         GTEST_SKIP() << "needs two users";
     int activations = 0;

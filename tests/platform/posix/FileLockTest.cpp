@@ -194,7 +194,7 @@ TEST_F(FileLockTest, FollowsNoLinkThatLiesInItsPlace) {
     EXPECT_FALSE(QFile::exists(folder.filePath(u"elsewhere"_qs)));
 }
 
-TEST_F(FileLockTest, HeedsNoLockOnAFileOfAnotherUser) {
+TEST_F(FileLockTest, IgnoresTheLockOnAFileOfAnotherUser) {
     if (geteuid() != 0)
         GTEST_SKIP() << "needs two users";
     ASSERT_EQ(chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);

@@ -100,7 +100,7 @@ TEST_P(PrivateFileTest, MakesAFileForItsOwnerAlone) {
     EXPECT_EQ(entriesOf(folder.path()), QStringList(u"a"_qs));
 }
 
-TEST_P(PrivateFileTest, HeedsNoUmask) {
+TEST_P(PrivateFileTest, IgnoresTheUmask) {
     for (const mode_t mask : {mode_t(0), mode_t(0777)}) {
         const UmaskScope scope(mask);
         const QString file = path(QString::number(mask));

@@ -12,7 +12,8 @@ struct DesktopEntry;
 
 // Starts the entry's application, or raises it if it runs: over the session's bus where the
 // application answers there, else by its command line, as freedesktop's Desktop Entry Specification
-// says. May wait for the bus; any thread.
+// says. May wait for the bus; any thread. (GIO would ask the bus only for entries that are made for
+// it: others that run would start a second time. And its list of terminals is its own.)
 void startApplication(const DesktopEntry& entry, const std::string& sessionBus);
 
 // Hands the address to the desktop's opener. Any thread.

@@ -144,7 +144,7 @@ std::optional<std::vector<AXElementRef>> BannerProcess::windows(qint32 pid) {
     const auto look = std::make_shared<const BannerLook>(
         BannerLook{pid, scheduler_.now() - scheduler_.uptime(), take});
     std::vector<AXElementRef> windows;
-    for (auto& state : tree_.untaken())
+    for (auto& state : tree_.pending())
         windows.push_back(bannerWindow(look, std::move(state)));
     return windows;
 }
@@ -177,7 +177,7 @@ std::shared_ptr<void> BannerProcess::onEvent(EventHandlers::Handler handler) {
     auto leave = [token = eventHandlers_.add(std::move(handler)), observers = observers_](void*) {
         --*observers;
     };
-    remindWhileUntaken(); // of what was announced while nobody observed
+    remindWhilePending(); // of what was announced while nobody observed
     return {nullptr, std::move(leave)};
 }
 
@@ -254,11 +254,11 @@ void BannerProcess::sendEvent() {
         eventHandlers_.call(applicationElement(owner->pid), change == BannerChange::replaced
                                                                 ? ax::valueChanged
                                                                 : ax::windowCreated);
-    remindWhileUntaken();
+    remindWhilePending();
 }
 
 // One reminder at a time.
-void BannerProcess::remindWhileUntaken() {
+void BannerProcess::remindWhilePending() {
     if (tree_.isEmpty() || eventHandlers_.isEmpty())
         return;
     double delay = reminderInterval;

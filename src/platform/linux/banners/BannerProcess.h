@@ -100,7 +100,7 @@ private:
     void sendEvent();
     bool isLeftToTheReminder() const;
     void noteTaken(std::size_t bytes);
-    void remindWhileUntaken();
+    void remindWhilePending();
 
     template <typename Function>
     void onMain(Function function);

@@ -30,10 +30,10 @@ BannerChange BannerTree::announce(BannerCall call) {
         unanswered_.set(call.key, banner);
     if (call.texts.title.isEmpty() || shows(*banner, call.texts))
         return BannerChange::none;
-    untakenBytes_ += bytesOf(call.texts);
+    pendingBytes_ += bytesOf(call.texts);
     const auto state =
         std::make_shared<BannerState>(++lastNumber_, std::move(call.texts), call.announcedAt);
-    untaken_.emplace_hint(untaken_.end(), state->number, state);
+    pending_.emplace_hint(pending_.end(), state->number, state);
     banner->last = state;
     return replaces ? BannerChange::replaced : BannerChange::shown;
 }
@@ -50,7 +50,7 @@ BannerTree::BannerRef BannerTree::bannerFor(const BannerId& id) {
 
 bool BannerTree::shows(const Banner& banner, const AnnouncedTexts& texts) const {
     const std::shared_ptr<const BannerState> last = banner.last.lock();
-    return last && untaken_.contains(last->number) && last->texts == texts;
+    return last && pending_.contains(last->number) && last->texts == texts;
 }
 
 void BannerTree::answered(const AnnouncementKey& key, std::uint32_t number) {
@@ -72,18 +72,18 @@ void BannerTree::forgetIds(NotificationService service) {
         unanswered_.clear();
 }
 
-std::vector<std::shared_ptr<BannerState>> BannerTree::untaken() const {
+std::vector<std::shared_ptr<BannerState>> BannerTree::pending() const {
     const std::lock_guard lock(mutex_);
     std::vector<StateRef> states;
-    states.reserve(untaken_.size());
-    for (const auto& [number, state] : untaken_)
+    states.reserve(pending_.size());
+    for (const auto& [number, state] : pending_)
         states.push_back(state);
     return states;
 }
 
 bool BannerTree::isEmpty() const {
     const std::lock_guard lock(mutex_);
-    return untaken_.empty();
+    return pending_.empty();
 }
 
 bool BannerTree::take(BannerState& state) {
@@ -96,16 +96,16 @@ bool BannerTree::take(BannerState& state) {
 
 void BannerTree::keepLatest(std::size_t count, std::size_t bytes) {
     const std::lock_guard lock(mutex_);
-    while (untaken_.size() > count || untakenBytes_ > bytes)
-        remove(untaken_.begin()->first);
+    while (pending_.size() > count || pendingBytes_ > bytes)
+        remove(pending_.begin()->first);
 }
 
 void BannerTree::remove(std::uint64_t number) {
-    const auto found = untaken_.find(number);
-    if (found == untaken_.end())
+    const auto found = pending_.find(number);
+    if (found == pending_.end())
         return;
-    untakenBytes_ -= bytesOf(found->second->texts);
-    untaken_.erase(found);
+    pendingBytes_ -= bytesOf(found->second->texts);
+    pending_.erase(found);
 }
 
 } // namespace tessarine

@@ -51,7 +51,7 @@ public:
     void forgetIds(NotificationService service);
 
     // What wasn't taken yet, in the order of announcing.
-    std::vector<std::shared_ptr<BannerState>> untaken() const;
+    std::vector<std::shared_ptr<BannerState>> pending() const;
     bool isEmpty() const;
 
     // Takes a state out. False when it was taken before.
@@ -77,8 +77,8 @@ private:
     void remove(std::uint64_t number);
 
     mutable std::mutex mutex_;
-    std::map<std::uint64_t, StateRef> untaken_; // by number
-    std::size_t untakenBytes_ = 0;
+    std::map<std::uint64_t, StateRef> pending_; // by number
+    std::size_t pendingBytes_ = 0;
     std::uint64_t lastNumber_ = 0;
     RecentMap<AnnouncementKey, BannerRef> unanswered_;
     std::array<Ids, 2> ids_; // by service

@@ -37,20 +37,20 @@ struct BannerTreeTest : ::testing::Test {
 
     std::vector<QString> titles() const {
         std::vector<QString> titles;
-        for (const auto& state : tree.untaken())
+        for (const auto& state : tree.pending())
             titles.push_back(state->texts.title);
         return titles;
     }
 
     void takeAll() {
-        for (const auto& state : tree.untaken())
+        for (const auto& state : tree.pending())
             tree.take(*state);
     }
 };
 
 TEST_F(BannerTreeTest, IsEmptyAtFirst) {
     EXPECT_TRUE(tree.isEmpty());
-    EXPECT_THAT(tree.untaken(), IsEmpty());
+    EXPECT_THAT(tree.pending(), IsEmpty());
 }
 
 TEST_F(BannerTreeTest, ShowsBannersInTheOrderOfTheirAnnouncing) {
@@ -74,21 +74,21 @@ TEST_F(BannerTreeTest, HasNoBannerWithoutAnyText) {
 
 TEST_F(BannerTreeTest, LetsTheBodyOfABannerWithoutATitleLead) {
     announce({}, u"body"_qs);
-    EXPECT_EQ(tree.untaken().front()->texts, (AnnouncedTexts{u"Mail"_qs, u"body"_qs, {}}));
+    EXPECT_EQ(tree.pending().front()->texts, (AnnouncedTexts{u"Mail"_qs, u"body"_qs, {}}));
 }
 
 TEST_F(BannerTreeTest, KeepsTextsAsTheyAre) {
     const AnnouncedTexts texts{u"Foo, Inc."_qs, u"Meeting 14:30 - 15:00, Room 5"_qs,
                                u" 5m ago\n"_qs};
     tree.announce({nextCall(), 0U, texts, 17.25});
-    EXPECT_EQ(tree.untaken().front()->texts, texts);
-    EXPECT_EQ(tree.untaken().front()->announcedAt, 17.25);
+    EXPECT_EQ(tree.pending().front()->texts, texts);
+    EXPECT_EQ(tree.pending().front()->announcedAt, 17.25);
 }
 
 TEST_F(BannerTreeTest, KeepsABannerUntilItIsTaken) {
     announce(u"one"_qs);
     announce(u"two"_qs);
-    const auto states = tree.untaken();
+    const auto states = tree.pending();
     EXPECT_TRUE(tree.take(*states[0]));
     EXPECT_THAT(titles(), ElementsAre(u"two"_qs));
     EXPECT_TRUE(tree.take(*states[1]));
@@ -97,14 +97,14 @@ TEST_F(BannerTreeTest, KeepsABannerUntilItIsTaken) {
 
 TEST_F(BannerTreeTest, GivesAStateOnce) {
     announce(u"one"_qs);
-    const auto state = tree.untaken().front();
+    const auto state = tree.pending().front();
     EXPECT_TRUE(tree.take(*state));
     EXPECT_FALSE(tree.take(*state));
 }
 
 TEST_F(BannerTreeTest, KeepsWhatIsAnnouncedDuringAScan) {
     announce(u"one"_qs);
-    const auto scan = tree.untaken();
+    const auto scan = tree.pending();
     announce(u"two"_qs);
     EXPECT_TRUE(tree.take(*scan[0]));
     EXPECT_THAT(titles(), ElementsAre(u"two"_qs));
@@ -214,7 +214,7 @@ TEST_F(BannerTreeTest, IgnoresAnswersToOtherCalls) {
 
 TEST_F(BannerTreeTest, KeepsTextsNoLongerThanUntilTheyAreTaken) {
     announceAs(4, u"big"_qs);
-    const std::weak_ptr<const BannerState> state = tree.untaken().front();
+    const std::weak_ptr<const BannerState> state = tree.pending().front();
     takeAll();
     EXPECT_TRUE(state.expired());
 }
@@ -297,7 +297,7 @@ TEST_F(BannerTreeTest, LosesNothingAndGivesNothingTwiceWhenManyThreadsAnnounceAn
     std::atomic<bool> done = false;
     const auto take = [&] {
         while (!done || !tree.isEmpty()) {
-            for (const auto& state : tree.untaken())
+            for (const auto& state : tree.pending())
                 taken += tree.take(*state);
         }
     };
