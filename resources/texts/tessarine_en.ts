@@ -229,6 +229,10 @@
         <source>hoard.loading</source>
         <translation>Opening the hoard…</translation>
     </message>
+    <message id="menu.launchAtLogin">
+        <source>menu.launchAtLogin</source>
+        <translation>Launch at Login</translation>
+    </message>
     <message id="menu.openHoard">
         <source>menu.openHoard</source>
         <translation>Open Hoard</translation>

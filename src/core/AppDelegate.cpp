@@ -20,9 +20,11 @@ void AppDelegate::applicationDidFinishLaunching() {
     // The program starts silent: no system may bring its windows back after a quit.
     defaults.setBoolean(defaultsKeys::restoresWindows, false);
     applyAppearance(services.preferences.appearanceMode());
+    launchAgent_ = std::make_unique<LaunchAgentManager>(*services.platform.loginItem,
+                                                        *services.platform.fileSystem);
     menuBarController_ = std::make_unique<MenuBarController>(
-        *views_.desktop.statusItem, services.listener, defaults, [this] { showMainWindow(); },
-        [] { QCoreApplication::quit(); });
+        *views_.desktop.statusItem, services.listener, defaults, *launchAgent_,
+        [this] { showMainWindow(); }, [] { QCoreApplication::quit(); });
     mainWindow_ = std::make_unique<MainWindow>(views_.browser(), defaults, *views_.engine);
     launchFlow_.begin();
 }

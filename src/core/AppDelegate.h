@@ -3,6 +3,7 @@
 #include "browser/MainWindow.h"
 #include "core/LaunchFlow.h"
 #include "core/ViewServices.h"
+#include "shell/LaunchAgentManager.h"
 #include "shell/MenuBarController.h"
 
 #include <memory>
@@ -41,6 +42,7 @@ public:
 private:
     ViewServices& views_;
     LaunchFlow launchFlow_;
+    std::unique_ptr<LaunchAgentManager> launchAgent_;
     std::unique_ptr<MenuBarController> menuBarController_;
     std::unique_ptr<MainWindow> mainWindow_;
 };

@@ -3,6 +3,7 @@
 #include "platform/Accessibility.h"
 #include "platform/FileSystem.h"
 #include "platform/FileWatcher.h"
+#include "platform/LoginItem.h"
 #include "platform/Scheduler.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
@@ -20,6 +21,7 @@ struct Platform {
     std::unique_ptr<FileWatcher> fileWatcher;
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<Accessibility> accessibility;
+    std::unique_ptr<LoginItem> loginItem;
 };
 
 // Makes the ports of the system that the program was built for. Needs an application object, and

@@ -4,6 +4,7 @@
 #include "platform/DefaultsKeys.h"
 #include "platform/StatusItem.h"
 #include "platform/UserDefaults.h"
+#include "shell/LaunchAgentManager.h"
 
 #include <QKeySequence>
 #include <QMenu>
@@ -22,10 +23,12 @@ constexpr qint64 badgeLimit = 100; // from here on it tells no number
 
 MenuBarController::MenuBarController(StatusItem& statusItem,
                                      std::shared_ptr<NotificationListener> listener,
-                                     UserDefaults& defaults, Action openHoard, Action quit)
+                                     UserDefaults& defaults, const LaunchAgentManager& launchAgent,
+                                     Action openHoard, Action quit)
     : statusItem_(statusItem)
     , listener_(std::move(listener))
     , defaults_(defaults)
+    , launchAgent_(launchAgent)
     , openHoard_(std::move(openHoard))
     , quit_(std::move(quit))
     , lastSeenCount_(defaults.integer(defaultsKeys::menuBarLastSeenCount)) {
@@ -68,6 +71,11 @@ void MenuBarController::fillMenu(QMenu& menu) const {
     menu.addAction(programName)->setEnabled(false);
     menu.addSeparator();
     menu.addAction(qtTrId("menu.openHoard"), QKeySequence(Qt::CTRL | Qt::Key_O), this, openHoard_);
+    menu.addSeparator();
+    QAction* atLogin =
+        menu.addAction(qtTrId("menu.launchAtLogin"), this, [this] { launchAgent_.toggle(); });
+    atLogin->setCheckable(true);
+    atLogin->setChecked(launchAgent_.isEnabled());
     menu.addSeparator();
     menu.addAction(qtTrId("menu.quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, quit_);
 }

@@ -11,6 +11,7 @@ class QMenu;
 
 namespace tessarine {
 
+class LaunchAgentManager;
 class NotificationListener;
 class StatusItem;
 class UserDefaults;
@@ -23,9 +24,10 @@ class MenuBarController : public QObject {
 public:
     using Action = std::function<void()>;
 
-    // Shows the item. Item and defaults outlive the controller.
+    // Shows the item. Item, defaults and manager outlive the controller.
     MenuBarController(StatusItem& statusItem, std::shared_ptr<NotificationListener> listener,
-                      UserDefaults& defaults, Action openHoard, Action quit);
+                      UserDefaults& defaults, const LaunchAgentManager& launchAgent,
+                      Action openHoard, Action quit);
 
     // The list as it stands counts as seen, in later processes too.
     void markAllSeen();
@@ -43,6 +45,7 @@ private:
     StatusItem& statusItem_;
     std::shared_ptr<NotificationListener> listener_;
     UserDefaults& defaults_;
+    const LaunchAgentManager& launchAgent_;
     Action openHoard_;
     Action quit_;
     qint64 lastSeenCount_;

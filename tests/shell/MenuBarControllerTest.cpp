@@ -1,6 +1,7 @@
 #include "shell/MenuBarController.h"
 
 #include "core/Services.h"
+#include "shell/LaunchAgentManager.h"
 #include "support/Printers.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
@@ -24,7 +25,8 @@ class MenuBarTest : public ::testing::Test {
 protected:
     void launch() {
         controller_.emplace(
-            item_, listener_, system_.defaults, [this] { ++opened_; }, [this] { ++quit_; });
+            item_, listener_, system_.defaults, launchAgent_, [this] { ++opened_; },
+            [this] { ++quit_; });
     }
 
     void publish(std::size_t count) { listener_->setNotifications(NotificationList(count)); }
@@ -33,6 +35,7 @@ protected:
     testing::SimulatedPlatform system_{folder_.path()};
     Services services_{system_.platform};
     std::shared_ptr<NotificationListener> listener_ = services_.listener;
+    LaunchAgentManager launchAgent_{system_.loginItem, system_.fileSystem, [](const QString&) {}};
     testing::SimulatedStatusItem item_;
     std::optional<MenuBarController> controller_;
     int opened_ = 0;
@@ -123,10 +126,10 @@ TEST_F(MenuBarTest, TheMenuHasItsItemsInTheirOrder) {
     for (const QAction* action : menu.actions())
         texts << (action->isSeparator() ? u"-"_qs : action->text());
     EXPECT_EQ(texts, QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"-"_qs,
-                                  u"Quit Tessarine"_qs}));
+                                  u"Launch at Login"_qs, u"-"_qs, u"Quit Tessarine"_qs}));
     EXPECT_FALSE(menu.actions()[0]->isEnabled());
     EXPECT_EQ(menu.actions()[2]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
-    EXPECT_EQ(menu.actions()[4]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    EXPECT_EQ(menu.actions()[6]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
 
 TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
@@ -136,8 +139,26 @@ TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
     menu.actions()[2]->trigger();
     EXPECT_EQ(opened_, 1);
     EXPECT_EQ(quit_, 0);
-    menu.actions()[4]->trigger();
+    menu.actions()[6]->trigger();
     EXPECT_EQ(quit_, 1);
+}
+
+TEST_F(MenuBarTest, LaunchAtLoginIsCheckedWhileItIsEnabledAndTogglesIt) {
+    launch();
+    for (const auto status : {LoginItemStatus::notRegistered, LoginItemStatus::requiresApproval,
+                              LoginItemStatus::notFound}) {
+        system_.loginItem.current = status;
+        QMenu off;
+        item_.menuBuilder(off);
+        EXPECT_FALSE(off.actions()[4]->isChecked());
+        off.actions()[4]->trigger();
+        EXPECT_EQ(system_.loginItem.current, LoginItemStatus::enabled);
+    }
+    QMenu on;
+    item_.menuBuilder(on);
+    EXPECT_TRUE(on.actions()[4]->isChecked());
+    on.actions()[4]->trigger();
+    EXPECT_EQ(system_.loginItem.current, LoginItemStatus::notRegistered);
 }
 
 } // namespace

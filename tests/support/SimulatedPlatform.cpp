@@ -133,6 +133,7 @@ SimulatedPlatform::SimulatedPlatform(const QString& home)
     , fileWatcher(install(std::make_unique<SimulatedFileWatcher>(scheduler), platform.fileWatcher))
     , workspace(install(std::make_unique<SimulatedWorkspace>(), platform.workspace))
     , accessibility(
-          install(std::make_unique<SimulatedAccessibility>(scheduler), platform.accessibility)) {}
+          install(std::make_unique<SimulatedAccessibility>(scheduler), platform.accessibility))
+    , loginItem(install(std::make_unique<SimulatedLoginItem>(), platform.loginItem)) {}
 
 } // namespace tessarine::testing

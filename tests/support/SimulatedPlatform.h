@@ -110,6 +110,24 @@ private:
     std::multimap<WorkspaceEvent, std::shared_ptr<Handler>> handlers_;
 };
 
+// A login item that the test switches, and that fails if the test says so.
+class SimulatedLoginItem : public LoginItem {
+public:
+    LoginItemStatus status() const override { return current; }
+    Failure registerMainApp() override { return change(LoginItemStatus::enabled); }
+    Failure unregisterMainApp() override { return change(LoginItemStatus::notRegistered); }
+
+    LoginItemStatus current = LoginItemStatus::notRegistered;
+    Failure nextFailure;
+
+private:
+    Failure change(LoginItemStatus wanted) {
+        if (!nextFailure)
+            current = wanted;
+        return nextFailure;
+    }
+};
+
 // The whole simulated platform, with its parts at hand for the test.
 struct SimulatedPlatform {
     explicit SimulatedPlatform(const QString& home);
@@ -121,6 +139,7 @@ struct SimulatedPlatform {
     SimulatedFileWatcher& fileWatcher;
     SimulatedWorkspace& workspace;
     SimulatedAccessibility& accessibility;
+    SimulatedLoginItem& loginItem;
 };
 
 } // namespace tessarine::testing

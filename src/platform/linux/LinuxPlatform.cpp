@@ -5,6 +5,7 @@
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxSingleInstance.h"
 #include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/applications/LinuxLoginItem.h"
 #include "platform/linux/banners/LinuxAccessibility.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/SettingsDefaults.h"
@@ -35,6 +36,7 @@ std::unique_ptr<Platform> makePlatform() {
         *platform->scheduler, banners,
         LinuxWorkspace::Buses{sessionBusAddress(), systemBusAddress()});
     platform->accessibility = std::make_unique<LinuxAccessibility>(banners, sessionBusAddress());
+    platform->loginItem = std::make_unique<LinuxLoginItem>();
     return platform;
 }
 

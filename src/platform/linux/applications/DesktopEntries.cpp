@@ -1,9 +1,9 @@
 #include "platform/linux/applications/DesktopEntries.h"
 
+#include "platform/linux/applications/DesktopEntryFile.h"
 #include "shared/BundleId.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -27,63 +27,13 @@ QStringList localeSuffixes(const QString& locale) {
     return suffixes;
 }
 
-QString unescaped(QStringView value) {
-    QString text;
-    for (qsizetype i = 0; i < value.size(); ++i) {
-        if (value[i] != u'\\' || i + 1 == value.size()) {
-            text += value[i];
-            continue;
-        }
-        switch (value[++i].unicode()) {
-        case u's':
-            text += u' ';
-            break;
-        case u'n':
-            text += u'\n';
-            break;
-        case u't':
-            text += u'\t';
-            break;
-        case u'r':
-            text += u'\r';
-            break;
-        default:
-            text += value[i];
-        }
-    }
-    return text;
-}
-
-// The keys of the group "Desktop Entry"; other groups hold actions.
-QHash<QString, QString> readKeys(QFile& file) {
-    QHash<QString, QString> keys;
-    bool inEntry = false;
-    while (!file.atEnd()) {
-        const QString line = QString::fromUtf8(file.readLine()).trimmed();
-        if (line.startsWith(u'[')) {
-            inEntry = line == QStringLiteral("[Desktop Entry]");
-            continue;
-        }
-        const qsizetype equals = line.indexOf(u'=');
-        if (!inEntry || line.startsWith(u'#') || equals <= 0)
-            continue;
-        keys.insert(line.first(equals).trimmed(),
-                    unescaped(QStringView(line).sliced(equals + 1).trimmed()));
-    }
-    return keys;
-}
-
-QString localised(const QHash<QString, QString>& keys, const QString& key, const QString& locale) {
+QString localised(const DesktopEntryKeys& keys, const QString& key, const QString& locale) {
     for (const QString& suffix : localeSuffixes(locale)) {
         const auto found = keys.constFind(key + u'[' + suffix + u']');
         if (found != keys.constEnd())
             return *found;
     }
     return keys.value(key);
-}
-
-bool isTrue(const QHash<QString, QString>& keys, const QString& key) {
-    return keys.value(key) == QStringLiteral("true");
 }
 
 } // namespace
@@ -102,10 +52,8 @@ bool DesktopEntry::isInstalled() const {
 }
 
 std::optional<DesktopEntry> readDesktopEntry(const QString& path, const QString& locale) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const QHash<QString, QString> keys = readKeys(file);
+    const std::optional<DesktopEntryKeys> read = readDesktopEntryKeys(path);
+    const DesktopEntryKeys keys = read.value_or(DesktopEntryKeys());
     if (keys.value(QStringLiteral("Type")) != QStringLiteral("Application") ||
         isTrue(keys, QStringLiteral("Hidden")))
         return std::nullopt;

@@ -2,6 +2,8 @@
 
 #include "platform/linux/applications/DesktopEntries.h"
 
+#include <QRegularExpression>
+
 namespace tessarine {
 
 namespace {
@@ -137,6 +139,16 @@ std::optional<QStringList> execWords(const QString& exec) {
     for (const Word& word : *words)
         texts << word.text;
     return texts;
+}
+
+QString execWord(const QString& word) {
+    static const QRegularExpression reserved(QStringLiteral("[\\s\"'\\\\><~|&;$*?#()`]"));
+    static const QRegularExpression escapable(QStringLiteral("([\"`$\\\\])"));
+    QString text = word;
+    text.replace(u'%', QStringLiteral("%%"));
+    if (!text.isEmpty() && !text.contains(reserved))
+        return text;
+    return u'"' + text.replace(escapable, QStringLiteral("\\\\1")) + u'"';
 }
 
 QString executableOf(const DesktopEntry& entry) {

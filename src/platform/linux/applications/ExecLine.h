@@ -14,6 +14,9 @@ struct DesktopEntry;
 // quote isn't closed.
 std::optional<QStringList> execWords(const QString& exec);
 
+// A word as it is written in such a line, quoted where it must be.
+QString execWord(const QString& word);
+
 // The program that the entry starts: the first word of its command line, unquoted. Empty where the
 // line is empty or broken.
 QString executableOf(const DesktopEntry& entry);
