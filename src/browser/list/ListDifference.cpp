@@ -3,8 +3,8 @@
 #include <QHash>
 
 #include <algorithm>
-#include <deque>
 #include <optional>
+#include <utility>
 
 namespace tessarine {
 
@@ -35,20 +35,40 @@ std::size_t commonSuffix(const ListEntries& before, const ListEntries& after, st
     return std::size_t(end.first - before.rbegin());
 }
 
+// Where in a part of a list each key stands.
+class PlacesByKey {
+public:
+    PlacesByKey(const ListEntries& lines, std::size_t first, std::size_t end)
+        : next_(end + 1) {
+        first_.reserve(qsizetype(end - first));
+        for (std::size_t number = end; number > first; --number)
+            next_[number] = std::exchange(first_[keyOf(lines[number - 1])], number);
+    }
+
+    // The foremost place that was not taken yet.
+    std::optional<std::size_t> take(const LineKey& key) {
+        const auto found = first_.find(key);
+        if (found == first_.end() || *found == 0)
+            return std::nullopt;
+        return std::exchange(*found, next_[*found]) - 1;
+    }
+
+private:
+    // Places counted from 1, so that 0 stands for none.
+    QHash<LineKey, std::size_t> first_;
+    std::vector<std::size_t> next_; // for each place the next one of the same key
+};
+
 // For each old line between prefix and suffix its place in the new list. Rows that share a key
 // (those that no hoard has stored) pair up in their order.
 KeptRows pairsByKey(const ListEntries& before, const ListEntries& after, std::size_t prefix,
                     std::size_t suffix) {
-    QHash<LineKey, std::deque<std::size_t>> places;
-    for (std::size_t i = prefix; i < after.size() - suffix; ++i)
-        places[keyOf(after[i])].push_back(i);
+    PlacesByKey places(after, prefix, after.size() - suffix);
     KeptRows pairs;
+    pairs.reserve(before.size() - suffix - prefix);
     for (std::size_t i = prefix; i < before.size() - suffix; ++i) {
-        const auto found = places.find(keyOf(before[i]));
-        if (found == places.end() || found->empty())
-            continue;
-        pairs.emplace_back(i, found->front());
-        found->pop_front();
+        if (const std::optional<std::size_t> place = places.take(keyOf(before[i])))
+            pairs.emplace_back(i, *place);
     }
     return pairs;
 }
