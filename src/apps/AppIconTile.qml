@@ -18,7 +18,6 @@ AppIconView {
         sourceSize.height: view.height
         smooth: true
         mipmap: true
-        Accessible.ignored: true
     }
 
     Rectangle {
@@ -35,7 +34,6 @@ AppIconView {
             color: "white"
             font.pixelSize: Metrics.textBody
             font.weight: Font.DemiBold
-            Accessible.ignored: true
         }
     }
 }

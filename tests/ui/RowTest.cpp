@@ -90,6 +90,27 @@ TEST_F(RowTest, TellsAScreenReaderItsWholeContent) {
     EXPECT_EQ(accessible(&list())->text(QAccessible::Name), u"Notifications"_qs);
 }
 
+// Each object of a row is made and destroyed at each capture.
+TEST_F(RowTest, ARowIsMadeOfThirtyObjectsAtMost) {
+    showList(numbered(3));
+    EXPECT_LE(row(u"Title 2"_qs)->findChildren<QObject*>().size(), 30);
+}
+
+// What it shows is in its name already.
+TEST_F(RowTest, AScreenReaderFindsNothingInsideARow) {
+    QAccessible::setActive(true);
+    showList(numbered(1));
+    EXPECT_EQ(accessible(row(u"Title 1"_qs))->childCount(), 0);
+    preferences.setGlobalPrivacyMode(true);
+    view().selection()->enterSelectionMode();
+    draw();
+    EXPECT_EQ(accessible(row(u"Title 1"_qs))->childCount(), 0);
+    view().selection()->exitSelectionMode();
+    draw();
+    EXPECT_EQ(accessible(row(u"Title 1"_qs))->childCount(), 0);
+    QAccessible::setActive(false);
+}
+
 // An animation would draw a dozen frames at each capture.
 TEST_F(RowTest, ACapturedRowIsThereAtOnce) {
     showList(numbered(3));
@@ -169,6 +190,24 @@ TEST_F(RowTest, AClickThatTheMouseDragsALittleIsStillAClick) {
     dragByMouse(*window->window(), from, from + QPoint(30, 12));
     ASSERT_TRUE(view().actions()->focusedNotification());
     EXPECT_EQ(view().actions()->focusedNotification()->title, u"Title 48"_qs);
+}
+
+TEST_F(RowTest, APressThatIsReleasedOutsideItsCardIsNoClick) {
+    showList(numbered(50));
+    const QPoint inside = row(u"Title 48"_qs)->mapToScene(QPointF(300, 20)).toPoint();
+    for (const QPointF outside : {QPointF(3, 20), QPointF(300, -2)}) {
+        const QPoint place = row(u"Title 48"_qs)->mapToScene(outside).toPoint();
+        dragByMouse(*window->window(), inside, place);
+        EXPECT_FALSE(view().actions()->focusedNotification());
+        QTest::mouseClick(window->window(), Qt::LeftButton, {}, place);
+        EXPECT_FALSE(view().actions()->focusedNotification());
+    }
+}
+
+TEST_F(RowTest, ARightClickBesideTheCardIsTheRowsToo) {
+    showList(numbered(50));
+    clickAt(*row(u"Title 48"_qs), {3, 20}, Qt::RightButton);
+    EXPECT_TRUE(turnsUntil([&] { return isShown(u"rowMenu"_qs); }));
 }
 
 TEST_F(RowTest, RowsOutOfSightAreNotBuilt) {

@@ -14,8 +14,13 @@ FocusScope {
     required property ListSelection selection
     required property RowActions actions
     property NotificationRowView pressedRow: null // by the left button, last
+    property real circleOpenness: selection.selectionMode ? 1 : 0 // of the rows, one motion for all
 
     clip: true
+
+    Behavior on circleOpenness {
+        NumberAnimation { duration: Metrics.gentle; easing.type: Easing.InOutQuad }
+    }
 
     function showBeginning() {
         listView.positionViewAtBeginning();
@@ -69,6 +74,7 @@ FocusScope {
 
                     width: listView.width
                     selectionMode: root.selection.selectionMode
+                    circleOpenness: root.circleOpenness
                     menuOpen: rowMenu.visible
                     onPressed: root.notePress(row)
                     onSingleTap: id => root.tapRow(id)
@@ -104,11 +110,20 @@ FocusScope {
         if (pressedRow !== row)
             pressedRow?.forgetPress();
         pressedRow = row;
+        gesture.restart();
     }
 
     function tapRow(id: uuid) {
         listView.forceActiveFocus(Qt.MouseFocusReason);
         root.actions.onSingleTap(id);
+    }
+
+    // The time in which a second press would make it a double click.
+    Timer {
+        id: gesture
+
+        interval: Application.styleHints.mouseDoubleClickInterval
+        onTriggered: root.pressedRow?.endGesture()
     }
 
     PinnedHeader {

@@ -15,22 +15,17 @@ struct UuidValue {
     QML_VALUE_TYPE(uuid)
 };
 
-// How a row of the list reacts: whether it is masked, and what its clicks mean. Each row that is
-// built has one. A reveal lasts for a look: a reload, which renews all ids, ends it, but not in the
+// How a row of the list reacts: whether it is masked, and what its clicks mean. Each item of a row
+// has one. A reveal lasts for a look: a reload, which renews all ids, ends it, but not in the
 // middle of a gesture. Main thread.
 class NotificationRow : public QObject {
     Q_OBJECT
-    QML_ELEMENT
-    Q_PROPERTY(QUuid notificationId MEMBER id_ WRITE setNotificationId)
-    Q_PROPERTY(bool isPrivate READ isPrivate WRITE setPrivate NOTIFY maskedChanged)
-    Q_PROPERTY(bool selectionMode READ selectionMode WRITE setSelectionMode NOTIFY maskedChanged)
-    Q_PROPERTY(bool masked READ isMasked NOTIFY maskedChanged)
-    Q_PROPERTY(bool asksForReveal READ asksForReveal NOTIFY maskedChanged)
 
 public:
     explicit NotificationRow(QObject* parent = nullptr)
         : QObject(parent) {}
 
+    const QUuid& notificationId() const { return id_; }
     void setNotificationId(const QUuid& id);
     bool isPrivate() const { return isPrivate_; }
     void setPrivate(bool isPrivate);
@@ -45,16 +40,16 @@ public:
 
     // What the pointer does, in the order in which it comes: a press, a click, and where a second
     // press follows in time that press and a double click.
-    Q_INVOKABLE void press();
-    Q_INVOKABLE void click();
-    Q_INVOKABLE void doubleClick();
+    void press();
+    void click();
+    void doubleClick();
 
     // The time for a second press is over: a mask that was held back comes now. A double click ends
     // the gesture too.
-    Q_INVOKABLE void endGesture();
+    void endGesture();
 
     // Another row was pressed since.
-    Q_INVOKABLE void forgetPress();
+    void forgetPress();
 
 Q_SIGNALS:
     void maskedChanged();

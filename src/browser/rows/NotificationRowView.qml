@@ -6,52 +6,32 @@ import Tessarine.Theme
 
 // One notification in the list, as its roles in the model say. A capture makes a row, so what most rows
 // never show is made when it is first shown.
-Item {
+NotificationRowItem {
     id: row
 
-    required property uuid notificationId
     required property string bundleId
     required property string appName
     required property string title
     required property string body
     required property string timeText
     required property bool pinned
-    required property bool isPrivate
     required property bool isSelected
     required property bool isFocused
-    required property bool isArriving
-    required property bool isLeaving
     required property string spokenText
-    property bool selectionMode
     property bool menuOpen // a context menu, which a tip would lie over
+    property real circleOpenness // of the column for the circle: from 0 to 1
+    property real clarity: 1 // of the texts, while they come out from under the mask
 
     readonly property int horizontalPadding: 10
     readonly property int verticalPadding: 6
     readonly property int itemSpacing: 10
-    readonly property bool masked: reactions.masked
+    readonly property real timeOpacity: 0.7
     readonly property bool showsTitle: title.text && !masked
     readonly property bool showsBody: body.text && !masked
     readonly property bool drawnFocused: isFocused && !selectionMode
-    readonly property bool showsTip: pointer.hovered && !menuOpen && Window.window !== null
+    readonly property bool showsTip: hovered && !menuOpen
 
-    signal pressed
-    signal singleTap(uuid id)
-    signal doubleTap(uuid id)
-    signal toggleSelection(uuid id)
-    signal menuRequested(uuid id, point place) // in the window
-
-    property bool isComplete // and so may fade; what is only scrolled into sight is there at once
-    property bool hasArrived: !isArriving
-    property bool wasHovered
-    property real clarity: 1 // of the texts, while they come out from under the mask
-
-    // Another row was pressed, so that a double click here would have begun elsewhere.
-    function forgetPress() {
-        reactions.forgetPress();
-    }
-
-    opacity: hasArrived && !isLeaving ? 1 : 0
-    enabled: !isLeaving
+    cardMargin: Metrics.spacingMedium
     implicitHeight: Math.max(icon.height, texts.height) + 2 * verticalPadding
     Accessible.role: Accessible.ListItem
     Accessible.name: masked ? appName + ", " + qsTrId("row.clickToReveal") : spokenText
@@ -59,22 +39,21 @@ Item {
     Accessible.selected: selectionMode ? isSelected : isFocused
     Accessible.checkable: selectionMode
     Accessible.checked: selectionMode && isSelected
-    Accessible.onPressAction: reactions.click()
+    Accessible.onPressAction: row.click()
 
-    Component.onCompleted: {
-        isComplete = true;
-        hasArrived = true;
-    }
     // A reload is a new list, and its rows know every icon that was found since.
     onNotificationIdChanged: icon.rebuild()
+    onFadeRequested: fading.restart()
+    onRevealed: clearing.restart()
 
-    Behavior on opacity {
-        enabled: row.isComplete
+    NumberAnimation {
+        id: fading
 
-        NumberAnimation {
-            duration: Metrics.gentle
-            easing.type: Easing.InOutQuad
-        }
+        target: row
+        property: "opacity"
+        to: row.isLeaving ? 0 : 1
+        duration: Metrics.gentle
+        easing.type: Easing.InOutQuad
     }
 
     NumberAnimation {
@@ -88,81 +67,15 @@ Item {
         easing.type: Easing.InQuad
     }
 
-    NotificationRow {
-        id: reactions
-
-        notificationId: row.notificationId
-        isPrivate: row.isPrivate
-        selectionMode: row.selectionMode
-        onRevealed: clearing.restart()
-        onSingleTap: id => row.singleTap(id)
-        onDoubleTap: id => row.doubleTap(id)
-        onToggleSelection: id => row.toggleSelection(id)
-    }
-
-    HoverHandler {
-        id: pointer
-
-        cursorShape: row.selectionMode ? Qt.ArrowCursor : Qt.PointingHandCursor
-        onHoveredChanged: row.wasHovered = true
-    }
-
-    // The time in which a second press would make it a double click.
-    Timer {
-        id: gesture
-
-        interval: Application.styleHints.mouseDoubleClickInterval
-        onTriggered: reactions.endGesture()
-    }
-
-    MouseArea {
-        anchors.fill: card
-        acceptedButtons: Qt.LeftButton
-        onPressed: {
-            row.pressed();
-            reactions.press();
-            gesture.restart();
-        }
-        onClicked: reactions.click()
-        onDoubleClicked: reactions.doubleClick()
-    }
-
-    // No TapHandler: once it has opened a menu, Qt hands it the left button too on Wayland.
-    MouseArea {
-        anchors.fill: parent
-        acceptedButtons: Qt.RightButton
-        onClicked: mouse => row.menuRequested(row.notificationId, mapToItem(null, mouse.x, mouse.y))
-    }
-
-    Loader {
-        id: tip
-
-        anchors.fill: parent
-        active: row.wasHovered
-
-        // A loader can't make a component that is bound to this file. The tip waits until it is complete:
-        // one that is made visible would be there at once.
-        // qmllint disable unqualified
-        sourceComponent: Item {
-            HoverTip {
-                text: row.selectionMode ? (row.isSelected ? qsTrId("row.deselect") : qsTrId("row.select"))
-                    : row.masked ? qsTrId("row.clickToReveal")
-                    : qsTrId("row.singleClickToSelect").arg(row.appName)
-                visible: row.showsTip && tip.status === Loader.Ready
-            }
-        }
-        // qmllint enable unqualified
-    }
-
     RowBackground {
         id: card
 
         anchors.fill: parent
-        anchors.leftMargin: Metrics.spacingMedium
-        anchors.rightMargin: Metrics.spacingMedium
+        anchors.leftMargin: row.cardMargin
+        anchors.rightMargin: row.cardMargin
         focused: row.drawnFocused
         selected: row.isSelected
-        hovered: pointer.hovered
+        hovered: row.hovered
     }
 
     SelectionCircle {
@@ -171,7 +84,7 @@ Item {
         anchors.left: card.left
         anchors.leftMargin: row.horizontalPadding
         y: row.verticalPadding
-        shown: row.selectionMode
+        openness: row.circleOpenness
         checked: row.isSelected
     }
 
@@ -179,36 +92,24 @@ Item {
         id: icon
 
         anchors.left: circle.right
-        anchors.leftMargin: circle.shown ? row.itemSpacing : 0
+        anchors.leftMargin: row.selectionMode ? row.itemSpacing : 0
         y: row.verticalPadding
         width: Metrics.iconSize
         height: Metrics.iconSize
         cornerRadius: Metrics.cornerRadius
         bundleId: row.bundleId
         appName: row.appName
+    }
 
-        Loader {
-            anchors.right: parent.right
-            anchors.bottom: parent.bottom
-            active: row.masked
+    // Loaders can't make components that are bound to this file.
+    // qmllint disable unqualified
+    Loader {
+        anchors.fill: icon
+        active: row.masked || row.pinned
 
-            sourceComponent: IconBadge {
-                symbol: "lock.fill"
-                size: 9
-                color: Qt.alpha(Theme.colours.secondaryLabel, 0.8)
-            }
-        }
-
-        Loader {
-            anchors.right: parent.right
-            anchors.top: parent.top
-            active: row.pinned
-
-            sourceComponent: IconBadge {
-                symbol: "pin.fill"
-                size: 8
-                color: Theme.colours.accentFill
-            }
+        sourceComponent: IconBadges {
+            masked: row.masked
+            pinned: row.pinned
         }
     }
 
@@ -224,21 +125,49 @@ Item {
         y: row.verticalPadding
         height: row.masked ? mask.y + mask.height
             : row.showsBody ? body.y + body.height
-            : row.showsTitle ? title.y + title.height : topLine.height
+            : row.showsTitle ? title.y + title.height : name.height
 
-        RowTopLine {
-            id: topLine
+        PlainLabel {
+            id: name
 
-            width: parent.width
-            appName: row.appName
-            timeText: row.timeText
-            masked: row.masked
+            anchors.left: parent.left
+            anchors.right: row.masked ? hint.left : time.left
+            anchors.rightMargin: Metrics.spacingMedium
+            text: row.appName
+            font.pixelSize: Metrics.textSmall
+            font.weight: Font.DemiBold
+            color: Theme.colours.secondaryLabel
+            maximumLineCount: 1
+            wrapMode: Text.WrapAnywhere
+        }
+
+        PlainLabel {
+            id: time
+
+            anchors.right: parent.right
+            anchors.baseline: name.baseline
+            text: row.timeText
+            font.family: Theme.tabularFamily
+            font.pixelSize: Metrics.textTiny
+            color: Theme.colours.secondaryLabel
+            opacity: row.timeOpacity
+            visible: !row.masked
+        }
+
+        Loader {
+            id: hint
+
+            anchors.right: parent.right
+            anchors.verticalCenter: name.verticalCenter
+            active: row.masked
+
+            sourceComponent: RevealHint {}
         }
 
         Loader {
             id: mask
 
-            y: topLine.height + Metrics.spacingTiny
+            y: name.height + Metrics.spacingTiny
             opacity: row.masked ? 1 : 1 - row.clarity
             active: opacity > 0
 
@@ -248,7 +177,7 @@ Item {
         PlainLabel {
             id: title
 
-            y: topLine.height + Metrics.spacingTiny
+            y: name.height + Metrics.spacingTiny
             width: parent.width
             text: row.title
             visible: row.showsTitle
@@ -257,7 +186,6 @@ Item {
             font.weight: Font.Medium
             maximumLineCount: 2
             wrapMode: Text.Wrap
-            Accessible.ignored: true
         }
 
         PlainLabel {
@@ -271,7 +199,24 @@ Item {
             color: Theme.colours.secondaryLabel
             maximumLineCount: 3
             wrapMode: Text.Wrap
-            Accessible.ignored: true
         }
     }
+
+    Loader {
+        id: tip
+
+        anchors.fill: parent
+        active: row.wasHovered
+
+        // The tip waits until it is complete: one that is made visible would be there at once.
+        sourceComponent: Item {
+            HoverTip {
+                text: row.selectionMode ? (row.isSelected ? qsTrId("row.deselect") : qsTrId("row.select"))
+                    : row.masked ? qsTrId("row.clickToReveal")
+                    : qsTrId("row.singleClickToSelect").arg(row.appName)
+                visible: row.showsTip && tip.status === Loader.Ready
+            }
+        }
+    }
+    // qmllint enable unqualified
 }

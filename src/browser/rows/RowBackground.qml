@@ -22,12 +22,19 @@ Item {
             : background.hovered ? 1 : background.restingOpacity
     }
 
-    Outline {
+    // An outline paints itself even where it is invisible.
+    Loader {
         anchors.fill: parent
-        radius: background.radius
-        color: Theme.colours.accent
-        strokeWidth: background.focused ? 1.5 : 1
-        opacity: background.focused ? 0.55 : 0.25
-        visible: background.marked
+        active: background.marked
+
+        // A loader can't make a component that is bound to this file.
+        // qmllint disable unqualified
+        sourceComponent: Outline {
+            radius: background.radius
+            color: Theme.colours.accent
+            strokeWidth: background.focused ? 1.5 : 1
+            opacity: background.focused ? 0.55 : 0.25
+        }
+        // qmllint enable unqualified
     }
 }
