@@ -124,7 +124,9 @@ NotificationList keepingMatches(NotificationList rows, const QString& searchText
 NotificationList sortedBy(SortMode mode, NotificationList rows) {
     if (mode == SortMode::app)
         return sortedByName(std::move(rows));
-    std::stable_sort(rows.begin(), rows.end(), mode == SortMode::newest ? isNewer : isOlder);
+    const auto isBefore = mode == SortMode::newest ? isNewer : isOlder;
+    if (!std::is_sorted(rows.begin(), rows.end(), isBefore)) // as the hoard gives most of them
+        std::stable_sort(rows.begin(), rows.end(), isBefore);
     return rows;
 }
 

@@ -10,9 +10,8 @@ void NotificationRow::setNotificationId(const QUuid& id) {
         return;
     if (gestureRuns_ && revealed_)
         masksAfterGesture_ = true;
-    else
-        revealed_ = false;
-    Q_EMIT maskedChanged();
+    else if (std::exchange(revealed_, false))
+        Q_EMIT maskedChanged();
 }
 
 // Privacy switched on masks what was revealed before.
