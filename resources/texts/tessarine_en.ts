@@ -21,7 +21,7 @@
     </message>
     <message id="banner.notInstalled.subtitle">
         <source>banner.notInstalled.subtitle</source>
-        <translation>The notification may have come from %1 on your phone.</translation>
+        <translation>No app called %1 was found to open.</translation>
     </message>
     <message id="banner.notInstalled.title">
         <source>banner.notInstalled.title</source>
@@ -205,6 +205,10 @@
         <source>group.expand</source>
         <translation>Show %1</translation>
     </message>
+    <message id="hoard.empty.noAccess">
+        <source>hoard.empty.noAccess</source>
+        <translation>Tessarine can’t see any: it has no access to the session bus, over which notifications come.</translation>
+    </message>
     <message id="hoard.empty.noResults">
         <source>hoard.empty.noResults</source>
         <translation>No matches</translation>
@@ -212,6 +216,14 @@
     <message id="hoard.empty.noResults.detail">
         <source>hoard.empty.noResults.detail</source>
         <translation>No loaded notification matches the search and the chosen app.</translation>
+    </message>
+    <message id="hoard.empty.noResults.older">
+        <source>hoard.empty.noResults.older</source>
+        <translation>No loaded notification matches the search and the chosen app. Load Older looks further back.</translation>
+    </message>
+    <message id="hoard.empty.notOpened">
+        <source>hoard.empty.notOpened</source>
+        <translation>The hoard can’t be opened, so nothing can be kept: %1</translation>
     </message>
     <message id="hoard.empty.waiting">
         <source>hoard.empty.waiting</source>
@@ -232,6 +244,13 @@
     <message id="menu.launchAtLogin">
         <source>menu.launchAtLogin</source>
         <translation>Launch at Login</translation>
+    </message>
+    <message id="menu.newNotifications" numerus="yes">
+        <source>menu.newNotifications</source>
+        <translation>
+            <numerusform>%Ln new notification</numerusform>
+            <numerusform>%Ln new notifications</numerusform>
+        </translation>
     </message>
     <message id="menu.openHoard">
         <source>menu.openHoard</source>
@@ -269,9 +288,17 @@
         <source>row.clickToReveal</source>
         <translation>Click to reveal</translation>
     </message>
+    <message id="row.contentHidden">
+        <source>row.contentHidden</source>
+        <translation>Content hidden</translation>
+    </message>
     <message id="row.deselect">
         <source>row.deselect</source>
         <translation>Deselect</translation>
+    </message>
+    <message id="row.pinned">
+        <source>row.pinned</source>
+        <translation>Pinned</translation>
     </message>
     <message id="row.select">
         <source>row.select</source>
@@ -280,6 +307,14 @@
     <message id="row.singleClickToSelect">
         <source>row.singleClickToSelect</source>
         <translation>Click to select, double-click to open %1</translation>
+    </message>
+    <message id="scrollBar.horizontal">
+        <source>scrollBar.horizontal</source>
+        <translation>Horizontal scroll bar</translation>
+    </message>
+    <message id="scrollBar.vertical">
+        <source>scrollBar.vertical</source>
+        <translation>Vertical scroll bar</translation>
     </message>
     <message id="selection.byApp.help">
         <source>selection.byApp.help</source>
@@ -303,6 +338,10 @@
             <numerusform>Delete %Ln notification?</numerusform>
             <numerusform>Delete %Ln notifications?</numerusform>
         </translation>
+    </message>
+    <message id="selection.confirmDeleteAll.message">
+        <source>selection.confirmDeleteAll.message</source>
+        <translation>Everything in the hoard goes, pinned notifications and older ones that are not loaded too. This can’t be undone.</translation>
     </message>
     <message id="selection.confirmDeleteAll.title" numerus="yes">
         <source>selection.confirmDeleteAll.title</source>

@@ -44,6 +44,12 @@ Item {
         onTextEdited: head.list.searchText = text
     }
 
+    // Not while anything lies over the window.
+    Shortcut {
+        sequences: [StandardKey.Find]
+        onActivated: search.beginTyping()
+    }
+
     Row {
         id: actions
 

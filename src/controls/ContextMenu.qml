@@ -53,6 +53,11 @@ T.Menu {
         id: focusKeeper
     }
 
+    ContextMenuKeyboard {
+        view: contextMenu.contentItem?.parent ?? null
+        menu: contextMenu
+    }
+
     MouseWatch {
         id: mouse
 

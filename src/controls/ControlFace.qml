@@ -10,6 +10,7 @@ Rectangle {
     required property T.AbstractButton control
     property bool bordered: true // else there is a ground only under the pointer
     property bool edged: bordered
+    property bool ringInside: false // where there is no room around the control
     property color fill: Theme.colours.controlBackground
 
     radius: Metrics.controlRadius
@@ -33,6 +34,7 @@ Rectangle {
 
     FocusRing {
         innerRadius: face.radius
+        inside: face.ringInside
         visible: face.control.visualFocus
     }
 }

@@ -1,16 +1,13 @@
 #include "controls/FocusableItem.h"
 
+#include "controls/VisualFocus.h"
+
 #include <QFocusEvent>
 #include <QKeyEvent>
 
 namespace tessarine {
 
 namespace {
-
-bool isByKeyboard(Qt::FocusReason reason) {
-    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-           reason == Qt::ShortcutFocusReason;
-}
 
 bool isPressKey(const QKeyEvent& event) {
     const bool key = event.key() == Qt::Key_Space || event.key() == Qt::Key_Return ||
@@ -27,7 +24,7 @@ FocusableItem::FocusableItem(QQuickItem* parent)
 
 void FocusableItem::focusInEvent(QFocusEvent* event) {
     QQuickItem::focusInEvent(event);
-    setVisualFocus(isByKeyboard(event->reason()));
+    setVisualFocus(VisualFocus::isByKeyboard(event->reason()));
 }
 
 void FocusableItem::focusOutEvent(QFocusEvent* event) {

@@ -1,24 +1,32 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tessarine.Controls
 import Tessarine.Theme
 
-// A line of help under the item that declares it, some time after the pointer has come to rest there:
-// `HoverTip { text: …; visible: hovered }`. Without a text it shows nothing.
+// A line of help beside the item that declares it, some time after the pointer has come to rest there:
+// `HoverTip { text: …; hovered: item.hovered }`. A press ends it until the pointer comes anew, and it
+// keeps away while anything lies over the item. Without a text it shows nothing.
 T.ToolTip {
     id: tip
 
+    required property bool hovered
+
     readonly property int widest: 320
 
-    x: parent ? Math.round((parent.width - width) / 2) : 0
-    y: parent ? parent.height + Metrics.spacingSmall : 0
     implicitWidth: Math.min(widest, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     margins: Metrics.windowMargin
     verticalPadding: Metrics.spacingSmall
     horizontalPadding: Metrics.spacingMedium
     delay: Metrics.tipDelay
+    visible: rules.allowed
     opacity: text ? 1 : 0
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    onAboutToShow: {
+        const place = rules.place(Qt.size(implicitWidth, implicitHeight), Metrics.spacingSmall, margins);
+        x = place.x;
+        y = place.y;
+    }
 
     contentItem: PlainLabel {
         text: tip.text
@@ -28,5 +36,13 @@ T.ToolTip {
 
     background: PanelFace {
         radius: Metrics.controlRadius
+    }
+
+    TipRules {
+        id: rules
+
+        item: tip.parent
+        overlay: tip.T.Overlay.overlay
+        hovered: tip.hovered
     }
 }

@@ -11,6 +11,8 @@ T.AbstractButton {
     property int size: Metrics.symbolSize
     property color tint: Theme.colours.secondaryLabel
     property string toolTipText
+    property real turn: 0 // of the symbol, in degrees
+    property bool ringInside: false // where there is no room around the button
 
     // As a click would, for a key or a screen reader.
     function press() {
@@ -32,6 +34,7 @@ T.AbstractButton {
     background: ControlFace {
         control: button
         bordered: false
+        ringInside: button.ringInside
     }
 
     contentItem: Item {
@@ -40,11 +43,12 @@ T.AbstractButton {
             symbol: button.symbol
             size: button.size
             tint: button.tint
+            rotation: button.turn
         }
     }
 
     HoverTip {
         text: button.toolTipText
-        visible: button.hovered && !button.down
+        hovered: button.hovered
     }
 }

@@ -21,12 +21,13 @@ bool MenuKeyboard::press(const QKeyEvent& event) {
     if (modifiers != Qt::NoModifier && modifiers != Qt::ShiftModifier)
         return false;
     const int row = currentRow(*view());
+    const int last = int(texts_.size()) - 1;
     switch (event.key()) {
     case Qt::Key_Up:
-        goTo(row < 0 ? int(texts_.size()) - 1 : row - 1);
+        goTo(row <= 0 ? last : row - 1);
         return true;
     case Qt::Key_Down:
-        goTo(row + 1);
+        goTo(row == last ? 0 : row + 1);
         return true;
     case Qt::Key_PageUp:
         goTo(row - page);
@@ -38,7 +39,7 @@ bool MenuKeyboard::press(const QKeyEvent& event) {
         goTo(0);
         return true;
     case Qt::Key_End:
-        goTo(int(texts_.size()) - 1);
+        goTo(last);
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:

@@ -1,72 +1,58 @@
 import QtQuick
-import QtQuick.Templates as T
+import Tessarine.Controls
 import Tessarine.Theme
 
 // A button that shows the chosen one of several texts and opens a menu of all of them. It shows what
 // its owner holds (`currentIndex`, or `displayText` for what is not in the list) and tells what the
-// user wants (`activated`).
-T.AbstractButton {
+// user wants (`activated`). It is no control of Qt's, whose role could not be changed: a screen reader
+// comes upon a combo box.
+FocusableItem {
     id: picker
 
     required property string accessibleName
     required property list<string> model // the texts
-    property int currentIndex: -1
-    property string displayText: currentText
+    property alias currentIndex: button.currentIndex
+    property alias displayText: button.displayText
     property string toolTipText
 
-    readonly property string currentText: model[currentIndex] ?? ""
-    readonly property alias opened: menu.opened
+    readonly property alias currentText: button.currentText
+    readonly property alias opened: button.opened
+    readonly property alias hovered: button.hovered
 
     signal activated(int index)
 
     function open() {
-        menu.open();
+        if (enabled)
+            button.open();
     }
 
-    function choose(index: int) {
-        menu.close();
-        if (index >= 0)
-            picker.activated(index);
-    }
-
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: Metrics.controlHeight
-    leftPadding: mirrored ? Metrics.spacingMedium : Metrics.controlPadding
-    rightPadding: mirrored ? Metrics.controlPadding : Metrics.spacingMedium
-    focusPolicy: Qt.TabFocus
-    hoverEnabled: true
+    implicitWidth: button.implicitWidth
+    implicitHeight: button.implicitHeight
     opacity: enabled ? 1 : Metrics.disabledOpacity
-    Accessible.role: Accessible.Button // what a template says of itself can't be changed
+    Accessible.role: Accessible.ComboBox
     Accessible.name: accessibleName
     Accessible.description: displayText
-    Accessible.onPressAction: if (enabled) menu.open()
-    Keys.onReturnPressed: menu.open()
-    Keys.onEnterPressed: menu.open()
-    Keys.onDownPressed: menu.open()
-    Keys.onUpPressed: menu.open()
-    onPressed: menu.open()
+    Accessible.focusable: true
+    Accessible.onPressAction: open()
+    Keys.onDownPressed: open()
+    Keys.onUpPressed: open()
+    onKeyPressed: open()
 
-    background: ControlFace {
-        control: picker
-    }
+    MenuPickerButton {
+        id: button
 
-    contentItem: MenuPickerFace {
-        text: picker.displayText
-    }
-
-    MenuPickerPopup {
-        id: menu
-
-        y: picker.height + Metrics.spacingSmall
-        narrowest: picker.width
+        anchors.fill: parent
         accessibleName: picker.accessibleName
-        texts: picker.model
-        chosenIndex: picker.currentIndex
-        onChosen: index => picker.choose(index)
+        model: picker.model
+        onActivated: index => picker.activated(index)
+    }
+
+    FocusRing {
+        visible: picker.visualFocus
     }
 
     HoverTip {
         text: picker.toolTipText
-        visible: picker.hovered && !menu.visible
+        hovered: button.hovered
     }
 }

@@ -49,17 +49,16 @@ FocusableItem {
         opacity: enabled ? 1 : Metrics.disabledOpacity
     }
 
-    MenuPicker {
+    MenuPickerButton {
         id: picker
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, row.widestPicker)
-        focusPolicy: Qt.NoFocus
         accessibleName: row.title
         model: row.model
         currentIndex: row.currentIndex
-        Accessible.ignored: true
+        opacity: enabled ? 1 : Metrics.disabledOpacity
         onActivated: index => row.activated(index)
 
         FocusRing {

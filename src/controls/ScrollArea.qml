@@ -13,6 +13,10 @@ Flickable {
 
     T.ScrollBar.vertical: ThinScrollBar {}
 
+    FocusFollower {
+        view: area
+    }
+
     MouseWatch {
         id: mouse
 

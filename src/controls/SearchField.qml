@@ -11,6 +11,12 @@ LineField {
     readonly property int symbolColumn: Metrics.controlHeight
     readonly property int clearColumn: clearButton.visible ? symbolColumn : Metrics.spacingMedium
 
+    // What is there already is replaced by what is typed.
+    function beginTyping() {
+        forceActiveFocus(Qt.ShortcutFocusReason);
+        selectAll();
+    }
+
     function empty() {
         clear();
         textEdited();
@@ -37,6 +43,7 @@ LineField {
         symbol: "xmark.circle.fill"
         size: Metrics.smallSymbolSize
         accessibleName: field.clearLabel
+        ringInside: true
         visible: field.length
         onClicked: field.empty()
     }

@@ -22,6 +22,11 @@ T.Dialog {
 
     signal escaped
 
+    // Qt has made the item around the content a dialog for a screen reader.
+    function tellName() {
+        contentItem.parent.Accessible.name = accessibleName;
+    }
+
     readonly property real room: 2 * Metrics.sheetMargin
     readonly property real naturalWidth: idealWidth || implicitContentWidth + leftPadding + rightPadding
     readonly property real naturalHeight: idealHeight || implicitContentHeight + topPadding + bottomPadding
@@ -34,7 +39,9 @@ T.Dialog {
     dim: true
     focus: true
     closePolicy: closesOnEscape ? T.Popup.CloseOnEscape : T.Popup.NoAutoClose
+    onAccessibleNameChanged: tellName()
     onAboutToShow: {
+        tellName();
         focusKeeper.remember(parent);
         focusKeeper.beginIn(contentItem);
     }
@@ -46,8 +53,6 @@ T.Dialog {
 
     contentItem: FocusScope {
         focus: true
-        Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.accessibleName
         implicitWidth: children[0]?.implicitWidth ?? 0
         implicitHeight: children[0]?.implicitHeight ?? 0
         Keys.onReturnPressed: sheet.defaultButton?.press()

@@ -12,7 +12,6 @@ T.Button {
     property bool destructive
     property bool plain
     property string toolTipText
-    property bool panelOpen: false // a menu or popover of its own, which a tip would lie over
     property color ink: prominent ? Theme.colours.onFill
         : destructive ? Theme.colours.red : Theme.colours.label
 
@@ -39,6 +38,7 @@ T.Button {
     background: ControlFace {
         control: button
         bordered: !button.plain
+        ringInside: button.plain
         edged: bordered && !button.prominent
         fill: !button.prominent ? Theme.colours.controlBackground
             : button.destructive ? Theme.colours.redFill : Theme.colours.accentFill
@@ -54,6 +54,6 @@ T.Button {
 
     HoverTip {
         text: button.toolTipText
-        visible: button.hovered && !button.down && !button.panelOpen
+        hovered: button.hovered
     }
 }

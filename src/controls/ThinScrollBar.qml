@@ -15,6 +15,7 @@ T.ScrollBar {
     padding: Metrics.spacingTiny
     minimumSize: height > 0 ? Math.min(1, shortestThumb / height) : 0
     visible: size < 1
+    Accessible.name: orientation === Qt.Vertical ? qsTrId("scrollBar.vertical") : qsTrId("scrollBar.horizontal")
 
     contentItem: Rectangle {
         implicitWidth: bar.thickness

@@ -41,6 +41,7 @@ QtObject {
     readonly property int dotSize: 6
     readonly property real disabledOpacity: 0.4
     readonly property int focusRingWidth: 2
+    readonly property int focusRingGap: 2
     readonly property int hairline: 1
 
     // Panels

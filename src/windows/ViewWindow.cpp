@@ -5,6 +5,7 @@
 #include "windows/WindowFrame.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QQmlError>
 #include <QQuickItem>
 #include <QQuickView>
@@ -50,6 +51,8 @@ ViewWindow::ViewWindow(const Description& description, QQmlEngine& engine)
     if (window_->status() != QQuickView::Ready)
         qFatal("%s", qPrintable(window_->errors().value(0).toString()));
     connect(window_.get(), &QWindow::visibleChanged, this, &ViewWindow::onVisibleChanged);
+    if (description.features.testFlag(WindowFeature::closable))
+        window_->installEventFilter(this);
     connect(qApp, &QCoreApplication::aboutToQuit, window_.get(), &QWindow::hide);
 }
 
@@ -88,6 +91,19 @@ void ViewWindow::watchFrame() {
     connect(window_.get(), &QWindow::yChanged, this, saveSoon);
     connect(window_.get(), &QWindow::widthChanged, this, saveSoon);
     connect(window_.get(), &QWindow::heightChanged, this, saveSoon);
+}
+
+// The shortcut that closes a window belongs to all of them. A key that is held down closes once,
+// and nothing that comes to the front after that.
+bool ViewWindow::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (!key.matches(QKeySequence::Close))
+        return false;
+    if (!key.isAutoRepeat())
+        window_->close();
+    return true;
 }
 
 void ViewWindow::onVisibleChanged(bool visible) {

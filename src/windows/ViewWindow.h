@@ -24,7 +24,7 @@ Q_DECLARE_FLAGS(WindowFeatures, WindowFeature)
 Q_DECLARE_OPERATORS_FOR_FLAGS(WindowFeatures)
 
 // A window of the program: one component of a QML module, under a title. It is built hidden, in the
-// middle of the screen, and closing hides it. Main thread.
+// middle of the screen, and closing hides it, by its frame or by the key for that. Main thread.
 class ViewWindow : public QObject {
     Q_OBJECT
 
@@ -58,6 +58,8 @@ public:
     bool isVisible() const;
     QQuickView& window() const { return *window_; }
     QQuickItem& root() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     // The program's window with exactly this title, hidden ones too; null if there is none.
     static ViewWindow* titled(const QString& title);

@@ -92,13 +92,25 @@ TEST_F(ThemePickerTest, SpaceReturnEnterAndTheArrowsOpenIt) {
 TEST_F(ThemePickerTest, ArrowsBeginAtTheChosenRow) {
     openByKey(u"short"_qs);
     press(Qt::Key_Down);
-    press(Qt::Key_Down); // there is none below
     press(Qt::Key_Return);
     EXPECT_EQ(log(), QStringList{u"sort 2"_qs});
     openByKey(u"short"_qs);
     press(Qt::Key_Up);
     press(Qt::Key_Space);
     EXPECT_EQ(log().last(), u"sort 0"_qs);
+}
+
+TEST_F(ThemePickerTest, ArrowsGoOnAtTheOtherEnd) {
+    openByKey(u"short"_qs);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down); // there is none below the third
+    press(Qt::Key_Return);
+    EXPECT_EQ(log(), QStringList{u"sort 0"_qs});
+    openByKey(u"short"_qs);
+    press(Qt::Key_Up);
+    press(Qt::Key_Up);
+    press(Qt::Key_Return);
+    EXPECT_EQ(log().last(), u"sort 2"_qs);
 }
 
 TEST_F(ThemePickerTest, HomeEndAndThePagesGoFar) {
@@ -148,7 +160,8 @@ TEST_F(ThemePickerTest, ALongMenuScrollsWithinTheWindowAndShowsTheChosenRow) {
 
 TEST_F(ThemePickerTest, AScreenReaderSeesABoxAndItsMenu) {
     QAccessibleInterface& box = spoken(item(u"short"_qs));
-    EXPECT_EQ(box.role(), QAccessible::Button);
+    EXPECT_EQ(box.role(), QAccessible::ComboBox);
+    EXPECT_EQ(spokenBelow(box, QAccessible::Button), nullptr); // it is one thing, and not two
     EXPECT_EQ(box.text(QAccessible::Name), u"Sort"_qs);
     EXPECT_EQ(box.text(QAccessible::Description), u"Oldest first"_qs);
     box.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -279,6 +292,35 @@ TEST_F(ThemeMenuTest, ArrowsPassDividersAndReturnChooses) {
     press(Qt::Key_Return);
     EXPECT_EQ(log(), QStringList{u"copy"_qs});
     EXPECT_TRUE(closes(u"menu"_qs));
+}
+
+TEST_F(ThemeMenuTest, ArrowsGoOnAtTheOtherEndAndPassWhatCannotBeChosen) {
+    openAt(QPoint(200, 150));
+    press(Qt::Key_Up);
+    EXPECT_EQ(litRows(), QStringList{u"Delete All from Mail"_qs});
+    press(Qt::Key_Down);
+    EXPECT_EQ(litRows(), QStringList{u"Pin"_qs});
+    press(Qt::Key_Down);
+    press(Qt::Key_Down); // past the disabled entry
+    EXPECT_EQ(litRows(), QStringList{u"Delete All from Mail"_qs});
+    press(Qt::Key_Up);
+    EXPECT_EQ(litRows(), QStringList{u"Copy Notification"_qs});
+}
+
+TEST_F(ThemeMenuTest, HomeAndEndGoToTheEnds) {
+    openAt(QPoint(200, 150));
+    press(Qt::Key_End);
+    EXPECT_EQ(litRows(), QStringList{u"Delete All from Mail"_qs});
+    press(Qt::Key_Home);
+    EXPECT_EQ(litRows(), QStringList{u"Pin"_qs});
+}
+
+TEST_F(ThemeMenuTest, ASecondRightClickElsewhereClosesIt) {
+    openAt(QPoint(200, 150));
+    QTest::mouseClick(window.get(), Qt::RightButton, {}, QPoint(500, 350));
+    EXPECT_TRUE(closes(u"menu"_qs));
+    EXPECT_EQ(focusName(), u"list"_qs);
+    EXPECT_EQ(log(), QStringList());
 }
 
 TEST_F(ThemeMenuTest, SpaceChoosesToo) {

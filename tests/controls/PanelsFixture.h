@@ -4,6 +4,15 @@
 
 namespace tessarine::testing {
 
+// While it lives, Qt's controls tell of themselves as they do when a screen reader runs.
+class ScreenReaderRuns {
+public:
+    ScreenReaderRuns() { QAccessible::setActive(true); }
+    ~ScreenReaderRuns() { QAccessible::setActive(false); }
+    ScreenReaderRuns(const ScreenReaderRuns&) = delete;
+    ScreenReaderRuns& operator=(const ScreenReaderRuns&) = delete;
+};
+
 // The scene with one of each panel, and a list that has the keyboard.
 class PanelsTest : public ControlsFixture {
 protected:
@@ -43,7 +52,7 @@ protected:
         return texts;
     }
 
-    QAccessibleInterface* spokenInWindow(QAccessible::Role role, const QString& name) {
+    QAccessibleInterface* spokenInWindow(QAccessible::Role role, const QString& name = {}) {
         return spokenBelow(*QAccessible::queryAccessibleInterface(window.get()), role, name);
     }
 };

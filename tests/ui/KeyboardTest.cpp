@@ -70,6 +70,74 @@ TEST_F(KeyboardTest, PagesScrollByTheWindowLessALine) {
     EXPECT_EQ(top(), first());
 }
 
+// The ring of the list itself; what is in its rows has its own.
+class ListRingTest : public KeyboardTest {
+protected:
+    bool showsRing() const {
+        for (const QQuickItem* child : list().parentItem()->childItems()) {
+            if (QByteArray(child->metaObject()->className()).startsWith("FocusRing"))
+                return child->isVisible();
+        }
+        return false;
+    }
+};
+
+TEST_F(ListRingTest, TheListShowsARingForTheKeyboardAlone) {
+    EXPECT_FALSE(showsRing());
+    item(QStringLiteral("searchField")).forceActiveFocus();
+    list().forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(showsRing());
+    click(*row(QStringLiteral("Title 499")));
+    EXPECT_TRUE(list().hasActiveFocus());
+    item(QStringLiteral("searchField")).forceActiveFocus();
+    EXPECT_FALSE(showsRing());
+    click(*row(QStringLiteral("Title 499")));
+    EXPECT_TRUE(list().hasActiveFocus());
+    EXPECT_FALSE(showsRing());
+}
+
+TEST_F(KeyboardTest, WhatTakesTheKeyboardIsScrolledIntoSight) {
+    view().list()->setGroupMode(GroupMode::app);
+    draw();
+    const auto chevron = [this]() -> QQuickItem* {
+        QQuickItem* header = nullptr;
+        QMetaObject::invokeMethod(&list(), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, header),
+                                  Q_ARG(int, 0));
+        for (QQuickItem* child : header ? header->childItems() : QList<QQuickItem*>()) {
+            if (child->inherits("QQuickAbstractButton"))
+                return child;
+        }
+        return nullptr;
+    };
+    ASSERT_NE(chevron(), nullptr);
+    press(Qt::Key_Down); // by 48, so that the header of 28 is above the view
+    EXPECT_LT(chevron()->mapToItem(&list(), QPointF()).y(), 0);
+    chevron()->forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_GE(chevron()->mapToItem(&list(), QPointF()).y(), 0);
+}
+
+TEST_F(KeyboardTest, ControlFGoesToTheSearchFieldAndMarksWhatIsThere) {
+    view().list()->setSearchText(QStringLiteral("Title 1"));
+    press(Qt::Key_F, Qt::ControlModifier);
+    QQuickItem& field = item(QStringLiteral("searchField"));
+    EXPECT_TRUE(field.hasActiveFocus());
+    EXPECT_EQ(field.property("selectedText").toString(), QStringLiteral("Title 1"));
+    type(QStringLiteral("2"));
+    EXPECT_EQ(view().list()->searchText(), QStringLiteral("2"));
+}
+
+TEST_F(KeyboardTest, ControlFDoesNothingUnderAMenu) {
+    click(*row(QStringLiteral("Title 499")), Qt::RightButton);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(QStringLiteral("rowMenu")); }));
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_FALSE(item(QStringLiteral("searchField")).hasActiveFocus());
+}
+
+TEST_F(KeyboardTest, ControlWClosesTheWindow) {
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(window->isVisible());
+}
+
 TEST_F(KeyboardTest, NothingScrollsBeyondTheFirstRow) {
     press(Qt::Key_Up);
     press(Qt::Key_PageUp);

@@ -177,6 +177,87 @@ TEST_F(MenusTest, ThePreviewOpensForTheSecondTimeAsForTheFirst) {
     }
 }
 
+// By the keyboard
+
+class MenuKeyTest : public MenusTest {
+protected:
+    QRectF placeOf(const QString& menu) const {
+        const auto* face =
+            root().findChild<QObject*>(menu)->property("background").value<QQuickItem*>();
+        return face->mapRectToScene(face->boundingRect());
+    }
+};
+
+TEST_F(MenuKeyTest, TheMenuKeyOpensTheMenuOfTheFocusedRowUnderItsIcon) {
+    click(*row(u"Title 5"_qs));
+    press(Qt::Key_Menu);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"rowMenu"_qs); }));
+    draw();
+    EXPECT_EQ(lit(), QStringList());
+    const QQuickItem& focused = *row(u"Title 5"_qs);
+    // The icon is 36 points high, 18 from the row's left edge and 6 from its upper one.
+    EXPECT_EQ(placeOf(u"rowMenu"_qs).topLeft(), focused.mapToScene(QPointF(18, 42)));
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(pasteboard, QStringList(u"Title 5\nBody 5"_qs));
+}
+
+TEST_F(MenuKeyTest, ShiftF10DoesTheSameAndBringsTheRowIntoSight) {
+    NotificationList more = numbered(60, 100);
+    for (CapturedNotification& one : more) {
+        one.noteId = one.dbId;
+        ASSERT_TRUE(hoard.insert(one));
+    }
+    reload();
+    draw();
+    click(*row(u"Title 159"_qs));
+    press(Qt::Key_End);
+    ASSERT_EQ(row(u"Title 159"_qs), nullptr);
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"rowMenu"_qs); }));
+    EXPECT_NE(row(u"Title 159"_qs), nullptr);
+}
+
+TEST_F(MenuKeyTest, WithoutAFocusedRowThereIsNone) {
+    press(Qt::Key_Menu);
+    press(Qt::Key_F10);
+    EXPECT_TRUE(isGone(u"rowMenu"_qs));
+    expectNothingHappened();
+}
+
+TEST_F(MenuKeyTest, OnAHeaderItOpensTheMenuOfTheGroup) {
+    view().list()->setGroupMode(GroupMode::app);
+    draw();
+    click(*row(u"Title 5"_qs)); // the keyboard's place counts, and not the focused row
+    for (QQuickItem* child : header().childItems()) {
+        if (child->inherits("QQuickAbstractButton") && child->isVisible())
+            child->forceActiveFocus(Qt::TabFocusReason);
+    }
+    press(Qt::Key_Menu);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"groupMenu"_qs); }));
+    EXPECT_TRUE(isGone(u"rowMenu"_qs));
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(turnsUntil([&] { return isGone(u"groupMenu"_qs); }));
+    expectNothingHappened();
+}
+
+TEST_F(MenuKeyTest, InSelectionModeThereIsNone) {
+    click(*row(u"Title 5"_qs));
+    view().selection()->enterSelectionMode();
+    draw();
+    press(Qt::Key_Menu);
+    EXPECT_TRUE(isGone(u"rowMenu"_qs));
+}
+
+TEST_F(MenusTest, ASecondRightClickOnAnotherRowClosesTheMenu) {
+    click(*row(u"Title 6"_qs), Qt::RightButton);
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"rowMenu"_qs); }));
+    clickAt(*row(u"Title 1"_qs), {20, 10}, Qt::RightButton);
+    ASSERT_TRUE(turnsUntil([&] { return isGone(u"rowMenu"_qs); }));
+    expectNothingHappened();
+}
+
 // A capture while something is open
 
 class OpenMenuTest : public MenusTest {

@@ -112,6 +112,26 @@ TEST_F(PreviewTest, TheMouseMarksTextAndDragsNothing) {
     }));
 }
 
+TEST_F(PreviewTest, KeysScrollALongText) {
+    openOn(u"Title 3"_qs);
+    item(u"previewBody"_qs).setProperty("text", u"line\n"_qs.repeated(60));
+    draw();
+    const QQuickItem& texts = item(u"previewTexts"_qs);
+    const auto top = [&] { return texts.property("contentY").toDouble(); };
+    const double end = texts.property("contentHeight").toDouble() - texts.height();
+    press(Qt::Key_Down);
+    EXPECT_EQ(top(), 48);
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(top(), texts.height());
+    press(Qt::Key_End);
+    EXPECT_EQ(top(), end);
+    press(Qt::Key_Tab); // the buttons leave the keys to it
+    press(Qt::Key_Up);
+    EXPECT_EQ(top(), end - 48);
+    press(Qt::Key_Home);
+    EXPECT_EQ(top(), 0);
+}
+
 TEST_F(PreviewTest, WithoutAFocusedRowSpaceGoesToTheField) {
     click(item(u"searchField"_qs));
     type(u"a b"_qs);

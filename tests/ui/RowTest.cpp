@@ -111,6 +111,29 @@ TEST_F(RowTest, AScreenReaderFindsNothingInsideARow) {
     QAccessible::setActive(false);
 }
 
+TEST_F(RowTest, TellsAScreenReaderThatItIsPinnedAndWhenItsContentIsHidden) {
+    NotificationList rows = numbered(1);
+    rows[0].pinned = true;
+    showList(rows);
+    EXPECT_EQ(accessible(row(u"Title 1"_qs))->text(QAccessible::Name),
+              u"Mail, Title 1, Body 1, Nov 16, 2025, 3:33:21\u202fPM, Pinned"_qs);
+    preferences.setGlobalPrivacyMode(true);
+    EXPECT_EQ(accessible(row(u"Title 1"_qs))->text(QAccessible::Name),
+              u"Mail, Content hidden, Nov 16, 2025, 3:33:21\u202fPM, Pinned, Click to reveal"_qs);
+}
+
+TEST_F(RowTest, TheScrollBarHasAName) {
+    showList(numbered(60));
+    QAccessibleInterface* bar = nullptr;
+    for (QQuickItem* child : list().parentItem()->childItems()) {
+        if (child->inherits("QQuickScrollBar"))
+            bar = accessible(child);
+    }
+    ASSERT_NE(bar, nullptr);
+    EXPECT_EQ(bar->role(), QAccessible::ScrollBar);
+    EXPECT_EQ(bar->text(QAccessible::Name), u"Vertical scroll bar"_qs);
+}
+
 // An animation would draw a dozen frames at each capture.
 TEST_F(RowTest, ACapturedRowIsThereAtOnce) {
     showList(numbered(3));

@@ -96,6 +96,22 @@ FocusScope {
             view: listView
         }
 
+        MenuKey {
+            view: listView
+            onAsked: root.openFocusedMenu()
+        }
+
+        FocusFollower {
+            view: listView
+            covered: pinnedHeader.visible ? pinnedHeader.height : 0
+        }
+
+        VisualFocus {
+            id: ring
+
+            item: listView
+        }
+
         // Over the pinned header as well.
         T.ScrollBar.vertical: ThinScrollBar {
             parent: root
@@ -104,6 +120,15 @@ FocusScope {
             anchors.bottom: parent.bottom
             anchors.right: parent.right
         }
+    }
+
+    // Under the icon of the focused row, which comes into sight.
+    function openFocusedMenu() {
+        const line = root.list.lines.focusedLine();
+        listView.positionViewAtIndex(line, ListView.Contain);
+        const row = listView.itemAtIndex(line) as NotificationRowView;
+        if (row)
+            rowMenu.openFor(row.notificationId, row.mapToItem(null, row.menuPlace.x, row.menuPlace.y));
     }
 
     function notePress(row: NotificationRowView) {
@@ -151,6 +176,13 @@ FocusScope {
         onSelectAll: key => root.selection.selectGroup(key)
         onDeselectAll: key => root.selection.deselectGroup(key)
         onMenuRequested: (key, count, place) => groupMenu.openFor(key, count, place)
+    }
+
+    FocusRing {
+        z: 2
+        innerRadius: 0
+        inside: true
+        visible: ring.visual
     }
 
     RowMenu {

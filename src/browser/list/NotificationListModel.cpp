@@ -29,12 +29,25 @@ QString timeText(const ListEntry& row) {
     return formatter.text(row.notification.timestamp);
 }
 
-QString spokenText(const ListEntry& row) {
-    const CapturedNotification& notification = row.notification;
-    QStringList texts{notification.appName, beginning(notification.title),
-                      beginning(notification.body), timeText(row)};
+QString pinText(const CapturedNotification& row) {
+    return row.pinned ? qtTrId("row.pinned") : QString();
+}
+
+QString joined(QStringList texts) {
     texts.removeAll(QString());
     return texts.join(QStringLiteral(", "));
+}
+
+QString spokenText(const ListEntry& row) {
+    const CapturedNotification& notification = row.notification;
+    return joined({notification.appName, beginning(notification.title),
+                   beginning(notification.body), timeText(row), pinText(notification)});
+}
+
+QString spokenMask(const ListEntry& row) {
+    const CapturedNotification& notification = row.notification;
+    return joined({notification.appName, qtTrId("row.contentHidden"), timeText(row),
+                   pinText(notification), qtTrId("row.clickToReveal")});
 }
 
 } // namespace
@@ -144,6 +157,13 @@ int NotificationListModel::headerBelow(int line) const {
     return -1;
 }
 
+int NotificationListModel::focusedLine() const {
+    const auto found = std::find_if(entries_.begin(), entries_.end(), [&](const ListEntry& entry) {
+        return entry.kind == ListEntry::Kind::row && entry.notification.id == focused_;
+    });
+    return found == entries_.end() ? -1 : int(found - entries_.begin());
+}
+
 GroupHeader NotificationListModel::header(int line) const {
     const bool exists = line >= 0 && line < rowCount() && isHeader(line);
     return exists ? headerOf(entries_[std::size_t(line)]) : GroupHeader();
@@ -198,6 +218,8 @@ QVariant NotificationListModel::valueOfRow(const ListEntry& entry, Role role) co
         return entry.fade == ListEntry::Fade::out;
     case Role::SpokenText:
         return spokenText(entry);
+    case Role::SpokenMask:
+        return spokenMask(entry);
     case Role::Kind:
     case Role::Header:
         break;

@@ -35,6 +35,7 @@ public:
         IsArriving, // fades in with its group; read when a view makes the row
         IsLeaving,  // fades out with its group, and is gone after that
         SpokenText, // the whole row for a screen reader
+        SpokenMask, // the same while its content is hidden
         Header,     // a GroupHeader
     };
     Q_ENUM(Role)
@@ -64,6 +65,9 @@ public:
     Q_INVOKABLE int headerBelow(int line) const;
 
     Q_INVOKABLE tessarine::GroupHeader header(int line) const;
+
+    // The line of the row that is marked as focused, -1 when there is none.
+    Q_INVOKABLE int focusedLine() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -21,6 +21,12 @@ Rectangle {
     signal selectAll(string key)
     signal deselectAll(string key)
 
+    // Where the keyboard is: under the chevron.
+    function askForMenu() {
+        if (!selectionMode)
+            menuRequested(header.key, header.count, chevron.mapToItem(null, 0, chevron.height));
+    }
+
     implicitHeight: lineHeight
     color: Theme.colours.windowBackground
     Accessible.role: Accessible.Heading
@@ -44,6 +50,11 @@ Rectangle {
                                                   mapToItem(null, mouse.x, mouse.y))
     }
 
+    MenuKey {
+        view: section
+        onAsked: section.askForMenu()
+    }
+
     IconButton {
         id: chevron
 
@@ -56,7 +67,23 @@ Rectangle {
         size: section.chevronColumn
         accessibleName: (section.header.isCollapsed ? qsTrId("group.expand") : qsTrId("group.collapse"))
             .arg(section.header.title)
-        onClicked: section.toggled(section.header.key)
+        ringInside: true
+        onClicked: {
+            section.toggled(section.header.key);
+            turning.restart();
+        }
+    }
+
+    // From what the other symbol looks like.
+    NumberAnimation {
+        id: turning
+
+        target: chevron
+        property: "turn"
+        from: section.header.isCollapsed ? 90 : -90
+        to: 0
+        duration: Metrics.gentle
+        easing.type: Easing.InOutQuad
     }
 
     AppIconTile {

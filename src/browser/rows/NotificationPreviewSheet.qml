@@ -32,6 +32,11 @@ Sheet {
     }
     onClosed: actions.showPreview = false
 
+    KeyboardScroller {
+        view: sheet.contentItem
+        scrolled: area
+    }
+
     Item {
         anchors.fill: parent
 
@@ -104,6 +109,9 @@ Sheet {
         }
 
         ScrollArea {
+            id: area
+
+            objectName: "previewTexts"
             anchors.top: upperDivider.bottom
             anchors.bottom: lowerDivider.top
             width: parent.width

@@ -18,6 +18,7 @@ NotificationRowItem {
     required property bool isSelected
     required property bool isFocused
     required property string spokenText
+    required property string spokenMask
     property bool menuOpen // a context menu, which a tip would lie over
     property real circleOpenness // of the column for the circle: from 0 to 1
     property real clarity: 1 // of the texts, while they come out from under the mask
@@ -29,12 +30,13 @@ NotificationRowItem {
     readonly property bool showsTitle: title.text && !masked
     readonly property bool showsBody: body.text && !masked
     readonly property bool drawnFocused: isFocused && !selectionMode
+    readonly property point menuPlace: Qt.point(icon.x, icon.y + icon.height) // of the keyboard
     readonly property bool showsTip: hovered && !menuOpen
 
     cardMargin: Metrics.spacingMedium
     implicitHeight: Math.max(icon.height, texts.height) + 2 * verticalPadding
     Accessible.role: Accessible.ListItem
-    Accessible.name: masked ? appName + ", " + qsTrId("row.clickToReveal") : spokenText
+    Accessible.name: masked ? spokenMask : spokenText
     Accessible.selectable: true
     Accessible.selected: selectionMode ? isSelected : isFocused
     Accessible.checkable: selectionMode
@@ -214,7 +216,7 @@ NotificationRowItem {
                 text: row.selectionMode ? (row.isSelected ? qsTrId("row.deselect") : qsTrId("row.select"))
                     : row.masked ? qsTrId("row.clickToReveal")
                     : qsTrId("row.singleClickToSelect").arg(row.appName)
-                visible: row.showsTip && tip.status === Loader.Ready
+                hovered: row.showsTip && tip.status === Loader.Ready
             }
         }
     }

@@ -22,6 +22,7 @@ T.AbstractButton {
     background: ControlFace {
         control: row
         bordered: false
+        ringInside: true
     }
 
     contentItem: PopoverRowContent {

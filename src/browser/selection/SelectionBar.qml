@@ -41,7 +41,6 @@ Item {
             symbol: "square.grid.2x2"
             text: qsTrId("toolbar.group.byApp")
             toolTipText: qsTrId("selection.byApp.help")
-            panelOpen: appMenu.visible
             onClicked: appMenu.popup(byApp, 0, byApp.height + Metrics.spacingSmall)
 
             ContextMenu {
@@ -74,7 +73,6 @@ Item {
             symbol: "calendar"
             text: qsTrId("toolbar.group.byDate")
             toolTipText: qsTrId("selection.byDate.help")
-            panelOpen: datePopover.visible
             onClicked: bar.selection.dates.showDatePickerPopover = true
 
             DateSelectionPopover {
