@@ -56,15 +56,29 @@ Rectangle {
             visible: root.view.list.face === BrowserList.Waiting
             symbol: "bell.slash"
             title: qsTrId("hoard.empty.waiting")
-            detail: qsTrId("hoard.empty.waiting.detail")
+            detail: root.view.list.waitingDetail
         }
 
         Notice {
+            id: noResults
+
             anchors.centerIn: parent
             visible: root.view.list.face === BrowserList.NoResults
             symbol: "magnifyingglass"
             title: qsTrId("hoard.empty.noResults")
-            detail: qsTrId("hoard.empty.noResults.detail")
+            detail: root.view.list.noResultsDetail
+        }
+
+        TextButton {
+            objectName: "loadOlderResults"
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.top: noResults.bottom
+            anchors.topMargin: Metrics.spacingLarge
+            symbol: "clock.arrow.circlepath"
+            text: qsTrId("toolbar.loadOlder")
+            toolTipText: qsTrId("toolbar.loadOlder.help")
+            visible: noResults.visible && root.view.list.canLoadOlder
+            onClicked: root.view.list.loadOlder()
         }
 
         NotificationList {
@@ -133,6 +147,7 @@ Rectangle {
     AlertDialog {
         objectName: "deleteAllConfirm"
         text: root.view.selection.deleteAllTitle
+        message: qsTrId("selection.confirmDeleteAll.message")
         visible: root.view.selection.showDeleteAllConfirm
         onClosed: root.view.selection.showDeleteAllConfirm = false
         actions: [

@@ -43,6 +43,7 @@ public:
         AppLauncher& launcher;
         std::function<void(const QString&)> setPasteboard; // replaces its content by a plain text
         Overlays::MakeExportSheet makeExportSheet;
+        BrowserList::CanSeeNotifications canSeeNotifications = [] { return true; };
     };
 
     explicit ContentView(Services services);

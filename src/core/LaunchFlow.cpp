@@ -2,6 +2,8 @@
 
 #include "core/Retention.h"
 
+#include <QDebug>
+
 namespace tessarine {
 
 void LaunchFlow::begin() {
@@ -13,6 +15,18 @@ void LaunchFlow::finishStartup() {
     services_.listener->start();
     fdaConfirmedAtLaunch_ =
         services_.platform.fileSystem->grantsReading(services_.listener->usernotedDbPath());
+    tellWhatIsMissing();
+}
+
+void LaunchFlow::tellWhatIsMissing() {
+    if (!services_.hoard.isUsable())
+        qWarning().noquote() << "The hoard can't be opened:" << services_.hoard.path();
+    const auto tellOfAccess = [this] {
+        if (!services_.platform.accessibility->isProcessTrusted())
+            qWarning("Notifications can't be seen: the system gives no access to them, "
+                     "as where there is no session bus");
+    };
+    services_.platform.scheduler->onMainAfter(accessGrace, alive_.guard(tellOfAccess));
 }
 
 } // namespace tessarine

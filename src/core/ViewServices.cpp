@@ -34,6 +34,9 @@ ContentView::Services ViewServices::browser() {
             [sheet](NotificationList list, std::function<void()> onDismiss) {
                 return std::make_unique<ExportOptionsSheet>(std::move(list), std::move(onDismiss),
                                                             sheet);
+            },
+            [&accessibility = *services.platform.accessibility] {
+                return accessibility.isProcessTrusted();
             }};
 }
 

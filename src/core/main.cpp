@@ -1,10 +1,21 @@
 #include "core/ApplicationSetup.h"
+#include "core/DisplayCheck.h"
 #include "core/Program.h"
 #include "platform/SingleInstance.h"
 
 #include <QApplication>
 
 #include <cstdlib>
+#include <memory>
+
+namespace {
+
+std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
+    const tessarine::DisplayCheck check;
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     using namespace tessarine;
@@ -14,7 +25,7 @@ int main(int argc, char** argv) {
         instance->activateFirst();
         return EXIT_SUCCESS;
     }
-    QApplication application(argc, argv);
+    const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     setUpApplication();
     Program program;
     instance->onActivation([&program] { program.delegate().activate(); });

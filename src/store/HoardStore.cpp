@@ -74,6 +74,10 @@ void HoardStore::openOnce() {
     createSchema();
 }
 
+bool HoardStore::isUsable() {
+    return onQueue([this] { return hasPinnedColumn(); });
+}
+
 void HoardStore::setUpFile() {
     if (!db().isOpen())
         return; // every statement on it fails

@@ -64,6 +64,9 @@ public:
 
     const QString& path() const { return dbPath_; }
 
+    // Whether the file could be opened and is a hoard.
+    bool isUsable();
+
     // Stores a notification that has a key in the system's database. True when a row was added,
     // false when its application is excluded or its key stored already. A noteId outside the
     // signed 32-bit range ends the process.

@@ -72,5 +72,58 @@ TEST_F(LaunchFlowTest, RecordsThatItCannot) {
     EXPECT_FALSE(flow.fdaConfirmedAtLaunch());
 }
 
+// What is told on standard error
+
+QStringList toldLines;
+
+void note(QtMsgType, const QMessageLogContext&, const QString& text) {
+    toldLines << text;
+}
+
+class LaunchComplaintsTest : public LaunchFlowTest {
+protected:
+    LaunchComplaintsTest() {
+        toldLines.clear();
+        before_ = qInstallMessageHandler(note);
+    }
+    ~LaunchComplaintsTest() override { qInstallMessageHandler(before_); }
+
+    const QString blindness_ = u"Notifications can't be seen: the system gives no access to them, "
+                               "as where there is no session bus"_qs;
+
+private:
+    QtMessageHandler before_;
+};
+
+TEST_F(LaunchComplaintsTest, NothingIsToldWhereAllIsWell) {
+    system.accessibility.trusted = true;
+    flow.begin();
+    system.scheduler.advance(60);
+    EXPECT_THAT(toldLines, ElementsAre());
+}
+
+TEST_F(LaunchComplaintsTest, AccessThatDoesNotComeIsToldOfOnce) {
+    flow.begin();
+    system.scheduler.advance(4);
+    EXPECT_THAT(toldLines, ElementsAre());
+    system.scheduler.advance(60);
+    EXPECT_THAT(toldLines, ElementsAre(blindness_));
+}
+
+TEST_F(LaunchComplaintsTest, AccessThatComesInTimeIsNotMissed) {
+    flow.begin();
+    system.accessibility.trusted = true;
+    system.scheduler.advance(60);
+    EXPECT_THAT(toldLines, ElementsAre());
+}
+
+TEST_F(LaunchComplaintsTest, AHoardThatCannotBeOpenedIsToldOfWithItsPath) {
+    system.accessibility.trusted = true;
+    ASSERT_TRUE(QDir().mkpath(services.hoard.path())); // a folder in the file's place
+    flow.begin();
+    system.scheduler.advance(60);
+    EXPECT_THAT(toldLines, ElementsAre(u"The hoard can't be opened: "_qs + services.hoard.path()));
+}
+
 } // namespace
 } // namespace tessarine

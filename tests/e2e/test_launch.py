@@ -27,6 +27,20 @@ def settled_snapshot(folder):
     return wait_until(still, "files that stay as they are")
 
 
+class WithoutADisplay(SessionTestCase):
+    def assert_says_so_and_ends(self, environment):
+        program = self.session.start_program(wait=False, environment=environment)
+        self.assertEqual(program.wait(PATIENCE), 1)
+        self.assertEqual(self.session.log().splitlines(), [
+            "Tessarine needs a graphical session: there is no display to open windows on."])
+
+    def test_none_is_named(self):
+        self.assert_says_so_and_ends({"DISPLAY": ""})
+
+    def test_the_one_that_is_named_is_not_there(self):
+        self.assert_says_so_and_ends({"DISPLAY": ":65123"})
+
+
 class SingleInstance(SessionTestCase):
     def assert_second_start_ends(self, first, **options):
         second = self.session.start_program(wait=False, **options)

@@ -1,6 +1,7 @@
 #include "support/EventLoop.h"
 #include "ui/UiFixture.h"
 
+#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 
@@ -244,6 +245,55 @@ TEST_F(ToolbarTest, OlderRowsAreLoadedFromTheEndOfTheList) {
     EXPECT_EQ(counter(), u"526 notifications"_qs);
     EXPECT_FALSE(isShown(u"loadOlder"_qs));
     EXPECT_GE(list().property("contentY").toDouble(), before - 60); // nobody was sent elsewhere
+}
+
+// An empty list
+
+class EmptyListTest : public UiTest {
+protected:
+    void showEmpty() {
+        makeWindow();
+        show();
+        publish({});
+        draw();
+    }
+};
+
+TEST_F(EmptyListTest, PromisesWhatWillBeThere) {
+    system.accessibility.trusted = true;
+    showEmpty();
+    const QStringList texts = textsInWindow(*window);
+    EXPECT_TRUE(texts.contains(u"No notifications yet"_qs));
+    EXPECT_TRUE(
+        texts.contains(u"What your apps announce will be kept here, for as long as you like."_qs));
+}
+
+TEST_F(EmptyListTest, SaysThatNothingCanBeSeen) {
+    showEmpty();
+    EXPECT_TRUE(textsInWindow(*window).contains(
+        u"Tessarine can’t see any: it has no access to the session bus, over which notifications come."_qs));
+    system.accessibility.trusted = true;
+    publish({});
+    EXPECT_TRUE(textsInWindow(*window).contains(
+        u"What your apps announce will be kept here, for as long as you like."_qs));
+}
+
+TEST_F(EmptyListTest, SaysThatTheHoardCannotBeOpenedAndWhereItIs) {
+    ASSERT_TRUE(QDir().mkpath(hoard.path())); // a folder in the file's place
+    showEmpty();
+    EXPECT_TRUE(textsInWindow(*window).contains(
+        u"The hoard can’t be opened, so nothing can be kept: "_qs + hoard.path()));
+}
+
+TEST_F(EmptyListTest, AFilterThatNothingPassesHintsAtOlderRows) {
+    showHoard(620);
+    view().list()->setSearchText(u"Title 7 "_qs);
+    draw();
+    const QString all = u"No loaded notification matches the search and the chosen app."_qs;
+    EXPECT_TRUE(textsInWindow(*window).contains(all + u" Load Older looks further back."_qs));
+    click(item(u"loadOlderResults"_qs)); // the rest of the hoard
+    EXPECT_TRUE(textsInWindow(*window).contains(all));
+    EXPECT_FALSE(isShown(u"loadOlderResults"_qs));
 }
 
 } // namespace

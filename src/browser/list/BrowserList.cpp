@@ -1,6 +1,7 @@
 #include "browser/list/BrowserList.h"
 
 #include "preferences/PreferencesStore.h"
+#include "store/HoardStore.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -23,8 +24,11 @@ QStringList labelsOf(const std::array<Mode, Count>& modes) {
 
 // The way of the rows: loaded, filtered and sorted, grouped into entries, told by the model.
 BrowserList::BrowserList(std::shared_ptr<NotificationListener> listener, HoardStore& hoard,
-                         PreferencesStore& preferences, Scheduler& scheduler)
-    : loaded_(std::move(listener), hoard, scheduler)
+                         PreferencesStore& preferences, Scheduler& scheduler,
+                         CanSeeNotifications canSeeNotifications)
+    : hoard_(hoard)
+    , canSeeNotifications_(std::move(canSeeNotifications))
+    , loaded_(std::move(listener), hoard, scheduler)
     , collapsed_(scheduler)
     , lines_([&preferences](const QString& bundleId) { return preferences.isPrivate(bundleId); }) {
     connect(&loaded_, &LoadedRows::changed, this, &BrowserList::takeList);
@@ -83,6 +87,20 @@ QString BrowserList::counterText() const {
     const QLocale locale;
     return qtTrId("toolbar.notifCount.truncated")
         .arg(locale.toString(qsizetype(filtered_.size())), locale.toString(hoardTotalCount()));
+}
+
+QString BrowserList::waitingDetail() {
+    if (face_ != Face::Waiting)
+        return {};
+    if (!hoard_.isUsable())
+        return qtTrId("hoard.empty.notOpened").arg(hoard_.path());
+    return canSeeNotifications_() ? qtTrId("hoard.empty.waiting.detail")
+                                  : qtTrId("hoard.empty.noAccess");
+}
+
+QString BrowserList::noResultsDetail() const {
+    return canLoadOlder() ? qtTrId("hoard.empty.noResults.older")
+                          : qtTrId("hoard.empty.noResults.detail");
 }
 
 void BrowserList::deleteEverything() {

@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
+#include <functional>
 #include <memory>
 
 namespace tessarine {
@@ -29,6 +30,8 @@ class BrowserList : public QObject {
     Q_PROPERTY(bool hasNotifications READ hasNotifications NOTIFY listChanged)
     Q_PROPERTY(bool canLoadOlder READ canLoadOlder NOTIFY listChanged)
     Q_PROPERTY(QString counterText READ counterText NOTIFY listChanged)
+    Q_PROPERTY(QString waitingDetail READ waitingDetail NOTIFY listChanged)
+    Q_PROPERTY(QString noResultsDetail READ noResultsDetail NOTIFY listChanged)
 
     // The toolbar.
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
@@ -47,9 +50,13 @@ public:
     enum class Face { Loading, Waiting, List, NoResults };
     Q_ENUM(Face)
 
+    // Whether announcements reach the program, as things stand.
+    using CanSeeNotifications = std::function<bool()>;
+
     // The references outlive the list.
     BrowserList(std::shared_ptr<NotificationListener> listener, HoardStore& hoard,
-                PreferencesStore& preferences, Scheduler& scheduler);
+                PreferencesStore& preferences, Scheduler& scheduler,
+                CanSeeNotifications canSeeNotifications);
 
     // What is loaded, and how much of the hoard that is
 
@@ -76,6 +83,11 @@ public:
     Face face() const { return face_; }
     NotificationListModel* lines() { return &lines_; }
     QString counterText() const;
+
+    // What an empty list says below its first line: what will be there, or why nothing can be; and
+    // where to look for what no row passes.
+    QString waitingDetail();
+    QString noResultsDetail() const;
 
     // What the user wishes
 
@@ -118,6 +130,8 @@ private:
     static QStringList sortLabels();
     static QStringList groupLabels();
 
+    HoardStore& hoard_;
+    CanSeeNotifications canSeeNotifications_;
     LoadedRows loaded_;
     QString searchText_;
     QString selectedApp_ = everyApp;
