@@ -14,7 +14,7 @@ T.BusyIndicator {
 
     readonly property int spokes: 8
     readonly property int turn: 800
-    readonly property bool turning: running && visible && Window.visibility !== Window.Hidden
+    readonly property bool turning: running && visible && !Theme.reducesMotion && Window.visibility !== Window.Hidden
 
     implicitWidth: size
     implicitHeight: size

@@ -289,16 +289,23 @@ Sheet {
                 textColour: Theme.colours.red
             }
 
-            ExportMessage {
-                objectName: "done"
-                x: sheet.margin
-                width: sheet.innerWidth
-                height: visible ? implicitHeight + Metrics.spacingLarge : 0
-                visible: sheet.options.exportDone
-                symbol: "checkmark.circle.fill"
-                text: qsTrId("export.done")
-                symbolTint: Theme.colours.green
-                textColour: Theme.colours.green
+            // Its line is there from the start, so that the buttons stay where they are.
+            Item {
+                width: parent.width
+                height: sheet.options.exportError ? 0 : done.implicitHeight + Metrics.spacingLarge
+
+                ExportMessage {
+                    id: done
+
+                    objectName: "done"
+                    x: sheet.margin
+                    width: sheet.innerWidth
+                    visible: sheet.options.exportDone
+                    symbol: "checkmark.circle.fill"
+                    text: qsTrId("export.done")
+                    symbolTint: Theme.colours.green
+                    textColour: Theme.colours.green
+                }
             }
 
             Row {

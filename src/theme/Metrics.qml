@@ -1,6 +1,7 @@
 pragma Singleton
 
 import QtQuick
+import Tessarine.Theme
 
 // Sizes in points, and times in milliseconds, that several views share.
 QtObject {
@@ -53,11 +54,14 @@ QtObject {
     readonly property int iconSize: 36
     readonly property int noticeSymbolSize: 32
 
-    // Times
-    readonly property int quick: 100
-    readonly property int swift: 150
-    readonly property int gentle: 200
-    readonly property int leisurely: 250
-    readonly property int ringStep: 1000
+    // Times of what moves: none where the desktop is set to that
+    readonly property real pace: Theme.reducesMotion ? 0 : 1
+    readonly property int quick: 100 * pace
+    readonly property int swift: 150 * pace
+    readonly property int gentle: 200 * pace
+    readonly property int leisurely: 250 * pace
+    readonly property int ringStep: 1000 * pace
+
+    // Other times
     readonly property int tipDelay: 700
 }

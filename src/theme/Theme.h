@@ -19,6 +19,7 @@ class Theme : public QObject {
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(bool dark READ dark NOTIFY changed)
+    Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY changed)
     Q_PROPERTY(tessarine::Palette colours READ colours NOTIFY changed)
     Q_PROPERTY(QString tabularFamily READ tabularFamily CONSTANT)
 
@@ -36,6 +37,7 @@ public:
     static Theme* create(QQmlEngine* engine, QJSEngine* scripts);
 
     bool dark() const { return appearance_.prefersDark(); }
+    bool reducesMotion() const { return appearance_.reducesMotion(); }
     const Palette& colours() const;
 
     // The face of running text at a size in points, for what doesn't take the application's by

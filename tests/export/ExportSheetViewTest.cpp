@@ -204,6 +204,17 @@ TEST_F(ExportSheetViewTest, TheKeyboardAloneIsEnough) {
     EXPECT_TRUE(options->isExporting());
 }
 
+TEST_F(ExportSheetViewTest, NothingMovesWhenItIsDone) {
+    show();
+    panel.answer = path(u"out"_qs);
+    const QPointF before = item("export").mapToScene(QPointF());
+    item("export").forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    system.scheduler.settle();
+    ASSERT_TRUE(item("done").isVisible());
+    EXPECT_EQ(item("export").mapToScene(QPointF()).y(), before.y());
+}
+
 TEST_F(ExportSheetViewTest, EscapeCancelsWhileAnExportRuns) {
     show();
     panel.answer = path(u"out"_qs);

@@ -41,6 +41,11 @@ public:
         Q_EMIT changed();
     }
     void setDesktopIsDark(bool dark) {
+    bool reducesMotion() const override { return motionIsReduced; }
+    void setReducesMotion(bool reduces) {
+        motionIsReduced = reduces;
+        Q_EMIT changed();
+    }
         desktopIsDark = dark;
         Q_EMIT changed();
     }
@@ -52,6 +57,7 @@ public:
 // A user who answers every question for a path alike.
 class SimulatedSavePanel : public SavePanel {
 public:
+    bool motionIsReduced = false;
     std::optional<QString> runModal(const Request& request) override {
         requests.push_back(request);
         if (meanwhile)

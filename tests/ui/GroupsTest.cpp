@@ -1,5 +1,6 @@
 #include "support/EventLoop.h"
 #include "support/PointerInput.h"
+#include "ui/AnimationClock.h"
 #include "ui/UiFixture.h"
 
 #include <algorithm>
@@ -42,6 +43,14 @@ protected:
     }
 
     void clickChevron(QQuickItem& header) { clickAt(header, {18, header.height() / 2}); }
+
+    QQuickItem& chevronOf(QQuickItem& header) const {
+        for (QQuickItem* child : header.childItems()) {
+            if (child->property("turn").isValid())
+                return *child;
+        }
+        qFatal("the header has no chevron");
+    }
 
     // The items of the list that can be seen, from the top; also such as are on their way out.
     std::vector<QQuickItem*> itemsInSight() const {
@@ -293,6 +302,35 @@ TEST_F(GroupIconsTest, ADaysHeaderLooksForNone) {
     showClosedGroup(GroupMode::date);
     EXPECT_EQ(views.icons->cache().keys(), QStringList());
     EXPECT_TRUE(textsIn(root()).contains(u"Sunday, November 16, 2025"_qs));
+}
+
+TEST_F(GroupsTest, TheChevronTurnsFromTheOtherStateToItsOwn) {
+    AnimationClock clock;
+    QQuickItem& alpha = *header(u"Alpha"_qs);
+    const auto turn = [&] { return chevronOf(alpha).property("turn").toDouble(); };
+    clickChevron(alpha);
+    clock.turnOn(1);
+    EXPECT_GT(turn(), 80); // to the right, and looks downwards still
+    clock.turnOn(100);
+    EXPECT_GT(turn(), 0);
+    EXPECT_LT(turn(), 80);
+    clock.turnOn(200);
+    EXPECT_EQ(turn(), 0);
+    clickChevron(alpha);
+    clock.turnOn(1);
+    EXPECT_LT(turn(), -80);
+    clock.turnOn(300);
+    EXPECT_EQ(turn(), 0);
+}
+
+TEST_F(GroupsTest, NothingTurnsWhereTheDesktopWantsNoMotion) {
+    AnimationClock clock;
+    appearance.setReducesMotion(true);
+    QQuickItem& alpha = *header(u"Alpha"_qs);
+    clickChevron(alpha);
+    EXPECT_EQ(chevronOf(alpha).property("turn").toDouble(), 0);
+    clickAt(item(u"enterSelection"_qs), {5, 5});
+    EXPECT_EQ(item(u"cancelSelection"_qs).parentItem()->parentItem()->opacity(), 1);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 import QtQuick
 import Tessarine.Browser
+import Tessarine.Theme
 
 // The room of the inline banner: it opens from the top edge, and closes more slowly, but at once by
 // the banner's own button.
@@ -8,8 +9,8 @@ Item {
 
     required property Overlays overlays
 
-    readonly property int entering: 200
-    readonly property int leaving: 300
+    readonly property int entering: 200 * Metrics.pace
+    readonly property int leaving: 300 * Metrics.pace
     readonly property bool open: overlays.hasInlineBanner
 
     property bool leavesAtOnce: false

@@ -32,7 +32,9 @@ QVariant unwrapped(QVariant value) {
 } // namespace
 
 LinuxSystemAppearance::LinuxSystemAppearance(const QDBusConnection& bus)
-    : dark_(desktopPrefersDark()) {
+    : dark_(desktopPrefersDark())
+    , motion_(bus) {
+    connect(&motion_, &LinuxMotionSetting::changed, this, &SystemAppearance::changed);
     QGuiApplication::instance()->installEventFilter(this);
     if (!bus.isConnected())
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/SystemAppearance.h"
+#include "platform/linux/desktop/LinuxMotionSetting.h"
 
 #include <QVariant>
 
@@ -22,6 +23,7 @@ public:
     explicit LinuxSystemAppearance(const QDBusConnection& bus);
 
     bool prefersDark() const override { return dark_; }
+    bool reducesMotion() const override { return motion_.isReduced(); }
     void setAppearance(Appearance appearance) override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -38,6 +40,7 @@ private:
     Appearance appearance_ = Appearance::system;
     std::optional<bool> portalPrefersDark_;
     bool dark_ = false;
+    LinuxMotionSetting motion_;
 };
 
 } // namespace tessarine
