@@ -32,6 +32,10 @@ inline const QString lastSeenSystemNoteId = QStringLiteral("lastSeenSystemNoteId
 // The number of rows that the status item has shown last, written by MenuBarController. Integer.
 inline const QString menuBarLastSeenCount = QStringLiteral("menuBarLastSeenCount");
 
+// How far the status panel is from the lower right corner, where the desktop has no tray. Integers:
+// points to the left and upwards.
+inline const QString statusPanelOffset = QStringLiteral("statusPanelOffset");
+
 // Whether the system brings windows back at the next start, written at launch. Bool, false.
 inline const QString restoresWindows = QStringLiteral("NSQuitAlwaysKeepsWindows");
 

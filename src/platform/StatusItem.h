@@ -8,6 +8,8 @@ class QMenu;
 
 namespace tessarine {
 
+class UserDefaults;
+
 // The program's permanent face on the desktop: a small picture, a short text beside it, and a menu
 // that a click opens. Main thread.
 class StatusItem {
@@ -26,8 +28,20 @@ public:
     // The text beside the picture, for example " 5"; empty shows the picture alone.
     virtual void setTitle(const QString& title) = 0;
 
+    // The same in words, for a pointer that rests on the item and for a screen reader, for example
+    // "5 new notifications"; empty leaves them the description.
+    virtual void setTip(const QString& tip) = 0;
+
+    // What a click does where the desktop opens the menu by itself, at its own place; elsewhere a
+    // click opens the menu.
+    virtual void setActivation(std::function<void()> activation) = 0;
+
     // Fills an empty menu each time that the user asks for it.
     virtual void setMenuBuilder(MenuBuilder builder) = 0;
+
+    // Where the user has moved an item that can be moved is kept in these defaults, over the starts
+    // of the program. They outlive the item. To be called before it is shown.
+    virtual void keepPlaceIn(UserDefaults& defaults) = 0;
 
     // Puts the item on the desktop, where it stays. Returns at once; the item may come later.
     virtual void show() = 0;

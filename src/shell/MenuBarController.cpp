@@ -10,6 +10,7 @@
 #include <QMenu>
 
 #include <algorithm>
+#include <limits>
 
 namespace tessarine {
 
@@ -33,6 +34,8 @@ MenuBarController::MenuBarController(StatusItem& statusItem,
     , quit_(std::move(quit))
     , lastSeenCount_(defaults.integer(defaultsKeys::menuBarLastSeenCount)) {
     statusItem_.setImage(QStringLiteral("bell.fill"), programName);
+    statusItem_.setActivation(openHoard_);
+    statusItem_.keepPlaceIn(defaults_);
     statusItem_.setMenuBuilder([this](QMenu& menu) { fillMenu(menu); });
     connect(listener_.get(), &NotificationListener::notificationsChanged, this,
             &MenuBarController::updateBadge);
@@ -61,10 +64,16 @@ void MenuBarController::updateBadge() {
     const qint64 count = listCount();
     const quint64 unseen = lastSeenCount_ < count ? quint64(count) - quint64(lastSeenCount_) : 0;
     const QString title = badge(qint64(std::min(unseen, quint64(badgeLimit))));
+    statusItem_.setTip(tip(unseen));
     if (shownTitle_ == title)
         return; // each call draws the item again
     shownTitle_ = title;
     statusItem_.setTitle(title);
+}
+
+QString MenuBarController::tip(quint64 count) {
+    constexpr quint64 largest = std::numeric_limits<int>::max(); // that a text can count
+    return count < 1 ? QString() : qtTrId("menu.newNotifications", int(std::min(count, largest)));
 }
 
 void MenuBarController::fillMenu(QMenu& menu) const {

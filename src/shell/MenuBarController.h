@@ -37,6 +37,9 @@ public:
     // The badge for a number of unseen notifications: "", " 5", from 100 on " 99+".
     static QString badge(qint64 count);
 
+    // The same in words; empty without any.
+    static QString tip(quint64 count);
+
 private:
     qint64 listCount() const;
     void updateBadge();

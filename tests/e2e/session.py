@@ -254,7 +254,7 @@ class Session:
     def open_menu(self):
         """The status panel's, as on a desktop without a tray."""
         panel = wait_until(self.visible_panel, "the panel")
-        self.xdotool("mousemove", "--window", panel, "8", "8", "click", "1")
+        self.xdotool("mousemove", "--window", panel, "20", "20", "click", "1")
         return wait_until(self.visible_menu, "the menu")
 
     def close_menu(self):

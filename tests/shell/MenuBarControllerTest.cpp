@@ -98,6 +98,30 @@ TEST_F(MenuBarTest, MarkingAllSeenClearsTheBadgeAndStoresTheCount) {
     EXPECT_EQ(controller_->lastSeenCount(), 5);
 }
 
+TEST_F(MenuBarTest, TheTipTellsTheWholeCountInWords) {
+    launch();
+    EXPECT_EQ(item_.tip, QString());
+    publish(1);
+    EXPECT_EQ(item_.tip, u"1 new notification"_qs);
+    publish(14);
+    EXPECT_EQ(item_.tip, u"14 new notifications"_qs);
+    publish(200);
+    EXPECT_EQ(item_.tip, u"200 new notifications"_qs);
+    controller_->markAllSeen();
+    EXPECT_EQ(item_.tip, QString());
+}
+
+TEST_F(MenuBarTest, ATipCountsAsFarAsTextsCan) {
+    EXPECT_EQ(MenuBarController::tip(std::numeric_limits<quint64>::max()),
+              u"2,147,483,647 new notifications"_qs);
+}
+
+TEST_F(MenuBarTest, AClickThatLeavesTheMenuToTheDesktopOpensTheHoard) {
+    launch();
+    item_.activation();
+    EXPECT_EQ(opened_, 1);
+}
+
 TEST_F(MenuBarTest, ABadgeThatStaysIsNotDrawnAnew) {
     launch();
     publish(200);

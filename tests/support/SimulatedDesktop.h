@@ -19,6 +19,9 @@ public:
         title = text;
         ++titlesSet;
     }
+    void setTip(const QString& text) override { tip = text; }
+    void setActivation(std::function<void()> handler) override { activation = std::move(handler); }
+    void keepPlaceIn(UserDefaults&) override {}
     void setMenuBuilder(MenuBuilder builder) override { menuBuilder = std::move(builder); }
     void show() override { shown = true; }
 
@@ -26,6 +29,8 @@ public:
     QString description;
     QString title = QStringLiteral("never set");
     int titlesSet = 0;
+    QString tip;
+    std::function<void()> activation;
     MenuBuilder menuBuilder;
     bool shown = false;
 };
@@ -36,28 +41,28 @@ public:
     bool prefersDark() const override {
         return appearance == Appearance::system ? desktopIsDark : appearance == Appearance::dark;
     }
-    void setAppearance(Appearance value) override {
-        appearance = value;
-        Q_EMIT changed();
-    }
-    void setDesktopIsDark(bool dark) {
     bool reducesMotion() const override { return motionIsReduced; }
     void setReducesMotion(bool reduces) {
         motionIsReduced = reduces;
         Q_EMIT changed();
     }
+    void setAppearance(Appearance value) override {
+        appearance = value;
+        Q_EMIT changed();
+    }
+    void setDesktopIsDark(bool dark) {
         desktopIsDark = dark;
         Q_EMIT changed();
     }
 
     Appearance appearance = Appearance::system;
     bool desktopIsDark = false;
+    bool motionIsReduced = false;
 };
 
 // A user who answers every question for a path alike.
 class SimulatedSavePanel : public SavePanel {
 public:
-    bool motionIsReduced = false;
     std::optional<QString> runModal(const Request& request) override {
         requests.push_back(request);
         if (meanwhile)

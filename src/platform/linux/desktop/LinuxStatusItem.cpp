@@ -1,11 +1,15 @@
 #include "platform/linux/desktop/LinuxStatusItem.h"
 
+#include "platform/DefaultsKeys.h"
 #include "platform/SystemAppearance.h"
+#include "platform/UserDefaults.h"
 #include "platform/linux/desktop/LinuxStatusPanel.h"
 #include "platform/linux/desktop/StatusPicture.h"
 #include "platform/linux/desktop/WidgetPalette.h"
 
-#include <QCursor>
+#include <QKeyEvent>
+
+#include <algorithm>
 
 namespace tessarine {
 
@@ -21,6 +25,28 @@ bool sameItems(const QMenu& left, const QMenu& right) {
     const QList<QAction*> ours = left.actions();
     const QList<QAction*> theirs = right.actions();
     return std::equal(ours.begin(), ours.end(), theirs.begin(), theirs.end(), same);
+}
+
+constexpr qint64 greatestDistance = 32767; // window systems count in 16 bits
+
+int distanceOf(qint64 saved) {
+    return int(std::clamp<qint64>(saved, 0, greatestDistance));
+}
+
+// The host of a tray draws them, and doesn't obey them.
+void dropShortcuts(const QMenu& menu) {
+    for (QAction* action : menu.actions())
+        action->setShortcut({});
+}
+
+// The entry with this shortcut that can be chosen; null if there is none.
+QAction* actionFor(const QMenu& menu, const QKeyEvent& key) {
+    const QKeySequence pressed(key.keyCombination());
+    for (QAction* action : menu.actions()) {
+        if (action->isEnabled() && action->shortcut() == pressed)
+            return action;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -47,8 +73,37 @@ void LinuxStatusItem::setTitle(const QString& title) {
     refresh();
 }
 
+void LinuxStatusItem::setTip(const QString& tip) {
+    tip_ = tip;
+    refreshTip();
+}
+
+void LinuxStatusItem::setActivation(std::function<void()> activation) {
+    activation_ = std::move(activation);
+}
+
 void LinuxStatusItem::setMenuBuilder(MenuBuilder builder) {
     builder_ = std::move(builder);
+}
+
+void LinuxStatusItem::keepPlaceIn(UserDefaults& defaults) {
+    defaults_ = &defaults;
+}
+
+// What is no pair of distances is none of ours; one that is too far for this screen is cut there.
+void LinuxStatusItem::restorePlace() {
+    if (!defaults_)
+        return;
+    const std::vector<qint64> saved = defaults_->integerList(defaultsKeys::statusPanelOffset);
+    if (saved.size() != 2)
+        return;
+    panel_->setOffset(QPoint(distanceOf(saved[0]), distanceOf(saved[1])));
+}
+
+void LinuxStatusItem::savePlace() {
+    if (defaults_)
+        defaults_->setIntegerList(defaultsKeys::statusPanelOffset,
+                                  {panel_->offset().x(), panel_->offset().y()});
 }
 
 void LinuxStatusItem::show() {
@@ -80,8 +135,8 @@ void LinuxStatusItem::showInTray() {
     tray_->setContextMenu(trayMenu_.get());
     connect(tray_.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
-                if (reason == QSystemTrayIcon::Trigger)
-                    popUpMenu(QCursor::pos());
+                if (reason == QSystemTrayIcon::Trigger && activation_)
+                    activation_();
             });
     refresh();
     tray_->show();
@@ -93,6 +148,8 @@ void LinuxStatusItem::showOnPanel() {
     if (!panel_) {
         panel_ = std::make_unique<LinuxStatusPanel>(symbols_, appearance_);
         connect(panel_.get(), &LinuxStatusPanel::menuRequested, this, &LinuxStatusItem::popUpMenu);
+        connect(panel_.get(), &LinuxStatusPanel::placed, this, &LinuxStatusItem::savePlace);
+        restorePlace();
     }
     refresh();
     panel_->show();
@@ -101,10 +158,17 @@ void LinuxStatusItem::showOnPanel() {
 void LinuxStatusItem::refresh() {
     if (tray_) {
         tray_->setIcon(statusIcon(symbols_, symbolName_, title_, appearance_.prefersDark()));
-        tray_->setToolTip(description_ + title_);
     }
     if (panel_)
         panel_->setContent(symbolName_, description_, title_);
+    refreshTip();
+}
+
+void LinuxStatusItem::refreshTip() {
+    if (tray_)
+        tray_->setToolTip(tip_.isEmpty() ? description_ : tip_);
+    if (panel_)
+        panel_->setTip(tip_);
 }
 
 // The host of a tray fetches the menu when it likes, and answers by the items that it has fetched:
@@ -114,10 +178,24 @@ void LinuxStatusItem::refillTrayMenu() {
         return;
     QMenu fresh;
     builder_(fresh);
+    dropShortcuts(fresh);
     if (sameItems(*trayMenu_, fresh))
         return;
     trayMenu_->clear();
     builder_(*trayMenu_);
+    dropShortcuts(*trayMenu_);
+}
+
+// Qt knows the shortcuts of a menu only where a window of the program has it as a part.
+bool LinuxStatusItem::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != openMenu_ || event->type() != QEvent::KeyPress)
+        return false;
+    QAction* const chosen = actionFor(*openMenu_, *static_cast<QKeyEvent*>(event));
+    if (!chosen)
+        return false;
+    openMenu_->close();
+    chosen->trigger();
+    return true;
 }
 
 void LinuxStatusItem::popUpMenu(const QPoint& place) {
@@ -128,6 +206,7 @@ void LinuxStatusItem::popUpMenu(const QPoint& place) {
     openMenu_->setAttribute(Qt::WA_DeleteOnClose);
     openMenu_->setPalette(widgetPalette(appearance_.prefersDark()));
     builder_(*openMenu_);
+    openMenu_->installEventFilter(this);
     openMenu_->popup(place);
     openMenu_->activateWindow();
 }

@@ -9,9 +9,10 @@ namespace tessarine {
 class Symbols;
 class SystemAppearance;
 
-// The status item on a desktop without a tray: a small window in a corner of the screen, above the
-// others, that comes without taking the keyboard and can be dragged away. Either mouse button asks
-// for the menu, and so do Space, Return and the menu key once it has the keyboard.
+// The status item on a desktop without a tray: a small rounded window in the lower right corner of
+// the screen, above the others and in no task bar, that comes without taking the keyboard and can
+// be dragged away. Either mouse button asks for the menu, and so do Space, Return and the menu key
+// once it has the keyboard.
 class LinuxStatusPanel : public QAbstractButton {
     Q_OBJECT
 
@@ -21,10 +22,22 @@ public:
 
     void setContent(const QString& symbolName, const QString& description, const QString& title);
 
+    // The title in words; empty leaves it at the description.
+    void setTip(const QString& tip);
+
+    // How far the panel's lower right corner is from the one of the room that the desktop leaves to
+    // windows, in points. Where a compositor places windows alone, it stays where that wants it.
+    void setOffset(const QPoint& offset);
+    QPoint offset() const { return offset_; }
+
+    // The panel on the screen, without its shadow.
+    QRect body() const;
+
     QSize sizeHint() const override;
 
 Q_SIGNALS:
     void menuRequested(const QPoint& place); // on the screen
+    void placed();                           // by the user, who has let go of it
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -38,6 +51,8 @@ private:
     void requestMenu();
     void dragTo(const QPoint& pointer);
     void stayOnScreen();
+    void noteOffset();
+    QRect face() const;
 
     const Symbols& symbols_;
     const SystemAppearance& appearance_;
@@ -46,6 +61,8 @@ private:
     std::optional<QPoint> grip_; // where the pressed pointer is, from the corner of the panel
     QPoint pressedAt_;
     bool isDragged_ = false;
+    const int shadow_; // how far it reaches beyond the panel, on each side
+    QPoint offset_;
 };
 
 } // namespace tessarine

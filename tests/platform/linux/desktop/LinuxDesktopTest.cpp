@@ -6,6 +6,7 @@
 #include "platform/linux/desktop/StatusPicture.h"
 #include "support/EventLoop.h"
 #include "support/SimulatedDesktop.h"
+#include "support/SimulatedPlatform.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -104,19 +105,23 @@ public:
         bus_.registerService(u"org.freedesktop.portal.Desktop"_qs);
     }
 
-    void change(const QString& group, uint value) {
+    void change(const QString& group, uint value) { change(group, u"color-scheme"_qs, value); }
+
+    void change(const QString& group, const QString& key, const QVariant& value) {
         QDBusMessage signal = QDBusMessage::createSignal(
             path_, u"org.freedesktop.portal.Settings"_qs, u"SettingChanged"_qs);
-        signal << group << u"color-scheme"_qs << QVariant::fromValue(QDBusVariant(value));
+        signal << group << key << QVariant::fromValue(QDBusVariant(value));
         bus_.send(signal);
     }
 
     uint scheme = 0;
+    QMap<QString, QVariant> others; // by group and key in one
 
 public Q_SLOTS:
     QDBusVariant Read(const QString& group, const QString& key) const {
         const bool known = group == u"org.freedesktop.appearance" && key == u"color-scheme";
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(known ? QVariant(scheme) : 99U)));
+        const QVariant other = others.value(group + key, 99U);
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(known ? QVariant(scheme) : other)));
     }
 
 private:
@@ -162,6 +167,44 @@ TEST_F(PortalTest, OtherSettingsAreNoneOfOurs) {
     portal.scheme = 0;
     portal.change(u"com.example"_qs, 1);
     EXPECT_FALSE(turnsUntil([&] { return appearance.prefersDark(); }, 300));
+}
+
+// Motion
+
+struct MotionCase {
+    const char* group;
+    const char* key;
+    QVariant none;
+    QVariant some;
+};
+
+class MotionTest : public PortalTest, public ::testing::WithParamInterface<MotionCase> {};
+
+TEST_P(MotionTest, TheSettingOfTheDesktopIsReadAndFollowed) {
+    FakePortal portal(bus_.connection(u"portal"_qs));
+    const QString group = QString::fromLatin1(GetParam().group);
+    const QString key = QString::fromLatin1(GetParam().key);
+    portal.others[group + key] = GetParam().none;
+    LinuxSystemAppearance appearance(bus_.connection(u"program"_qs));
+    const QSignalSpy changes(&appearance, &SystemAppearance::changed);
+    EXPECT_TRUE(turnsUntil([&] { return appearance.reducesMotion(); }));
+    EXPECT_EQ(changes.count(), 1);
+    portal.change(group, key, GetParam().some);
+    EXPECT_TRUE(turnsUntil([&] { return !appearance.reducesMotion(); }));
+    portal.change(group, key, GetParam().none);
+    EXPECT_TRUE(turnsUntil([&] { return appearance.reducesMotion(); }));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Desktops, MotionTest,
+    ::testing::Values(MotionCase{"org.freedesktop.appearance", "reduced-motion", 1U, 0U},
+                      MotionCase{"org.gnome.desktop.interface", "enable-animations", false, true},
+                      MotionCase{"org.kde.kdeglobals.KDE", "AnimationDurationFactor", u"0"_qs,
+                                 u"0.5"_qs}));
+
+TEST(LinuxAppearance, WithoutAPortalThereIsMotion) {
+    const LinuxSystemAppearance appearance{QDBusConnection(u"none"_qs)};
+    EXPECT_FALSE(appearance.reducesMotion());
 }
 
 // Tray
@@ -240,6 +283,7 @@ class PanelTest : public ::testing::Test {
 protected:
     PanelTest() {
         panel_.setContent(u"bell.fill"_qs, u"Tessarine"_qs, u" 5"_qs);
+        panel_.setTip(u"5 new notifications"_qs);
         panel_.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&panel_, testing::patienceMs));
     }
@@ -250,20 +294,45 @@ protected:
     QSignalSpy requests_{&panel_, &LinuxStatusPanel::menuRequested};
 };
 
-TEST_F(PanelTest, StandsInTheCornerAndKeepsItsRightEdgeWhenItGrows) {
+// What the panel leaves free on the right and below, in points.
+QPoint freeBeside(const LinuxStatusPanel& panel) {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-    EXPECT_EQ(panel_.geometry().right(), room.right() - 12);
-    EXPECT_EQ(panel_.geometry().top(), room.top() + 12);
+    return room.bottomRight() - panel.body().bottomRight();
+}
+
+TEST_F(PanelTest, StandsInTheLowerRightCornerAndKeepsItWhenItGrows) {
+    EXPECT_EQ(freeBeside(panel_), QPoint(12, 12));
     const int width = panel_.width();
     panel_.setContent(u"bell.fill"_qs, u"Tessarine"_qs, u" 99+"_qs);
     EXPECT_GT(panel_.width(), width);
-    EXPECT_EQ(panel_.geometry().right(), room.right() - 12);
+    EXPECT_EQ(freeBeside(panel_), QPoint(12, 12));
+}
+
+TEST_F(PanelTest, StaysOnTheScreenWhereverItIsPut) {
+    panel_.setOffset(QPoint(100000, 100000));
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(panel_.body().topLeft(), room.topLeft());
+}
+
+TEST_F(PanelTest, ItsCornersAreRoundAndItsShadowIsSoft) {
+    QImage picture(panel_.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    panel_.render(&picture, {}, {}, {});
+    const QRect face = panel_.body().translated(-panel_.pos());
+    EXPECT_EQ(picture.pixelColor(face.center() + QPoint(0, 12)).alpha(), 255);
+    EXPECT_LT(picture.pixelColor(face.topLeft()).alpha(), 128);
+    const int near = picture.pixelColor(face.center().x(), face.bottom() + 2).alpha();
+    const int far = picture.pixelColor(face.center().x(), face.bottom() + 7).alpha();
+    EXPECT_GT(near, far);
+    EXPECT_GT(far, 0);
+    EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 0);
 }
 
 TEST_F(PanelTest, TellsAScreenReaderItsNameAndCount) {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&panel_);
     EXPECT_EQ(spoken->role(), QAccessible::Button);
-    EXPECT_EQ(spoken->text(QAccessible::Name), u"Tessarine 5"_qs);
+    EXPECT_EQ(spoken->text(QAccessible::Name), u"Tessarine, 5 new notifications"_qs);
+    EXPECT_EQ(panel_.toolTip(), u"5 new notifications"_qs);
 }
 
 TEST_F(PanelTest, EitherMouseButtonAsksForTheMenu) {
@@ -299,16 +368,19 @@ TEST_F(PanelTest, DraggingMovesItAndOpensNoMenu) {
                           Qt::NoModifier);
         QCoreApplication::sendEvent(&panel_, &event);
     };
-    drag(QEvent::MouseButtonPress, before + QPoint(5, 5), Qt::LeftButton);
-    drag(QEvent::MouseMove, before + QPoint(-195, 105), Qt::NoButton);
-    drag(QEvent::MouseButtonRelease, before + QPoint(-195, 105), Qt::LeftButton);
-    EXPECT_EQ(panel_.pos(), before + QPoint(-200, 100));
+    const QSignalSpy placings(&panel_, &LinuxStatusPanel::placed);
+    drag(QEvent::MouseButtonPress, before + QPoint(20, 20), Qt::LeftButton);
+    drag(QEvent::MouseMove, before + QPoint(-180, -80), Qt::NoButton);
+    EXPECT_EQ(placings.count(), 0);
+    drag(QEvent::MouseButtonRelease, before + QPoint(-180, -80), Qt::LeftButton);
+    EXPECT_EQ(placings.count(), 1);
+    EXPECT_EQ(panel_.pos(), before + QPoint(-200, -100));
     EXPECT_EQ(requests_.count(), 0);
 
     const int right = panel_.geometry().right();
     panel_.setContent(u"bell.fill"_qs, u"Tessarine"_qs, {});
     EXPECT_EQ(panel_.geometry().right(), right);
-    EXPECT_EQ(panel_.y(), before.y() + 100);
+    EXPECT_EQ(panel_.y(), before.y() - 100);
 }
 
 // Status item
@@ -318,8 +390,10 @@ protected:
     StatusItemTest() {
         item_.setImage(u"bell.fill"_qs, u"Tessarine"_qs);
         item_.setTitle(u" 5"_qs);
+        item_.setTip(u"5 new notifications"_qs);
         item_.setMenuBuilder([this](QMenu& menu) {
-            menu.addAction(u"Built %1 times"_qs.arg(++built_), [this] { ++triggered_; });
+            menu.addAction(u"Built %1 times"_qs.arg(++built_), QKeySequence(u"Ctrl+O"_qs), &item_,
+                           [this] { ++triggered_; });
         });
     }
 
@@ -341,8 +415,8 @@ TEST_F(StatusItemTest, WithoutATrayThePanelComesAfterTheGraceTime) {
     item_.show();
     EXPECT_EQ(panel(), nullptr);
     ASSERT_TRUE(turnsUntil([] { return panel() != nullptr; }));
-    EXPECT_EQ(panel()->accessibleName(), u"Tessarine 5"_qs);
-    item_.setTitle({});
+    EXPECT_EQ(panel()->accessibleName(), u"Tessarine, 5 new notifications"_qs);
+    item_.setTip({});
     EXPECT_EQ(panel()->accessibleName(), u"Tessarine"_qs);
 
     for (int click = 1; click <= 2; ++click) {
@@ -355,6 +429,40 @@ TEST_F(StatusItemTest, WithoutATrayThePanelComesAfterTheGraceTime) {
         QTest::keyClick(menu, Qt::Key_Return);
         EXPECT_EQ(triggered_, click);
     }
+}
+
+TEST_F(StatusItemTest, ThePanelComesBackToWhereTheUserPutIt) {
+    testing::SimulatedDefaults defaults;
+    defaults.setIntegerList(u"statusPanelOffset"_qs, {300, 200});
+    item_.keepPlaceIn(defaults);
+    item_.show();
+    ASSERT_TRUE(turnsUntil([] { return panel() != nullptr; }));
+    EXPECT_EQ(freeBeside(*panel()), QPoint(300, 200));
+    panel()->setOffset(QPoint(30, 40));
+    Q_EMIT panel()->placed();
+    EXPECT_EQ(defaults.integerList(u"statusPanelOffset"_qs), (std::vector<qint64>{30, 40}));
+}
+
+TEST_F(StatusItemTest, APlaceThatIsNoneIsTheCorner) {
+    testing::SimulatedDefaults defaults;
+    defaults.setIntegerList(u"statusPanelOffset"_qs, {300});
+    item_.keepPlaceIn(defaults);
+    item_.show();
+    ASSERT_TRUE(turnsUntil([] { return panel() != nullptr; }));
+    EXPECT_EQ(freeBeside(*panel()), QPoint(12, 12));
+}
+
+TEST_F(StatusItemTest, AShortcutThatTheMenuShowsWorksWhileItIsOpen) {
+    item_.show();
+    ASSERT_TRUE(turnsUntil([] { return panel() != nullptr; }));
+    QTest::mouseClick(panel(), Qt::LeftButton);
+    const QPointer<QWidget> menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    QTest::keyClick(menu, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(triggered_, 0);
+    QTest::keyClick(menu, Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(triggered_, 1);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST(StatusPicture, ATagAppearsOnlyWithATitle) {
