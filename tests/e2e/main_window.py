@@ -35,6 +35,27 @@ class MainWindow:
         """What shows: pairs of role and name."""
         return {tuple(line.split("\t", 1)) for line in self.reads("list").splitlines()}
 
+    def focus(self):
+        """Role and name of what has the keyboard, or nothing."""
+        return tuple(self.reads("focus").rstrip("\n").split("\t", 1))
+
+    def tab_to(self, role, name, most=30):
+        """By Tab alone, as often as it takes."""
+        for _ in range(most):
+            before = self.focus()
+            if before == (role, name):
+                return
+            self.press("Tab")
+            wait_until(lambda: self.focus() not in ((), ("",), before),
+                       f"the keyboard beyond {before}")
+        raise AssertionError(f"Tab doesn't lead to {role} {name}")
+
+    def shows(self, role, name):
+        wait_until(lambda: (role, name) in self.elements(), f"{role} {name}")
+
+    def hides(self, role, name):
+        wait_until(lambda: (role, name) not in self.elements(), f"no {role} {name}")
+
     def rows(self):
         return [name for role, name in self.elements() if role == "list item"]
 

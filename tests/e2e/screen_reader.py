@@ -2,6 +2,7 @@
 
     screen_reader.py list              every element that shows, a line each: role, TAB, name
     screen_reader.py place ROLE NAME   the middle of the element on the screen: x y
+    screen_reader.py focus             role, TAB, name of the element that has the keyboard
     screen_reader.py pulse SECONDS     how long answers took: median, longest and second longest
                                        in milliseconds
 """
@@ -56,6 +57,12 @@ def main():
     if sys.argv[1] == "list":
         for element in showing():
             print(f"{element.getRoleName()}\t{element.name}".replace("\n", " "))
+        return
+    if sys.argv[1] == "focus":
+        focused = [element for element in showing()
+                   if element.getState().contains(pyatspi.STATE_FOCUSED)]
+        if focused:  # what holds it has it too, and comes before it
+            print(f"{focused[-1].getRoleName()}\t{focused[-1].name}")
         return
     role, name = sys.argv[2:]
     for element in showing():

@@ -10,8 +10,8 @@ CONTROLS = {
     ("text", "Search"),
     ("push button", "Export notifications"),
     ("push button", "Select and delete notifications"),
-    ("push button", "App"),
-    ("push button", "Sort"),
+    ("combo box", "App"),
+    ("combo box", "Sort"),
     ("list", "Notifications"),
 }
 
