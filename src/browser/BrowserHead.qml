@@ -46,7 +46,7 @@ Item {
 
     // Not while anything lies over the window.
     Shortcut {
-        sequences: [StandardKey.Find]
+        sequences: [StandardKey.Find] // qmllint disable unqualified
         onActivated: search.beginTyping()
     }
 

@@ -226,6 +226,8 @@ using Look = std::tuple<Scene, bool, int>; // scene, dark, width
 
 class PicturesTest : public UiTest, public ::testing::WithParamInterface<Look> {
 protected:
+    PicturesTest() { system.accessibility.trusted = true; }
+
     const QUuid& idAt(std::size_t line) const { return listener->notifications()[line].id; }
 
     // What a user does to bring the window into the state of the scene.
