@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
         instance->activateFirst();
         return EXIT_SUCCESS;
     }
-    const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
+    [[maybe_unused]] const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     setUpApplication();
     Program program;
     instance->onActivation([&program] { program.delegate().activate(); });

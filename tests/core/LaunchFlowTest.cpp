@@ -81,12 +81,14 @@ void note(QtMsgType, const QMessageLogContext&, const QString& text) {
 }
 
 class LaunchComplaintsTest : public LaunchFlowTest {
+public:
+    ~LaunchComplaintsTest() override { qInstallMessageHandler(before_); }
+
 protected:
     LaunchComplaintsTest() {
         toldLines.clear();
         before_ = qInstallMessageHandler(note);
     }
-    ~LaunchComplaintsTest() override { qInstallMessageHandler(before_); }
 
     const QString blindness_ = u"Notifications can't be seen: the system gives no access to them, "
                                "as where there is no session bus"_qs;

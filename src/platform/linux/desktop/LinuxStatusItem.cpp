@@ -188,7 +188,8 @@ void LinuxStatusItem::refillTrayMenu() {
 
 // Qt knows the shortcuts of a menu only where a window of the program has it as a part.
 bool LinuxStatusItem::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != openMenu_ || event->type() != QEvent::KeyPress)
+    // The type first: a menu that is being taken apart sends events too, and is no menu any more.
+    if (event->type() != QEvent::KeyPress || watched != openMenu_)
         return false;
     QAction* const chosen = actionFor(*openMenu_, *static_cast<QKeyEvent*>(event));
     if (!chosen)
