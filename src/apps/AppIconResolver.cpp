@@ -36,6 +36,55 @@ void AppIconResolver::resolve(const QString& bundleId, const QString& appName,
         });
 }
 
+void AppIconResolver::prepare(const std::vector<IconOwner>& owners) {
+    std::vector<IconOwner> wanted;
+    for (const IconOwner& owner : unknown(owners)) {
+        const QString key = cacheKey(owner.bundleId, owner.appName);
+        if (inflight_.contains(key) || preparing_.contains(key))
+            continue;
+        preparing_.insert(key);
+        wanted.push_back(owner);
+    }
+    if (wanted.empty())
+        return;
+    const auto finish =
+        alive_.guard([this](const QString& key, const QImage& icon) { keepPrepared(key, icon); });
+    scheduler_.onGlobalQueue(
+        QualityOfService::utility,
+        [&scheduler = scheduler_, sources = sources_, wanted = std::move(wanted), finish] {
+            for (const auto& [bundleId, appName] : wanted) {
+                const QImage icon = lookUpIcon(sources, bundleId, appName);
+                const QString key = cacheKey(bundleId, appName);
+                scheduler.onMain([key, icon, finish] { finish(key, icon); });
+            }
+        });
+}
+
+void AppIconResolver::resolveNow(const std::vector<IconOwner>& owners) {
+    for (const auto& [bundleId, appName] : unknown(owners))
+        cache_.insert(cacheKey(bundleId, appName), lookUpIcon(sources_, bundleId, appName));
+}
+
+// Each key once.
+std::vector<IconOwner> AppIconResolver::unknown(const std::vector<IconOwner>& owners) const {
+    std::vector<IconOwner> result;
+    QSet<QString> keys;
+    for (const IconOwner& owner : owners) {
+        const QString key = cacheKey(owner.bundleId, owner.appName);
+        if (cache_.contains(key) || keys.contains(key))
+            continue;
+        keys.insert(key);
+        result.push_back(owner);
+    }
+    return result;
+}
+
+void AppIconResolver::keepPrepared(const QString& key, const QImage& icon) {
+    preparing_.remove(key);
+    if (!cache_.contains(key))
+        cache_.insert(key, icon);
+}
+
 void AppIconResolver::keep(const QString& key, const QImage& icon) {
     cache_.insert(key, icon);
     inflight_.remove(key);

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace tessarine {
 
@@ -33,6 +34,13 @@ public:
     // second to ask gets no answer.
     void resolve(const QString& bundleId, const QString& appName, Completion completion);
 
+    // Looks up what is neither known nor being looked up, one application after the other on a
+    // worker, so that views find it known. They may ask for the same meanwhile and get an answer.
+    void prepare(const std::vector<IconOwner>& owners);
+
+    // Looks up what is not known on the caller's thread: for the few that are about to be seen.
+    void resolveNow(const std::vector<IconOwner>& owners);
+
     // The finished icons by their keys; null ones among them.
     const QHash<QString, QImage>& cache() const { return cache_; }
 
@@ -43,12 +51,15 @@ public:
 private:
     AppIconResolver(Scheduler& scheduler, IconSources sources);
 
+    std::vector<IconOwner> unknown(const std::vector<IconOwner>& owners) const;
     void keep(const QString& key, const QImage& icon);
+    void keepPrepared(const QString& key, const QImage& icon);
 
     Scheduler& scheduler_;
     const IconSources sources_;
     QHash<QString, QImage> cache_; // only ever grows
-    QSet<QString> inflight_;       // keys being looked up
+    QSet<QString> inflight_;       // keys being looked up for a view
+    QSet<QString> preparing_;      // keys being looked up ahead of any view
     AliveGuard alive_;
 };
 

@@ -8,6 +8,7 @@ AppIconView {
     id: view
 
     readonly property int tileRadius: 7
+    readonly property real initialsShare: 0.45 // of the side, at most
 
     Image {
         objectName: "icon"
@@ -32,8 +33,9 @@ AppIconView {
             anchors.centerIn: parent
             text: view.initials
             color: "white"
-            font.pixelSize: Metrics.textBody
+            font.pixelSize: Math.max(1, Math.min(Metrics.textBody, Math.floor(view.initialsShare * view.height)))
             font.weight: Font.DemiBold
+            scale: Math.min(1, (view.width - 2 * Metrics.hairline) / Math.max(1, implicitWidth))
         }
     }
 }

@@ -23,6 +23,10 @@ void installAppIcons(QQmlEngine& engine, const std::shared_ptr<AppIconResolver>&
     engine.setProperty(resolverProperty, QVariant::fromValue(resolver));
 }
 
+std::shared_ptr<AppIconResolver> appIconsOf(const QQmlEngine& engine) {
+    return engine.property(resolverProperty).value<SharedResolver>();
+}
+
 AppIconView::AppIconView(QQuickItem* parent)
     : QQuickItem(parent) {
     connect(this, &AppIconView::iconChanged, this, &AppIconView::iconSourceChanged);
@@ -92,7 +96,7 @@ void AppIconView::updatePolish() {
 
 AppIconResolver* AppIconView::resolver() const {
     const QQmlEngine* const engine = qmlEngine(this);
-    return engine ? engine->property(resolverProperty).value<SharedResolver>().get() : nullptr;
+    return engine ? appIconsOf(*engine).get() : nullptr;
 }
 
 QString AppIconView::cacheKey() const {

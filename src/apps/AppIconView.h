@@ -69,6 +69,9 @@ private:
     AliveGuard alive_;
 };
 
+// The resolver that the views of the engine ask; null for none.
+std::shared_ptr<AppIconResolver> appIconsOf(const QQmlEngine& engine);
+
 // Lets the views of the engine ask this resolver. Once for an engine; without it, views keep their
 // placeholders.
 void installAppIcons(QQmlEngine& engine, const std::shared_ptr<AppIconResolver>& resolver);

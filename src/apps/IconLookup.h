@@ -20,6 +20,12 @@ struct IconSources {
     const Symbols& symbols;
 };
 
+// What a notification says of the application that it came from.
+struct IconOwner {
+    QString bundleId;
+    QString appName;
+};
+
 // The key that an application's icon is kept under: its bundle id where that is a real one, else
 // its name.
 QString iconCacheKey(const QString& bundleId, const QString& appName);

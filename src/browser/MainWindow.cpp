@@ -1,5 +1,6 @@
 #include "browser/MainWindow.h"
 
+#include "apps/AppIconView.h"
 #include "browser/KeyMonitor.h"
 
 #include <QQuickItem>
@@ -42,16 +43,24 @@ QSize firstSize(const QQuickItem& root) {
 } // namespace
 
 MainWindow::MainWindow(ContentView::Services services, UserDefaults& defaults, QQmlEngine& engine)
-    : content_(std::move(services))
+    : content_(services)
+    , icons_(std::move(services.listener), *content_.list(), appIconsOf(engine))
     , window_(description(content_), engine)
     , keyMonitor_(std::make_unique<KeyMonitor>(*content_.actions(), *content_.selection(),
                                                window_.window(), window_.root())) {
-    QObject::connect(&window_, &ViewWindow::shown, &content_, &ContentView::appear);
+    QObject::connect(&window_, &ViewWindow::shown, &content_, [this] { appear(); });
     QObject::connect(&window_, &ViewWindow::hidden, &content_, &ContentView::disappear);
+    QObject::connect(&window_, &ViewWindow::hidden, &content_, [this] { icons_.disappear(); });
     window_.restoreSize(frameName, defaults, firstSize(window_.root()));
 }
 
 MainWindow::~MainWindow() = default;
+
+// Before the first frame.
+void MainWindow::appear() {
+    content_.appear();
+    icons_.appear(window()->height());
+}
 
 QQuickWindow* MainWindow::window() const {
     return &window_.window();

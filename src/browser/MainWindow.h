@@ -1,5 +1,6 @@
 #pragma once
 
+#include "browser/BrowserIcons.h"
 #include "browser/ContentView.h"
 #include "windows/ViewWindow.h"
 
@@ -30,7 +31,10 @@ public:
     ContentView& content() { return content_; }
 
 private:
+    void appear();
+
     ContentView content_;
+    BrowserIcons icons_;
     ViewWindow window_;
     std::unique_ptr<KeyMonitor> keyMonitor_;
 };

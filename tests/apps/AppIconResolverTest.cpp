@@ -120,6 +120,47 @@ TEST_F(AppIconResolverTest, AnswersNobodyWhenItIsGone) {
     EXPECT_EQ(icons.askedPaths.size(), 1U); // the lookup itself went on
 }
 
+TEST_F(AppIconResolverTest, PreparesEachApplicationOnceOnAWorker) {
+    resolver->prepare({{u"com.example.foo"_qs, u"Foo"_qs},
+                       {u"com.example.foo"_qs, u"Foo Helper"_qs},
+                       {{}, u"Bar"_qs}});
+    resolver->prepare({{u"com.example.foo"_qs, u"Foo"_qs}});
+    EXPECT_TRUE(icons.askedPaths.empty());
+    EXPECT_EQ(system.scheduler.waitingGlobalTasks(), 1U);
+    system.scheduler.settle();
+    EXPECT_EQ(icons.askedPaths.size(), 1U);
+    EXPECT_EQ(resolver->cache().value(u"bundle:com.example.foo"_qs).pixelColor(54, 54),
+              QColor(Qt::red));
+    EXPECT_EQ(resolver->cache().value(u"name:Bar"_qs).pixelColor(54, 54), QColor(Qt::gray));
+    EXPECT_EQ(resolver->cache().size(), 2);
+}
+
+TEST_F(AppIconResolverTest, AnswersAViewThatAsksForWhatIsBeingPrepared) {
+    resolver->prepare({{u"com.example.foo"_qs, u"Foo"_qs}});
+    resolve(u"com.example.foo"_qs, u"Foo"_qs);
+    system.scheduler.settle();
+    ASSERT_EQ(answers.size(), 1U);
+    EXPECT_EQ(answers[0].pixelColor(54, 54), QColor(Qt::red));
+}
+
+TEST_F(AppIconResolverTest, PreparesNothingThatAViewHasAskedFor) {
+    resolve(u"com.example.foo"_qs, u"Foo"_qs);
+    resolver->prepare({{u"com.example.foo"_qs, u"Foo"_qs}});
+    system.scheduler.settle();
+    resolver->prepare({{u"com.example.foo"_qs, u"Foo"_qs}});
+    system.scheduler.settle();
+    EXPECT_EQ(icons.askedPaths.size(), 1U);
+}
+
+TEST_F(AppIconResolverTest, ResolvesAtOnceWhatItDoesNotKnow) {
+    resolver->resolveNow({{u"com.example.foo"_qs, u"Foo"_qs}, {u"com.example.foo"_qs, u"Foo"_qs}});
+    resolver->resolveNow({{u"com.example.foo"_qs, u"Foo"_qs}});
+    EXPECT_EQ(icons.askedPaths.size(), 1U);
+    EXPECT_EQ(system.scheduler.waitingGlobalTasks(), 0U);
+    EXPECT_EQ(resolver->cache().value(u"bundle:com.example.foo"_qs).pixelColor(54, 54),
+              QColor(Qt::red));
+}
+
 TEST_F(AppIconResolverTest, LooksUpWithoutKeepingWhenAskedSo) {
     EXPECT_EQ(resolver->resolveIcon(u"com.example.foo"_qs, u"Foo"_qs).pixelColor(54, 54),
               QColor(Qt::red));

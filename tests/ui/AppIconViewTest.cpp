@@ -124,6 +124,22 @@ TEST_F(AppIconViewTest, HasATileOfRadius7WithTextOf12Points) {
     EXPECT_EQ(picture.pixelColor(0, 9), view->placeholderColour());
 }
 
+TEST_F(AppIconViewTest, FitsItsInitialsIntoATileOfAnySize) {
+    icons.generic = QImage();
+    AppIconView* view = add({}, u"🎉 🎂"_qs);
+    const QQuickItem* initials = view->findChild<QQuickItem*>(u"initials"_qs);
+    const auto pixels = [&](double side) {
+        view->setSize({side, side});
+        const QRectF place = initials->mapRectToItem(view, initials->boundingRect());
+        EXPECT_LE(place.width(), side) << side;
+        return initials->property("font").value<QFont>().pixelSize();
+    };
+    EXPECT_EQ(pixels(18), 8); // of a header: 0.45 of it are 8.1
+    EXPECT_EQ(pixels(24), 10);
+    EXPECT_EQ(pixels(36), 12);
+    EXPECT_EQ(pixels(44), 12);
+}
+
 TEST_F(AppIconViewTest, CutsTheTileToARounderPlace) {
     AppIconView* view = add(u"com.example.foo"_qs, u"Foo"_qs);
     const QQuickItem* tile = view->findChild<QQuickItem*>(u"placeholder"_qs);
@@ -193,6 +209,76 @@ TEST_F(AppIconViewTest, ShowsAnUnresolvedSourceUnderItsName) {
 TEST_F(AppIconViewTest, TakesNamesThatNoAddressCouldHold) {
     add({}, u"50% / Größe? #1 😀"_qs);
     EXPECT_EQ(frame().pixelColor(18, 18), QColor(Qt::gray));
+}
+
+// Notifications of as many applications, each with a red icon.
+class FirstSightTest : public UiTest {
+protected:
+    NotificationList apps(int count) {
+        NotificationList list = numbered(count);
+        for (CapturedNotification& row : list) {
+            row.appName = u"App %1"_qs.arg(row.dbId);
+            row.appBundleId = u"com.example.app%1"_qs.arg(row.dbId);
+            system.workspace.installed[row.appBundleId] = u"/%1.app"_qs.arg(row.dbId);
+            icons.files[u"/%1.app"_qs.arg(row.dbId)] = square(64, Qt::red);
+        }
+        return list;
+    }
+
+    static QStringList withInitials(const QQuickItem& item) {
+        QStringList found;
+        if (item.objectName() == u"placeholder" && item.isVisible())
+            found << item.parentItem()->property("appName").toString();
+        for (const QQuickItem* child : item.childItems())
+            found << withInitials(*child);
+        return found;
+    }
+};
+
+TEST_F(FirstSightTest, LooksUpEveryApplicationOfThePublishedListBeforeTheWindowShows) {
+    makeWindow();
+    publish(apps(40));
+    EXPECT_TRUE(icons.askedPaths.empty()); // not on the main thread
+    system.scheduler.settle();
+    EXPECT_EQ(views.icons->cache().size(), 40);
+    show();
+    draw();
+    EXPECT_EQ(withInitials(list()), QStringList());
+    EXPECT_EQ(icons.askedPaths.size(), 40U);
+}
+
+TEST_F(FirstSightTest, WaitsAtOpeningForTheIconsInSightAlone) {
+    makeWindow();
+    publish(apps(400));
+    window->window()->resize(720, 520);
+    show();
+    EXPECT_LE(icons.askedPaths.size(), 10U); // 520 points have room for ten rows of 52
+    draw();
+    for (int i = 400; i > 390; --i) {
+        const QQuickItem* const inSight = row(u"Title %1"_qs.arg(i));
+        EXPECT_TRUE(!inSight || withInitials(*inSight).isEmpty()) << i;
+    }
+    EXPECT_NE(row(u"Title 400"_qs), nullptr);
+}
+
+TEST_F(FirstSightTest, ShowsTheIconOfAnApplicationThatIsNewToTheOpenWindow) {
+    makeWindow();
+    publish(apps(2));
+    show();
+    publish(apps(3));
+    draw();
+    system.scheduler.settle();
+    draw();
+    EXPECT_EQ(withInitials(list()), QStringList());
+}
+
+TEST_F(FirstSightTest, HasTheIconsOfHeadersToo) {
+    makeWindow();
+    view().list()->setGroupMode(GroupMode::app);
+    publish(apps(6));
+    show();
+    draw();
+    EXPECT_EQ(withInitials(list()), QStringList());
 }
 
 TEST_F(AppIconViewTest, ShowsIconsInTheList) {

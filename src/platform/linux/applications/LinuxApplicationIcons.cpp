@@ -1,9 +1,11 @@
 #include "platform/linux/applications/LinuxApplicationIcons.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 #include <QImageReader>
 #include <QPainter>
+#include <QSet>
 #include <QStandardPaths>
 #include <QSvgRenderer>
 
@@ -73,6 +75,22 @@ QImage load(const QString& path) {
     return isDrawing ? draw(path) : read(path);
 }
 
+// The names under which themes keep the icon of any program. Many entries that have nothing better
+// name one of them, and themes link the names of applications to them.
+bool isGeneric(const QString& icon) {
+    static const QSet<QString> names{QStringLiteral("application-x-executable"),
+                                     QStringLiteral("application-default-icon"),
+                                     QStringLiteral("application-x-desktop"),
+                                     QStringLiteral("application-x-shellscript"),
+                                     QStringLiteral("applications-other"),
+                                     QStringLiteral("gnome-fs-executable"),
+                                     QStringLiteral("exec"),
+                                     QStringLiteral("executable"),
+                                     QStringLiteral("system-run"),
+                                     QStringLiteral("unknown")};
+    return names.contains(icon);
+}
+
 // Some entries give the name an ending, which the specification doesn't want there.
 QString withoutEnding(const QString& icon) {
     for (const char* ending : {".png", ".svg", ".xpm"}) {
@@ -113,8 +131,12 @@ QImage LinuxApplicationIcons::genericApplicationIcon() const {
 QImage LinuxApplicationIcons::iconOf(const DesktopEntry& entry) const {
     if (QDir::isAbsolutePath(entry.icon))
         return load(entry.icon);
-    const QString path = theme_.find(entry.icon, shownSize);
-    return load(path.isEmpty() ? theme_.find(withoutEnding(entry.icon), shownSize) : path);
+    QString path = theme_.find(entry.icon, shownSize);
+    if (path.isEmpty())
+        path = theme_.find(withoutEnding(entry.icon), shownSize);
+    const QFileInfo file(QFileInfo(path).canonicalFilePath());
+    return isGeneric(withoutEnding(entry.icon)) || isGeneric(file.completeBaseName()) ? QImage()
+                                                                                      : load(path);
 }
 
 } // namespace tessarine

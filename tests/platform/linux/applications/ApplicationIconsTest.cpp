@@ -140,6 +140,17 @@ TEST_F(ApplicationIconsTest, HasNoneWhereThereIsNoPicture) {
     EXPECT_TRUE(icons().iconForFile(u"/no/such.desktop"_qs).isNull());
 }
 
+TEST_F(ApplicationIconsTest, TakesTheIconOfAnyProgramForNone) {
+    const QString any =
+        paint(u"icons/Own/48x48/apps/application-x-executable.png"_qs, square(48, Qt::red));
+    EXPECT_TRUE(iconOf(u"application-x-executable"_qs).isNull());
+    EXPECT_TRUE(iconOf(u"application-x-executable.png"_qs).isNull());
+    ASSERT_TRUE(QFile::link(any, root.filePath(u"icons/Own/48x48/apps/linked.png"_qs)));
+    EXPECT_TRUE(iconOf(u"linked"_qs).isNull());
+    paint(u"icons/Own/48x48/apps/own.png"_qs, square(48, Qt::red));
+    EXPECT_FALSE(iconOf(u"own"_qs).isNull());
+}
+
 TEST_F(ApplicationIconsTest, HasNoGenericOneThoughAThemeHas) {
     paint(u"icons/Own/48x48/apps/application-x-executable.png"_qs, square(48, Qt::red));
     EXPECT_TRUE(icons().genericApplicationIcon().isNull());
