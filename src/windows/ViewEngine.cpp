@@ -1,6 +1,7 @@
 #include "windows/ViewEngine.h"
 
 #include "theme/Fonts.h"
+#include "theme/ProgramIcon.h"
 #include "theme/SymbolProvider.h"
 #include "theme/Theme.h"
 
@@ -34,6 +35,7 @@ void registerUi() {
     [[maybe_unused]] const volatile auto theme = &qml_register_types_Tessarine_Theme;
     installTexts();
     QGuiApplication::setFont(textFont());
+    QGuiApplication::setWindowIcon(programIcon());
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     // Small text is sharper when the system's rasteriser draws it.
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);

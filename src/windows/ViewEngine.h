@@ -9,8 +9,8 @@ namespace tessarine {
 class Symbols;
 class Theme;
 
-// Prepares the process for windows: texts, fonts, style of controls. Once, after the application
-// object and before the first engine.
+// Prepares the process for windows: texts, fonts, icon, style of controls. Once, after the
+// application object and before the first engine.
 void registerUi();
 
 // An engine that finds the program's QML modules, its symbols and the theme, both of which outlive

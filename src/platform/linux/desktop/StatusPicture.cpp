@@ -1,9 +1,11 @@
 #include "platform/linux/desktop/StatusPicture.h"
 
+#include "platform/FontFamilies.h"
 #include "platform/Symbols.h"
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -11,32 +13,58 @@ namespace tessarine {
 
 namespace {
 
-void drawSymbol(QPainter& painter, const Symbols& symbols, const QString& name, int size,
-                bool dark) {
-    const int inset = std::max(1, size / 12);
-    const QColor tone = dark ? QColor(0xf2, 0xf2, 0xf4) : QColor(0x2c, 0x2c, 0x2f);
-    QColor edge = dark ? QColor(0, 0, 0) : QColor(0xff, 0xff, 0xff);
-    edge.setAlphaF(0.3F);
-    const QImage contour = symbols.image(name, size - 2 * inset, edge);
-    for (const int dx : {-1, 0, 1})
-        for (const int dy : {-1, 0, 1})
-            painter.drawImage(inset + dx, inset + dy, contour);
-    painter.drawImage(inset, inset, symbols.image(name, size - 2 * inset, tone));
+// How far the contour reaches beyond the symbol, in pixels.
+int contourWidth(int size) {
+    return std::max(1, qRound(size / 22.0));
 }
 
-// In the lower right corner, as wide as its text needs.
-void drawTag(QPainter& painter, const QString& text, int size) {
+QColor tone(bool dark) {
+    return dark ? QColor(0xf2, 0xf2, 0xf4) : QColor(0x1f, 0x1f, 0x22);
+}
+
+// The symbol's shape, grown by the contour's width on all sides.
+void drawContour(QPainter& painter, const QImage& shape, int inset, int width) {
+    for (int dx = -width; dx <= width; ++dx) {
+        for (int dy = -width; dy <= width; ++dy) {
+            if (dx * dx + dy * dy <= width * width + 1)
+                painter.drawImage(inset + dx, inset + dy, shape);
+        }
+    }
+}
+
+// Neither colour alone could be read on every panel; one of the two always can.
+void drawSymbol(QPainter& painter, const Symbols& symbols, const QString& name, int size,
+                bool dark) {
+    const int width = contourWidth(size);
+    const int pixels = size - 2 * width;
+    drawContour(painter, symbols.image(name, pixels, tone(!dark)), width, width);
+    painter.drawImage(width, width, symbols.image(name, pixels, tone(dark)));
+}
+
+QFont tagFont(int size) {
     QFont font = QGuiApplication::font();
+    font.setFamilies(QStringList(systemFontFamilies().tabular) + font.families());
     font.setPixelSize(std::max(7, size * 4 / 10));
     font.setWeight(QFont::Bold);
-    painter.setFont(font);
+    return font;
+}
+
+// In the lower right corner, as wide as its text needs, and a gap away from the symbol.
+void drawTag(QPainter& painter, const QString& text, int size) {
+    painter.setFont(tagFont(size));
     const int height = std::max(9, size * 11 / 20);
     const int textWidth = painter.fontMetrics().horizontalAdvance(text) + height * 4 / 10;
     const int width = std::clamp(textWidth, height, size);
     const QRect tag(size - width, size - height, width, height);
+    const int gap = contourWidth(size);
+    const double radius = height / 2.0;
     painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    painter.drawRoundedRect(tag.adjusted(-gap, -gap, gap, gap), radius + gap, radius + gap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setBrush(QColor(0xd8, 0x2c, 0x2c));
-    painter.drawRoundedRect(tag, height / 2.0, height / 2.0);
+    painter.drawRoundedRect(tag, radius, radius);
     painter.setPen(Qt::white);
     painter.drawText(tag, Qt::AlignCenter | Qt::TextDontClip, text);
 }

@@ -3,7 +3,6 @@
 #include "platform/linux/desktop/LinuxSymbols.h"
 #include "platform/linux/desktop/LinuxSystemAppearance.h"
 #include "platform/linux/desktop/QtBus.h"
-#include "platform/linux/desktop/StatusPicture.h"
 #include "support/EventLoop.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
@@ -463,18 +462,6 @@ TEST_F(StatusItemTest, AShortcutThatTheMenuShowsWorksWhileItIsOpen) {
     QTest::keyClick(menu, Qt::Key_O, Qt::ControlModifier);
     EXPECT_EQ(triggered_, 1);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-}
-
-TEST(StatusPicture, ATagAppearsOnlyWithATitle) {
-    const LinuxSymbols symbols;
-    const auto corner = [&](const QString& title) {
-        const QImage image =
-            statusIcon(symbols, u"bell.fill"_qs, title, true).pixmap(QSize(24, 24), 1.0).toImage();
-        EXPECT_EQ(image.size(), QSize(24, 24));
-        return image.pixelColor(22, 19);
-    };
-    EXPECT_EQ(corner({}).alpha(), 0);
-    EXPECT_EQ(corner(u" 5"_qs), QColor(0xd8, 0x2c, 0x2c));
 }
 
 } // namespace
