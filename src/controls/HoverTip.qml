@@ -36,6 +36,7 @@ T.ToolTip {
 
     background: PanelFace {
         radius: Metrics.controlRadius
+        shadowReach: Metrics.tipShadowReach
     }
 
     TipRules {

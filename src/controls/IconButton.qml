@@ -9,10 +9,11 @@ T.AbstractButton {
     required property string symbol
     required property string accessibleName
     property int size: Metrics.symbolSize
-    property color tint: Theme.colours.secondaryLabel
+    property color tint: Theme.colours.placeholderLabel
     property string toolTipText
     property real turn: 0 // of the symbol, in degrees
     property bool ringInside: false // where there is no room around the button
+    property bool directional // the symbol points where lines go on
 
     // As a click would, for a key or a screen reader.
     function press() {
@@ -44,6 +45,7 @@ T.AbstractButton {
             size: button.size
             tint: button.tint
             rotation: button.turn
+            mirror: button.directional && button.mirrored
         }
     }
 

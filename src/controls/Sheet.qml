@@ -49,6 +49,7 @@ T.Dialog {
 
     background: PanelFace {
         radius: Metrics.sheetRadius
+        shadowReach: Metrics.sheetShadowReach
     }
 
     contentItem: FocusScope {

@@ -3,9 +3,16 @@
 #include "platform/DefaultsKeys.h"
 
 #include <QCoreApplication>
+#include <QQmlEngine>
 #include <QQuickWindow>
 
 namespace tessarine {
+
+namespace {
+
+constexpr double memoryDelay = 2.0; // seconds from the closing of the window
+
+} // namespace
 
 AppDelegate::AppDelegate(ViewServices& views)
     : views_(views)
@@ -26,7 +33,26 @@ void AppDelegate::applicationDidFinishLaunching() {
         *views_.desktop.statusItem, services.listener, defaults, *launchAgent_,
         [this] { showMainWindow(); }, [] { QCoreApplication::quit(); });
     mainWindow_ = std::make_unique<MainWindow>(views_.browser(), defaults, *views_.engine);
+    watchMainWindow();
     launchFlow_.begin();
+}
+
+// Once the renderer has let go of what it had for the window, on its thread and on this one.
+void AppDelegate::watchMainWindow() {
+    QWindow* const window = mainWindow_->window();
+    QObject::connect(window, &QWindow::visibleChanged, window, [this](bool visible) {
+        if (visible)
+            return;
+        views_.services.platform.scheduler->onMainAfter(memoryDelay,
+                                                        alive_.guard([this] { giveMemoryBack(); }));
+    });
+}
+
+void AppDelegate::giveMemoryBack() {
+    if (mainWindow_->isVisible())
+        return;
+    views_.engine->collectGarbage();
+    views_.desktop.application->returnFreeMemory();
 }
 
 void AppDelegate::showMainWindow() {

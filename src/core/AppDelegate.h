@@ -3,6 +3,7 @@
 #include "browser/MainWindow.h"
 #include "core/LaunchFlow.h"
 #include "core/ViewServices.h"
+#include "shared/AliveGuard.h"
 #include "shell/LaunchAgentManager.h"
 #include "shell/MenuBarController.h"
 
@@ -40,11 +41,15 @@ public:
     MainWindow* mainWindow() const { return mainWindow_.get(); }
 
 private:
+    void watchMainWindow();
+    void giveMemoryBack();
+
     ViewServices& views_;
     LaunchFlow launchFlow_;
     std::unique_ptr<LaunchAgentManager> launchAgent_;
     std::unique_ptr<MenuBarController> menuBarController_;
     std::unique_ptr<MainWindow> mainWindow_;
+    AliveGuard alive_;
 };
 
 } // namespace tessarine

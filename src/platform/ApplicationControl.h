@@ -18,6 +18,10 @@ public:
     // Brings the program to the front with this window, which is shown already, whatever program
     // is in front now.
     virtual void activate(QWindow& window) = 0;
+
+    // Gives back to the system what the process has freed and its allocator keeps. Takes some
+    // milliseconds.
+    virtual void returnFreeMemory() = 0;
 };
 
 } // namespace tessarine

@@ -51,6 +51,14 @@ QtObject {
     readonly property int windowMargin: 8
     readonly property int sheetMargin: 20
 
+    readonly property int tipShadowReach: 12
+    readonly property int shadowReach: 24
+    readonly property int sheetShadowReach: 48
+
+    // A list keeps its lines short enough to read and its times near their texts, however wide the
+    // window is. Its cards begin where the fields and captions above them do.
+    readonly property int listColumn: 720
+
     readonly property int iconSize: 36
     readonly property int noticeSymbolSize: 32
 

@@ -35,6 +35,7 @@ struct Palette {
     Q_PROPERTY(QColor selection MEMBER selection CONSTANT)
     Q_PROPERTY(QColor dim MEMBER dim CONSTANT)
     Q_PROPERTY(QColor scrollThumb MEMBER scrollThumb CONSTANT)
+    Q_PROPERTY(QColor shadow MEMBER shadow CONSTANT)
     Q_PROPERTY(QColor accentFill MEMBER accentFill CONSTANT)
     Q_PROPERTY(QColor redFill MEMBER redFill CONSTANT)
     Q_PROPERTY(QColor onFill MEMBER onFill CONSTANT)
@@ -73,6 +74,7 @@ public:
     QColor selection; // behind selected text
     QColor dim;       // over a window that waits for its sheet
     QColor scrollThumb;
+    QColor shadow; // below menus, popovers, sheets and tips
 
     // Full fills, and what is written on them
     QColor accentFill;
@@ -81,8 +83,17 @@ public:
     QColor switchOff;
     QColor switchThumb;
 
+    bool isHighContrast = false;
+
     static const Palette& light();
     static const Palette& dark();
+    static const Palette& highContrastLight();
+    static const Palette& highContrastDark();
+    static const Palette& of(bool dark, bool highContrast);
+
+    // The same with another accent: in the shades nearest to it that can be read and seen where
+    // the palette uses them.
+    Palette withAccent(const QColor& wanted) const;
 };
 
 } // namespace tessarine

@@ -21,7 +21,15 @@ QFont sized(QFont font, int size) {
 
 Theme::Theme(SystemAppearance& appearance)
     : appearance_(appearance) {
-    connect(&appearance_, &SystemAppearance::changed, this, &Theme::changed);
+    connect(&appearance_, &SystemAppearance::changed, this, &Theme::takeAppearance);
+    takeAppearance();
+}
+
+void Theme::takeAppearance() {
+    const Palette& palette = Palette::of(dark(), appearance_.prefersHighContrast());
+    const std::optional<QColor> accent = appearance_.accentColour();
+    colours_ = accent ? palette.withAccent(*accent) : palette;
+    Q_EMIT changed();
 }
 
 void Theme::installIn(QQmlEngine& engine) {
@@ -36,10 +44,6 @@ Theme* Theme::create(QQmlEngine* engine, QJSEngine*) {
     Theme* theme = of(*engine);
     QJSEngine::setObjectOwnership(theme, QJSEngine::CppOwnership);
     return theme;
-}
-
-const Palette& Theme::colours() const {
-    return dark() ? Palette::dark() : Palette::light();
 }
 
 QFont Theme::textFont(int size, int weight) const {

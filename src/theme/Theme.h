@@ -38,7 +38,7 @@ public:
 
     bool dark() const { return appearance_.prefersDark(); }
     bool reducesMotion() const { return appearance_.reducesMotion(); }
-    const Palette& colours() const;
+    const Palette& colours() const { return colours_; }
 
     // The face of running text at a size in points, for what doesn't take the application's by
     // itself.
@@ -50,6 +50,9 @@ public:
     // Where an Image finds the symbol in this colour. An empty name gives an empty address.
     Q_INVOKABLE QString symbolSource(const QString& name, const QColor& tint) const;
 
+    // Whether a text begins with a letter of a script that is written from right to left.
+    Q_INVOKABLE bool isRightToLeft(const QString& text) const { return text.isRightToLeft(); }
+
     // The face for numbers that stand in columns.
     QString tabularFamily() const;
 
@@ -60,7 +63,10 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void takeAppearance();
+
     SystemAppearance& appearance_;
+    Palette colours_;
 };
 
 } // namespace tessarine

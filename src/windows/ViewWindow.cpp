@@ -45,6 +45,9 @@ ViewWindow::ViewWindow(const Description& description, QQmlEngine& engine)
     window_->setFlags(flagsOf(description.features));
     window_->setTitle(description.title);
     window_->setMinimumSize(minimumSize_);
+    // A hidden window keeps nothing of what drawing took: most of the time this program has none.
+    window_->setPersistentSceneGraph(false);
+    window_->setPersistentGraphics(false);
     window_->setResizeMode(QQuickView::SizeRootObjectToView);
     window_->setInitialProperties(description.properties);
     window_->setSource(QUrl(QStringLiteral("qrc:/qt/qml/%1.qml").arg(description.component)));

@@ -72,6 +72,26 @@ TEST_F(AppDelegateTest, LetsNoSystemBringItsWindowsBack) {
     EXPECT_FALSE(system.defaults.boolean(u"NSQuitAlwaysKeepsWindows"_qs));
 }
 
+TEST_F(AppDelegateTest, GivesMemoryBackSomeTimeAfterTheWindowWasClosed) {
+    launch();
+    delegate->showMainWindow();
+    system.scheduler.advance(10);
+    EXPECT_EQ(desktop.application.memoryReturns, 0);
+    window()->close();
+    EXPECT_EQ(desktop.application.memoryReturns, 0);
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 1);
+}
+
+TEST_F(AppDelegateTest, GivesNoMemoryBackWhenTheWindowWasOpenedAgain) {
+    launch();
+    delegate->showMainWindow();
+    window()->close();
+    delegate->showMainWindow();
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 0);
+}
+
 TEST_F(AppDelegateTest, LooksAsTheSettingsSay) {
     launch();
     EXPECT_EQ(desktop.appearance.appearance, Appearance::dark);

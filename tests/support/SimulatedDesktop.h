@@ -55,9 +55,22 @@ public:
         Q_EMIT changed();
     }
 
+    std::optional<QColor> accentColour() const override { return accent; }
+    bool prefersHighContrast() const override { return highContrast; }
+    void setAccent(std::optional<QColor> colour) {
+        accent = colour;
+        Q_EMIT changed();
+    }
+    void setHighContrast(bool wanted) {
+        highContrast = wanted;
+        Q_EMIT changed();
+    }
+
     Appearance appearance = Appearance::system;
     bool desktopIsDark = false;
     bool motionIsReduced = false;
+    std::optional<QColor> accent;
+    bool highContrast = false;
 };
 
 // A user who answers every question for a path alike.
@@ -86,9 +99,11 @@ class SimulatedApplicationControl : public ApplicationControl {
 public:
     void useAccessoryPolicy() override { isAccessory = true; }
     void activate(QWindow& window) override { activated.push_back(&window); }
+    void returnFreeMemory() override { ++memoryReturns; }
 
     bool isAccessory = false;
     std::vector<QWindow*> activated;
+    int memoryReturns = 0;
 };
 
 // The whole simulated desktop, with its parts at hand for the test.

@@ -56,6 +56,12 @@ TEST_F(ViewWindowTest, IsBuiltHiddenWithItsTitleAndWhatItsRootWasGiven) {
     EXPECT_EQ(window.root().property("text").toString(), u"given"_qs);
 }
 
+TEST_F(ViewWindowTest, KeepsNothingThatDrawingTookWhileItIsHidden) {
+    const ViewWindow window(description(), *engine);
+    EXPECT_FALSE(window.window().isPersistentSceneGraph());
+    EXPECT_FALSE(window.window().isPersistentGraphics());
+}
+
 TEST_F(ViewWindowTest, StandsInTheMiddleOfTheScreen) {
     ViewWindow window(description(), *engine);
     window.centre({300, 200});

@@ -1,6 +1,7 @@
 #include "platform/linux/desktop/LinuxDesktop.h"
 
 #include "platform/Desktop.h"
+#include "platform/linux/HeapMemory.h"
 #include "platform/linux/applications/LinuxApplicationIcons.h"
 #include "platform/linux/desktop/LinuxFileViewer.h"
 #include "platform/linux/desktop/LinuxSavePanel.h"
@@ -15,6 +16,10 @@ namespace tessarine {
 void LinuxApplicationControl::activate(QWindow& window) {
     window.raise();
     window.requestActivate();
+}
+
+void LinuxApplicationControl::returnFreeMemory() {
+    tessarine::returnFreeMemory();
 }
 
 std::unique_ptr<Desktop> makeDesktop() {

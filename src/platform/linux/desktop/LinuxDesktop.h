@@ -11,6 +11,8 @@ public:
 
     // The window manager has the last word: it may only mark the window as wanting attention.
     void activate(QWindow& window) override;
+
+    void returnFreeMemory() override;
 };
 
 } // namespace tessarine

@@ -1,5 +1,6 @@
 #include "platform/linux/desktop/LinuxSystemAppearance.h"
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -8,6 +9,10 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
+
+#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace tessarine {
 
@@ -19,14 +24,34 @@ const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const QString colourSchemeKey = QStringLiteral("color-scheme");
+const QString accentColourKey = QStringLiteral("accent-color");
+const QString contrastKey = QStringLiteral("contrast");
 constexpr uint preferDark = 1;
 constexpr uint preferLight = 2;
+constexpr uint moreContrast = 1;
 
 // Read wraps its answer in a second variant.
 QVariant unwrapped(QVariant value) {
     while (value.userType() == qMetaTypeId<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
     return value;
+}
+
+// Three numbers from 0 to 1, for red, green and blue in sRGB. Others stand for no preference.
+std::optional<QColor> colourFrom(const QVariant& value) {
+    if (value.userType() != qMetaTypeId<QDBusArgument>())
+        return std::nullopt;
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != QStringLiteral("(ddd)"))
+        return std::nullopt;
+    std::array<double, 3> parts{};
+    argument.beginStructure();
+    argument >> parts[0] >> parts[1] >> parts[2];
+    argument.endStructure();
+    const auto isPart = [](double part) { return part >= 0 && part <= 1; };
+    if (!std::all_of(parts.begin(), parts.end(), isPart))
+        return std::nullopt;
+    return QColor::fromRgbF(float(parts[0]), float(parts[1]), float(parts[2]));
 }
 
 } // namespace
@@ -50,28 +75,45 @@ LinuxSystemAppearance::LinuxSystemAppearance(const QDBusConnection& bus)
 }
 
 void LinuxSystemAppearance::askPortal(const QDBusConnection& bus) {
+    for (const QString& key : {colourSchemeKey, accentColourKey, contrastKey})
+        askFor(key, bus);
+}
+
+void LinuxSystemAppearance::askFor(const QString& key, const QDBusConnection& bus) {
     QDBusMessage question = QDBusMessage::createMethodCall(
         portalService, portalPath, settingsInterface, QStringLiteral("Read"));
-    question << appearanceGroup << colourSchemeKey;
+    question << appearanceGroup << key;
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, key] {
         const QDBusPendingReply<QDBusVariant> reply = *answer;
         answer->deleteLater();
         if (reply.isValid())
-            setColourScheme(unwrapped(reply.value().variant()));
+            take(key, unwrapped(reply.value().variant()));
     });
 }
 
 // Arguments: the group, the key, and the value in a variant.
 void LinuxSystemAppearance::onSettingChanged(const QDBusMessage& change) {
     const QVariantList arguments = change.arguments();
-    if (arguments.size() == 3 && arguments[0].toString() == appearanceGroup &&
-        arguments[1].toString() == colourSchemeKey)
-        setColourScheme(unwrapped(arguments[2]));
+    if (arguments.size() == 3 && arguments[0].toString() == appearanceGroup)
+        take(arguments[1].toString(), unwrapped(arguments[2]));
 }
 
-void LinuxSystemAppearance::setColourScheme(const QVariant& value) {
-    const uint scheme = value.toUInt();
+void LinuxSystemAppearance::take(const QString& key, const QVariant& value) {
+    if (key == colourSchemeKey) {
+        setColourScheme(value.toUInt());
+    } else if (key == accentColourKey) {
+        const std::optional<QColor> accent = colourFrom(value);
+        if (std::exchange(accent_, accent) != accent)
+            Q_EMIT changed();
+    } else if (key == contrastKey) {
+        const bool highContrast = value.toUInt() == moreContrast;
+        if (std::exchange(highContrast_, highContrast) != highContrast)
+            Q_EMIT changed();
+    }
+}
+
+void LinuxSystemAppearance::setColourScheme(uint scheme) {
     portalPrefersDark_.reset();
     if (scheme == preferDark || scheme == preferLight)
         portalPrefersDark_ = scheme == preferDark;

@@ -12,9 +12,10 @@ class QDBusMessage;
 
 namespace tessarine {
 
-// The desktop's colour scheme, as the settings portal tells it; where there is no portal, or it
-// has no preference, the lightness of the palette that the platform gave. The portal is asked
-// without waiting: until it answers the palette counts.
+// The desktop's colour scheme, accent colour and contrast, as the settings portal tells them and
+// follows them. Where there is no portal, or it has no preference, the lightness of the palette
+// that the platform gave counts, with no accent and usual contrast. The portal is asked without
+// waiting.
 class LinuxSystemAppearance : public SystemAppearance {
     Q_OBJECT
 
@@ -24,6 +25,8 @@ public:
 
     bool prefersDark() const override { return dark_; }
     bool reducesMotion() const override { return motion_.isReduced(); }
+    std::optional<QColor> accentColour() const override { return accent_; }
+    bool prefersHighContrast() const override { return highContrast_; }
     void setAppearance(Appearance appearance) override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -33,7 +36,9 @@ private Q_SLOTS:
 
 private:
     void askPortal(const QDBusConnection& bus);
-    void setColourScheme(const QVariant& value);
+    void askFor(const QString& key, const QDBusConnection& bus);
+    void take(const QString& key, const QVariant& value);
+    void setColourScheme(uint scheme);
     bool desktopPrefersDark() const;
     void update();
 
@@ -41,6 +46,8 @@ private:
     std::optional<bool> portalPrefersDark_;
     bool dark_ = false;
     LinuxMotionSetting motion_;
+    std::optional<QColor> accent_;
+    bool highContrast_ = false;
 };
 
 } // namespace tessarine

@@ -9,6 +9,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
@@ -113,14 +114,32 @@ public:
         bus_.send(signal);
     }
 
+    // As the portal sends a colour: three numbers for red, green and blue.
+    static QVariant colour(double red, double green, double blue) {
+        QDBusArgument parts;
+        parts.beginStructure();
+        parts << red << green << blue;
+        parts.endStructure();
+        return QVariant::fromValue(parts);
+    }
+
     uint scheme = 0;
     QMap<QString, QVariant> others; // by group and key in one
 
+    uint contrast = 0;
+    QVariant accent; // none: the portal is older than this setting
+
 public Q_SLOTS:
     QDBusVariant Read(const QString& group, const QString& key) const {
-        const bool known = group == u"org.freedesktop.appearance" && key == u"color-scheme";
-        const QVariant other = others.value(group + key, 99U);
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(known ? QVariant(scheme) : other)));
+        const bool known = group == u"org.freedesktop.appearance";
+        QVariant value = others.value(group + key, 99U);
+        if (known && key == u"color-scheme")
+            value = scheme;
+        else if (known && key == u"contrast")
+            value = contrast;
+        else if (known && key == u"accent-color" && accent.isValid())
+            value = accent;
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));
     }
 
 private:
@@ -150,6 +169,44 @@ TEST_F(PortalTest, TheSettingOfTheDesktopIsReadAndFollowed) {
     EXPECT_TRUE(becomesDark(appearance, true));
     portal.change(group_, 0); // no preference: the palette, which is light
     EXPECT_TRUE(becomesDark(appearance, false));
+}
+
+TEST_F(PortalTest, TheAccentColourIsReadAndFollowed) {
+    FakePortal portal(bus_.connection(u"portal"_qs));
+    portal.accent = FakePortal::colour(0, 0.5, 1);
+    LinuxSystemAppearance appearance(bus_.connection(u"program"_qs));
+    const QSignalSpy changes(&appearance, &SystemAppearance::changed);
+    EXPECT_EQ(appearance.accentColour(), std::nullopt);
+    const auto becomes = [&](std::optional<QColor> wanted) {
+        return turnsUntil([&] {
+            const std::optional<QColor> accent = appearance.accentColour();
+            return accent.has_value() == wanted.has_value() &&
+                   (!accent || accent->name() == wanted->name());
+        });
+    };
+    EXPECT_TRUE(becomes(QColor(0, 128, 255)));
+    EXPECT_EQ(changes.count(), 1);
+    portal.change(group_, u"accent-color"_qs, FakePortal::colour(1, 0, 0));
+    EXPECT_TRUE(becomes(QColor(255, 0, 0)));
+    portal.change(group_, u"accent-color"_qs, FakePortal::colour(-1, -1, -1)); // no preference
+    EXPECT_TRUE(becomes(std::nullopt));
+    portal.change(group_, u"accent-color"_qs, FakePortal::colour(0, 1, 0));
+    EXPECT_TRUE(becomes(QColor(0, 255, 0)));
+    portal.change(group_, u"accent-color"_qs, u"green"_qs); // not a colour
+    EXPECT_TRUE(becomes(std::nullopt));
+}
+
+TEST_F(PortalTest, TheWishForContrastIsReadAndFollowed) {
+    FakePortal portal(bus_.connection(u"portal"_qs));
+    portal.contrast = 1;
+    LinuxSystemAppearance appearance(bus_.connection(u"program"_qs));
+    const QSignalSpy changes(&appearance, &SystemAppearance::changed);
+    EXPECT_FALSE(appearance.prefersHighContrast());
+    EXPECT_TRUE(turnsUntil([&] { return appearance.prefersHighContrast(); }));
+    EXPECT_EQ(changes.count(), 1);
+    portal.change(group_, u"contrast"_qs, 0U);
+    EXPECT_TRUE(turnsUntil([&] { return !appearance.prefersHighContrast(); }));
+    EXPECT_EQ(changes.count(), 2);
 }
 
 TEST_F(PortalTest, APortalThatComesLaterIsAsked) {
