@@ -12,7 +12,8 @@ Item {
     required property ListSelection selection
     required property Overlays overlays
 
-    readonly property int sidePadding: Metrics.spacingLarge
+    readonly property int sidePadding: Metrics.spacingMedium
+        + Math.max(0, Math.round((width - Metrics.listColumn) / 2))
 
     readonly property bool selecting: selection.selectionMode
 

@@ -13,6 +13,8 @@ Rectangle {
 
     implicitWidth: 720
     color: Theme.colours.windowBackground
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
 
     Column {
         id: top

@@ -2,8 +2,11 @@
 #include "ui/UiFixture.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QTest>
 
+#include <cctype>
+#include <string>
 #include <tuple>
 
 namespace tessarine::testing {
@@ -222,7 +225,52 @@ QStringList textsOutside(const QQuickItem& item, const QRectF& room) {
     return found;
 }
 
-using Look = std::tuple<Scene, bool, int>; // scene, dark, width
+// How the desktop looks while the picture is taken.
+enum class Desk { Light, Dark, ContrastLight, ContrastDark, Green, RightToLeft };
+
+bool isDark(Desk desk) {
+    return desk == Desk::Dark || desk == Desk::ContrastDark;
+}
+
+bool hasContrast(Desk desk) {
+    return desk == Desk::ContrastLight || desk == Desk::ContrastDark;
+}
+
+const char* nameOf(Desk desk) {
+    switch (desk) {
+    case Desk::Light:
+        return "light";
+    case Desk::Dark:
+        return "dark";
+    case Desk::ContrastLight:
+        return "contrastLight";
+    case Desk::ContrastDark:
+        return "contrastDark";
+    case Desk::Green:
+        return "green";
+    case Desk::RightToLeft:
+        return "mirrored";
+    }
+    return "";
+}
+
+// While it lives, the language is one that is written from right to left.
+class MirroredLayout {
+public:
+    explicit MirroredLayout(Desk desk)
+        : before_(QGuiApplication::layoutDirection()) {
+        if (desk == Desk::RightToLeft)
+            QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    }
+    ~MirroredLayout() { QGuiApplication::setLayoutDirection(before_); }
+    MirroredLayout(const MirroredLayout&) = delete;
+    MirroredLayout& operator=(const MirroredLayout&) = delete;
+
+private:
+    Qt::LayoutDirection before_;
+};
+
+using Look = std::tuple<Scene, Desk, int>; // scene, desk, width
 
 class PicturesTest : public UiTest, public ::testing::WithParamInterface<Look> {
 protected:
@@ -318,8 +366,12 @@ protected:
 };
 
 TEST_P(PicturesTest, ShowsTheSceneWithoutCuttingIt) {
-    const auto [scene, dark, width] = GetParam();
-    theme.applyAppearance(dark ? u"dark"_qs : u"light"_qs);
+    const auto [scene, desk, width] = GetParam();
+    const MirroredLayout layout(desk);
+    theme.applyAppearance(isDark(desk) ? u"dark"_qs : u"light"_qs);
+    appearance.setHighContrast(hasContrast(desk));
+    if (desk == Desk::Green)
+        appearance.setAccent(QColor(0x3a, 0x94, 0x4a));
     makeWindow();
     if (scene != Scene::Loading)
         publish(contentOf(scene));
@@ -335,7 +387,7 @@ TEST_P(PicturesTest, ShowsTheSceneWithoutCuttingIt) {
               QStringList());
 
     const QString name =
-        u"%1-%2-%3@%4x.png"_qs.arg(QLatin1String(nameOf(scene)), dark ? u"dark"_qs : u"light"_qs)
+        u"%1-%2-%3@%4x.png"_qs.arg(QLatin1String(nameOf(scene)), QLatin1String(nameOf(desk)))
             .arg(width)
             .arg(density);
     QDir().mkpath(QStringLiteral(PICTURES_FOLDER));
@@ -343,8 +395,10 @@ TEST_P(PicturesTest, ShowsTheSceneWithoutCuttingIt) {
 }
 
 std::string lookName(const ::testing::TestParamInfo<Look>& info) {
-    const auto [scene, dark, width] = info.param;
-    return std::string(nameOf(scene)) + (dark ? "Dark" : "Light") + std::to_string(width);
+    const auto [scene, desk, width] = info.param;
+    std::string deskName = nameOf(desk);
+    deskName.front() = char(std::toupper(deskName.front()));
+    return nameOf(scene) + deskName + std::to_string(width);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -357,14 +411,37 @@ INSTANTIATE_TEST_SUITE_P(
                           Scene::DatePopover, Scene::DeleteSelected, Scene::DeleteAll,
                           Scene::Masked, Scene::Preview, Scene::EmptyPreview, Scene::InfoBanner,
                           Scene::WarningBanner, Scene::RowMenu, Scene::AppMenu, Scene::Export),
-        ::testing::Bool(), ::testing::Values(720)),
+        ::testing::Values(Desk::Light, Desk::Dark), ::testing::Values(720)),
     lookName);
 
 INSTANTIATE_TEST_SUITE_P(WidePictures, PicturesTest,
                          ::testing::Combine(::testing::Values(Scene::FiveHundred, Scene::LongWords,
                                                               Scene::GroupedByApp,
                                                               Scene::Selection),
-                                            ::testing::Bool(), ::testing::Values(1100)),
+                                            ::testing::Values(Desk::Light, Desk::Dark),
+                                            ::testing::Values(1100)),
+                         lookName);
+
+INSTANTIATE_TEST_SUITE_P(
+    ContrastPictures, PicturesTest,
+    ::testing::Combine(::testing::Values(Scene::Five, Scene::ScrolledGroups, Scene::Focused,
+                                         Scene::Selection, Scene::Masked, Scene::Preview,
+                                         Scene::RowMenu, Scene::Export),
+                       ::testing::Values(Desk::ContrastLight, Desk::ContrastDark),
+                       ::testing::Values(720)),
+    lookName);
+
+INSTANTIATE_TEST_SUITE_P(AccentPictures, PicturesTest,
+                         ::testing::Combine(::testing::Values(Scene::Focused, Scene::Export),
+                                            ::testing::Values(Desk::Green), ::testing::Values(720)),
+                         lookName);
+
+INSTANTIATE_TEST_SUITE_P(MirroredPictures, PicturesTest,
+                         ::testing::Combine(::testing::Values(Scene::Five, Scene::RightToLeft,
+                                                              Scene::GroupedByApp, Scene::Masked,
+                                                              Scene::Selection, Scene::RowMenu),
+                                            ::testing::Values(Desk::RightToLeft),
+                                            ::testing::Values(720)),
                          lookName);
 
 } // namespace

@@ -28,6 +28,7 @@ protected:
 };
 
 TEST_F(RowTest, ShowsInitialsAppTimeTitleAndBody) {
+    icons.generic = QImage(); // nothing is known of the application
     showList(numbered(1));
     EXPECT_EQ(textsIn(*row(u"Title 1"_qs)),
               QStringList({u"MA"_qs, u"Mail"_qs, u"Nov 16, 2025, 3:33:21\u202fPM"_qs, u"Title 1"_qs,
@@ -35,6 +36,7 @@ TEST_F(RowTest, ShowsInitialsAppTimeTitleAndBody) {
 }
 
 TEST_F(RowTest, LeavesOutAnEmptyTitleAndAnEmptyBody) {
+    icons.generic = QImage();
     NotificationList content = numbered(1);
     content[0].title.clear();
     content[0].body.clear();

@@ -14,6 +14,7 @@ Item {
     Row {
         id: controls
 
+        anchors.left: parent.left
         spacing: Metrics.spacingWide
 
         CaptionedControl {
@@ -21,7 +22,7 @@ Item {
 
             MenuPicker {
                 objectName: "appPicker"
-                width: toolbar.width > 760 ? 180 : 160
+                width: 160
                 accessibleName: qsTrId("toolbar.app.label")
                 model: toolbar.list.appLabels
                 currentIndex: toolbar.list.selectedAppIndex
@@ -35,7 +36,7 @@ Item {
 
             MenuPicker {
                 objectName: "sortPicker"
-                width: toolbar.width > 760 ? 140 : 120
+                width: 120
                 accessibleName: qsTrId("toolbar.sort.label")
                 model: toolbar.list.sortLabels
                 currentIndex: toolbar.list.sortMode

@@ -16,6 +16,9 @@ FocusScope {
     property NotificationRowView pressedRow: null // by the left button, last
     property real circleOpenness: selection.selectionMode ? 1 : 0 // of the rows, one motion for all
 
+    readonly property int columnWidth: Math.min(width, Metrics.listColumn)
+    readonly property int columnLeft: Math.round((width - columnWidth) / 2)
+
     clip: true
 
     Behavior on circleOpenness {
@@ -57,7 +60,8 @@ FocusScope {
                 roleValue: "header"
 
                 SectionHeader {
-                    width: listView.width
+                    x: root.columnLeft
+                    width: root.columnWidth
                     selectionMode: root.selection.selectionMode
                     onToggled: key => root.list.toggleGroup(key)
                     onSelectAll: key => root.selection.selectGroup(key)
@@ -72,7 +76,11 @@ FocusScope {
                 NotificationRowView {
                     id: row
 
-                    width: listView.width
+                    x: root.columnLeft
+                    width: root.columnWidth
+                    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+                        || Theme.isRightToLeft(title || body)
+                    LayoutMirroring.childrenInherit: true
                     selectionMode: root.selection.selectionMode
                     circleOpenness: root.circleOpenness
                     menuOpen: rowMenu.visible
@@ -86,7 +94,8 @@ FocusScope {
         }
 
         footer: LoadOlderFooter {
-            width: listView.width
+            x: root.columnLeft
+            width: root.columnWidth
             shown: root.list.canLoadOlder
             onClicked: root.list.loadOlder()
         }
@@ -163,8 +172,9 @@ FocusScope {
         id: pinnedHeader
 
         objectName: "pinnedHeader"
-        width: listView.width
+        x: root.columnLeft
         y: pinned.top
+        width: root.columnWidth
         header: pinned.header
         selectionMode: root.selection.selectionMode
         visible: pinned.isPinned
@@ -183,6 +193,16 @@ FocusScope {
         innerRadius: 0
         inside: true
         visible: ring.visual
+    }
+
+    HorizontalDivider {
+        objectName: "pinnedLine"
+        anchors.top: pinnedHeader.bottom
+        anchors.left: pinnedHeader.left
+        anchors.right: pinnedHeader.right
+        anchors.leftMargin: Metrics.spacingMedium
+        anchors.rightMargin: Metrics.spacingMedium
+        visible: pinnedHeader.visible
     }
 
     RowMenu {

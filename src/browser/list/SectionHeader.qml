@@ -14,6 +14,8 @@ Rectangle {
     readonly property int chevronColumn: 12
     readonly property int iconSize: 18
     readonly property int lineHeight: 28
+    readonly property real titleStart: chevron.anchors.leftMargin + chevron.width + icon.anchors.leftMargin
+        + icon.width + title.anchors.leftMargin // from the side where lines begin
     readonly property bool everySelected: header.selectedCount === header.count
 
     signal toggled(string key)
@@ -59,11 +61,12 @@ Rectangle {
         id: chevron
 
         anchors.left: parent.left
-        anchors.leftMargin: Metrics.spacingMedium
+        anchors.leftMargin: Metrics.spacingMedium - Metrics.spacingSmall // the symbol stands above the edge of the cards
         anchors.verticalCenter: parent.verticalCenter
         width: section.chevronColumn + Metrics.spacingMedium
         height: section.lineHeight - Metrics.spacingSmall
         symbol: section.header.isCollapsed ? "chevron.right" : "chevron.down"
+        directional: section.header.isCollapsed
         size: section.chevronColumn
         accessibleName: (section.header.isCollapsed ? qsTrId("group.expand") : qsTrId("group.collapse"))
             .arg(section.header.title)
@@ -106,8 +109,8 @@ Rectangle {
         anchors.left: icon.right
         anchors.leftMargin: section.header.hasIcon ? Metrics.spacingMedium - 2 : 0
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, (selectButton.visible ? selectButton.x : section.width - Metrics.spacingMedium)
-                        - x - tag.width - 2 * Metrics.spacingMedium)
+        width: Math.min(implicitWidth, section.width - section.titleStart - tag.width - 3 * Metrics.spacingMedium
+                        - (selectButton.visible ? selectButton.width : 0))
         text: section.header.title
         font.weight: Font.DemiBold
         maximumLineCount: 1

@@ -19,6 +19,7 @@ Item {
     Row {
         id: first
 
+        anchors.left: parent.left
         spacing: Metrics.spacingMedium
 
         TextButton {
