@@ -61,14 +61,15 @@ TEST_F(ListColumnTest, GrowsNoWiderThanLinesCanBeRead) {
 
 TEST_F(ListColumnTest, HasTheScrollThumbBesideTheCards) {
     showIn(720);
+    const double edge = card().right();
     QQuickItem& thumb = *itemsOfType(root(), "ThinScrollBar").front();
     EXPECT_GT(inWindow(thumb).width(), 0);
-    EXPECT_GE(inWindow(thumb).left(), card().right());
+    EXPECT_GE(inWindow(thumb).left(), edge);
     const double resting = thumb.property("thickness").toDouble();
     QTest::mousePress(window->window(), Qt::LeftButton, {}, inWindow(thumb).center().toPoint());
     EXPECT_TRUE(thumb.property("inUse").toBool());
     EXPECT_GT(thumb.property("thickness").toDouble(), resting);
-    EXPECT_GE(inWindow(thumb).left(), card().right());
+    EXPECT_GE(inWindow(thumb).left(), edge);
     QTest::mouseRelease(window->window(), Qt::LeftButton, {}, inWindow(thumb).center().toPoint());
 }
 
