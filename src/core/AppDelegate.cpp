@@ -18,7 +18,10 @@ AppDelegate::AppDelegate(ViewServices& views)
     : views_(views)
     , launchFlow_(views.services) {}
 
-AppDelegate::~AppDelegate() = default;
+AppDelegate::~AppDelegate() {
+    // Going, the window hides, which asks the guard whether this object lives.
+    mainWindow_.reset();
+}
 
 void AppDelegate::applicationDidFinishLaunching() {
     Services& services = views_.services;
