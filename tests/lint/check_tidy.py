@@ -65,9 +65,10 @@ class Unit:
         if not self.path.exists() or self.path.read_text() != text:
             self.path.write_text(text)
 
-    def as_entry(self):
-        return {"directory": str(self.path.parent), "file": str(self.path),
-                "arguments": [*self.command, "-c", str(self.path)]}
+    def halves(self):
+        middle = len(self.files) // 2
+        return [Unit(self.path.with_stem(f"{self.path.stem}{half}"), files, self.command)
+                for half, files in (("a", self.files[:middle]), ("b", self.files[middle:]))]
 
 
 def sources_of(entry):
@@ -82,6 +83,11 @@ def is_program(path):
     return re.search(r"^int main\(", path.read_text(), re.MULTILINE) is not None
 
 
+def room_of(file):
+    """The folder whose sources go together: the layer's, or the system's in that of the ports."""
+    return pathlib.Path(*file.parent.parts[:3 if file.parts[1] == "platform" else 2])
+
+
 def units_of(root, build, checked):
     """The sources below the folder that the build compiles, as units."""
     groups, commands = {}, {}
@@ -90,7 +96,7 @@ def units_of(root, build, checked):
             if root / checked not in path.parents:
                 continue
             file = path.relative_to(root)
-            group = file if is_program(path) else pathlib.Path(*file.parts[:2])
+            group = file if is_program(path) else room_of(file)
             groups.setdefault(group, set()).add(file)
             commands.setdefault(group, Command()).add(shlex.split(entry["command"]))
     units = []
@@ -103,15 +109,16 @@ def units_of(root, build, checked):
 
 
 class Tidy:
-    def __init__(self, program, root, folder):
-        self.program, self.root, self.folder = program, root, folder
+    def __init__(self, program, root):
+        self.program, self.root = program, root
         version = subprocess.run([program, "--version"], capture_output=True, check=True).stdout
         self.base = hashlib.sha256(version + (root / ".clang-tidy").read_bytes()).digest()
         # Without what the build generates, which lies below the root too.
         self.ours = f"^{re.escape(str(root))}/(src|tests)/.*\\.(h|cpp)$"
 
     def fingerprint(self, unit):
-        digest = hashlib.sha256(self.base + json.dumps(unit.as_entry()).encode())
+        names = [file.as_posix() for file in unit.files]
+        digest = hashlib.sha256(self.base + json.dumps([unit.command, names]).encode())
         included = {name for file in unit.files
                     for name in sources.with_everything_included(self.root, file)}
         for name in sorted(included):
@@ -119,18 +126,28 @@ class Tidy:
         return digest.hexdigest()
 
     def check(self, unit):
-        """Nothing if the unit is clean, else what clang-tidy says."""
+        """Nothing if the unit is clean, else what clang-tidy says. Sources of different programs may
+        not go together, as when each has its own idea of a name: these are read in two halves."""
+        unit.write(self.root)
         stamp = unit.path.with_suffix(".clean")
         fingerprint = self.fingerprint(unit)
         if stamp.exists() and stamp.read_text() == fingerprint:
             return None
-        done = subprocess.run([self.program, "-p", self.folder, "--quiet",
-                               "--header-filter", self.ours, unit.path],
+        done = subprocess.run([self.program, "--quiet", "--header-filter", self.ours, unit.path,
+                               "--", *unit.command[1:]],
                               capture_output=True, text=True, encoding="utf-8")
-        if done.returncode == 0:
+        complaint = done.stdout or done.stderr
+        if done.returncode != 0 and "[clang-diagnostic-error]" in complaint and len(unit.files) > 1:
+            complaint = self.check_halves(unit)
+        elif done.returncode == 0:
+            complaint = None
+        if complaint is None:
             stamp.write_text(fingerprint)
-            return None
-        return done.stdout or done.stderr
+        return complaint
+
+    def check_halves(self, unit):
+        complaints = [text for text in map(self.check, unit.halves()) if text]
+        return "".join(complaints) or None
 
 
 def main():
@@ -147,10 +164,7 @@ def main():
 
     folder = build / "tidy" / checked
     folder.mkdir(parents=True, exist_ok=True)
-    for unit in units:
-        unit.write(root)
-    (folder / "compile_commands.json").write_text(json.dumps([unit.as_entry() for unit in units]))
-    tidy, failed = Tidy(program, root, folder), 0
+    tidy, failed = Tidy(program, root), 0
     for unit in units:
         complaint = tidy.check(unit)
         if complaint:

@@ -89,9 +89,11 @@ TEST_F(ListColumnTest, HasALineUnderThePinnedHeaderAlone) {
 
 // The language is one that is written from right to left.
 class MirroredWindowTest : public ListColumnTest {
+public:
+    ~MirroredWindowTest() override { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+
 protected:
     MirroredWindowTest() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
-    ~MirroredWindowTest() override { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
 };
 
 TEST_F(MirroredWindowTest, HasTheToolbarTheOtherWayRound) {
