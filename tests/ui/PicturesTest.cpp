@@ -1,7 +1,7 @@
 #include "support/EventLoop.h"
+#include "support/WindowPicture.h"
 #include "ui/UiFixture.h"
 
-#include <QDir>
 #include <QGuiApplication>
 #include <QTest>
 
@@ -210,21 +210,6 @@ NotificationList contentOf(Scene scene) {
     return list;
 }
 
-// Texts that reach out of the window, by their content.
-QStringList textsOutside(const QQuickItem& item, const QRectF& room) {
-    QStringList found;
-    if (!item.isVisible())
-        return found;
-    const QString text = item.property("text").toString();
-    const double width = std::max(item.width(), item.property("paintedWidth").toDouble());
-    const QRectF place = item.mapRectToScene(QRectF(0, 0, width, item.height()));
-    if (!text.isEmpty() && (place.left() < room.left() || place.right() > room.right()))
-        found << text;
-    for (const QQuickItem* child : item.childItems())
-        found << textsOutside(*child, room);
-    return found;
-}
-
 // How the desktop looks while the picture is taken.
 enum class Desk { Light, Dark, ContrastLight, ContrastDark, Green, RightToLeft };
 
@@ -351,18 +336,6 @@ protected:
         row.title = u"old"_qs;
         ASSERT_TRUE(hoard.insert(row));
     }
-
-    // Once nothing moves any more: two pictures in a row are the same.
-    QImage stillPicture() {
-        QImage before;
-        QImage picture = window->window()->grabWindow();
-        EXPECT_TRUE(turnsUntil([&] {
-            turnFor(250);
-            before = std::exchange(picture, window->window()->grabWindow());
-            return before == picture;
-        }));
-        return picture;
-    }
 };
 
 TEST_P(PicturesTest, ShowsTheSceneWithoutCuttingIt) {
@@ -380,7 +353,7 @@ TEST_P(PicturesTest, ShowsTheSceneWithoutCuttingIt) {
     draw();
     bringAbout(scene);
 
-    const QImage picture = stillPicture();
+    const QImage picture = stillPicture(*window->window());
     const double density = window->window()->effectiveDevicePixelRatio();
     EXPECT_EQ(picture.size(), QSize(width, 520) * density);
     EXPECT_EQ(textsOutside(*window->window()->contentItem(), QRectF(0, 0, width, 520)),
@@ -390,8 +363,7 @@ TEST_P(PicturesTest, ShowsTheSceneWithoutCuttingIt) {
         u"%1-%2-%3@%4x.png"_qs.arg(QLatin1String(nameOf(scene)), QLatin1String(nameOf(desk)))
             .arg(width)
             .arg(density);
-    QDir().mkpath(QStringLiteral(PICTURES_FOLDER));
-    EXPECT_TRUE(picture.save(QDir(QStringLiteral(PICTURES_FOLDER)).filePath(name)));
+    EXPECT_TRUE(savePicture(picture, QStringLiteral(PICTURES_FOLDER), name));
 }
 
 std::string lookName(const ::testing::TestParamInfo<Look>& info) {
