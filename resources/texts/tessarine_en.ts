@@ -241,6 +241,42 @@
         <source>hoard.loading</source>
         <translation>Opening the hoard…</translation>
     </message>
+    <message id="launchAtLogin.btn.dontAsk">
+        <source>launchAtLogin.btn.dontAsk</source>
+        <translation>Don’t Ask Again</translation>
+    </message>
+    <message id="launchAtLogin.btn.enable">
+        <source>launchAtLogin.btn.enable</source>
+        <translation>Start at Login</translation>
+    </message>
+    <message id="launchAtLogin.btn.notNow">
+        <source>launchAtLogin.btn.notNow</source>
+        <translation>Not Now</translation>
+    </message>
+    <message id="launchAtLogin.info.changeLater">
+        <source>launchAtLogin.info.changeLater</source>
+        <translation>You can change this at any time in the menu of the bell.</translation>
+    </message>
+    <message id="launchAtLogin.info.missedNotifs">
+        <source>launchAtLogin.info.missedNotifs</source>
+        <translation>What comes before you start it may never reach your hoard.</translation>
+    </message>
+    <message id="launchAtLogin.info.silentStart">
+        <source>launchAtLogin.info.silentStart</source>
+        <translation>It starts without a window. You see nothing but its bell.</translation>
+    </message>
+    <message id="launchAtLogin.prompt.subtitle">
+        <source>launchAtLogin.prompt.subtitle</source>
+        <translation>It can keep only what comes while it runs.</translation>
+    </message>
+    <message id="launchAtLogin.prompt.title">
+        <source>launchAtLogin.prompt.title</source>
+        <translation>Start Tessarine when you log in?</translation>
+    </message>
+    <message id="menu.checkForUpdates">
+        <source>menu.checkForUpdates</source>
+        <translation>Check for Updates…</translation>
+    </message>
     <message id="menu.launchAtLogin">
         <source>menu.launchAtLogin</source>
         <translation>Launch at Login</translation>
@@ -451,6 +487,18 @@
     <message id="toolbar.sort.oldest">
         <source>toolbar.sort.oldest</source>
         <translation>Oldest First</translation>
+    </message>
+    <message id="updates.packageManager">
+        <source>updates.packageManager</source>
+        <translation>New versions come with your system’s updates, through the package manager that installed Tessarine. The program itself never asks the network.</translation>
+    </message>
+    <message id="updates.version">
+        <source>updates.version</source>
+        <translation>Tessarine %1</translation>
+    </message>
+    <message id="updates.window.title">
+        <source>updates.window.title</source>
+        <translation>Tessarine Updates</translation>
     </message>
 </context>
 </TS>

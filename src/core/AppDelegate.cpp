@@ -4,7 +4,8 @@
 
 #include <QCoreApplication>
 #include <QQmlEngine>
-#include <QQuickWindow>
+#include <QQuickItem>
+#include <QQuickView>
 
 namespace tessarine {
 
@@ -12,14 +13,23 @@ namespace {
 
 constexpr double memoryDelay = 2.0; // seconds from the closing of the window
 
+// The root of the window for updates says how large it is.
+ViewWindow::Description updateNotice() {
+    return {qtTrId("updates.window.title"),
+            QStringLiteral("Tessarine/Shell/UpdateNotice"),
+            {{QStringLiteral("version"), QCoreApplication::applicationVersion()}},
+            WindowFeature::closable};
+}
+
 } // namespace
 
 AppDelegate::AppDelegate(ViewServices& views)
     : views_(views)
-    , launchFlow_(views.services) {}
+    , launchFlow_(views.services, [this] { permissionFlow_->runPermissionChecks(); }) {}
 
 AppDelegate::~AppDelegate() {
-    // Going, the window hides, which asks the guard whether this object lives.
+    // Going, a window hides, which asks the guard whether this object lives.
+    updateNotice_.reset();
     mainWindow_.reset();
 }
 
@@ -32,18 +42,22 @@ void AppDelegate::applicationDidFinishLaunching() {
     applyAppearance(services.preferences.appearanceMode());
     launchAgent_ = std::make_unique<LaunchAgentManager>(*services.platform.loginItem,
                                                         *services.platform.fileSystem);
+    permissionFlow_ = std::make_unique<PermissionFlow>(views_, *launchAgent_);
     menuBarController_ = std::make_unique<MenuBarController>(
-        *views_.desktop.statusItem, services.listener, defaults, *launchAgent_,
-        [this] { showMainWindow(); }, [] { QCoreApplication::quit(); });
+        *views_.desktop.statusItem, services.listener, defaults, *launchAgent_, menuActions());
     mainWindow_ = std::make_unique<MainWindow>(views_.browser(), defaults, *views_.engine);
-    watchMainWindow();
+    watchWindow(*mainWindow_->window());
     launchFlow_.begin();
 }
 
+MenuBarController::Actions AppDelegate::menuActions() {
+    return {[this] { showMainWindow(); }, [this] { checkForUpdates(); },
+            [] { QCoreApplication::quit(); }};
+}
+
 // Once the renderer has let go of what it had for the window, on its thread and on this one.
-void AppDelegate::watchMainWindow() {
-    QWindow* const window = mainWindow_->window();
-    QObject::connect(window, &QWindow::visibleChanged, window, [this](bool visible) {
+void AppDelegate::watchWindow(const QWindow& window) {
+    QObject::connect(&window, &QWindow::visibleChanged, &window, [this](bool visible) {
         if (visible)
             return;
         views_.services.platform.scheduler->onMainAfter(memoryDelay,
@@ -52,7 +66,7 @@ void AppDelegate::watchMainWindow() {
 }
 
 void AppDelegate::giveMemoryBack() {
-    if (mainWindow_->isVisible())
+    if (!ViewWindow::allVisible().empty())
         return;
     views_.engine->collectGarbage();
     views_.desktop.application->returnFreeMemory();
@@ -64,9 +78,25 @@ void AppDelegate::showMainWindow() {
     menuBarController_->markAllSeen();
 }
 
+void AppDelegate::checkForUpdates() {
+    if (!views_.desktop.updater->checkForUpdates())
+        showUpdateNotice();
+}
+
+void AppDelegate::showUpdateNotice() {
+    if (!updateNotice_) {
+        updateNotice_ = std::make_unique<ViewWindow>(updateNotice(), *views_.engine);
+        const QQuickItem& root = updateNotice_->root();
+        updateNotice_->centre(QSizeF(root.implicitWidth(), root.implicitHeight()).toSize());
+        watchWindow(updateNotice_->window());
+    }
+    updateNotice_->showAndMakeKey();
+    views_.desktop.application->activate(updateNotice_->window());
+}
+
 void AppDelegate::activate() {
-    if (mainWindow_ && mainWindow_->isVisible())
-        views_.desktop.application->activate(*mainWindow_->window());
+    for (const ViewWindow* window : ViewWindow::allVisible())
+        views_.desktop.application->activate(window->window());
 }
 
 void AppDelegate::applyAppearance(const QString& mode) {

@@ -2,12 +2,16 @@
 
 #include "browser/MainWindow.h"
 #include "core/LaunchFlow.h"
+#include "core/PermissionFlow.h"
 #include "core/ViewServices.h"
 #include "shared/AliveGuard.h"
 #include "shell/LaunchAgentManager.h"
 #include "shell/MenuBarController.h"
+#include "windows/ViewWindow.h"
 
 #include <memory>
+
+class QWindow;
 
 namespace tessarine {
 
@@ -28,6 +32,9 @@ public:
     // Brings the main window to the front and takes all notifications as seen.
     void showMainWindow();
 
+    // The system's updater, or what there is to say where it has none.
+    void checkForUpdates();
+
     // What another start of the program asks for: the windows that are open come to the front. One
     // that is hidden stays hidden.
     void activate();
@@ -38,17 +45,24 @@ public:
     const LaunchFlow& launchFlow() const { return launchFlow_; }
 
     // Null until the launch steps have made it.
+    const PermissionFlow* permissionFlow() const { return permissionFlow_.get(); }
+
+    // Null until the launch steps have made it.
     MainWindow* mainWindow() const { return mainWindow_.get(); }
 
 private:
-    void watchMainWindow();
+    MenuBarController::Actions menuActions();
+    void showUpdateNotice();
+    void watchWindow(const QWindow& window);
     void giveMemoryBack();
 
     ViewServices& views_;
     LaunchFlow launchFlow_;
     std::unique_ptr<LaunchAgentManager> launchAgent_;
+    std::unique_ptr<PermissionFlow> permissionFlow_;
     std::unique_ptr<MenuBarController> menuBarController_;
     std::unique_ptr<MainWindow> mainWindow_;
+    std::unique_ptr<ViewWindow> updateNotice_; // null until it was asked for
     AliveGuard alive_;
 };
 

@@ -6,6 +6,7 @@ namespace tessarine {
 
 void setUpApplication() {
     QGuiApplication::setApplicationName(QStringLiteral("Tessarine"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(TESSARINE_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.zorvek.Tessarine"));
     // Capture goes on with all windows closed.
     QGuiApplication::setQuitOnLastWindowClosed(false);

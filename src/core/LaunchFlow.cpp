@@ -16,6 +16,7 @@ void LaunchFlow::finishStartup() {
     fdaConfirmedAtLaunch_ =
         services_.platform.fileSystem->grantsReading(services_.listener->usernotedDbPath());
     tellWhatIsMissing();
+    runPermissionChecks_();
 }
 
 void LaunchFlow::tellWhatIsMissing() {

@@ -3,6 +3,9 @@
 #include "core/Services.h"
 #include "shared/AliveGuard.h"
 
+#include <functional>
+#include <utility>
+
 namespace tessarine {
 
 // The steps of a launch that need no window, in their order. Main thread.
@@ -11,9 +14,13 @@ public:
     // How long access to notifications may take to come, in seconds, before its lack is told.
     static constexpr double accessGrace = 5;
 
+    // What follows once the program is at work: the checks of what it may do.
+    using PermissionChecks = std::function<void()>;
+
     // The services outlive the flow.
-    explicit LaunchFlow(Services& services)
-        : services_(services) {}
+    LaunchFlow(Services& services, PermissionChecks runPermissionChecks)
+        : services_(services)
+        , runPermissionChecks_(std::move(runPermissionChecks)) {}
 
     // What must not start before the user has agreed stands behind this. Leads to finishStartup.
     void begin();
@@ -30,6 +37,7 @@ private:
     void tellWhatIsMissing();
 
     Services& services_;
+    PermissionChecks runPermissionChecks_;
     bool fdaConfirmedAtLaunch_ = false;
     AliveGuard alive_;
 };

@@ -7,6 +7,7 @@
 #include "platform/StatusItem.h"
 #include "platform/Symbols.h"
 #include "platform/SystemAppearance.h"
+#include "platform/Updater.h"
 
 #include <memory>
 
@@ -22,6 +23,7 @@ struct Desktop {
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<SavePanel> savePanel;
     std::unique_ptr<FileViewer> fileViewer;
+    std::unique_ptr<Updater> updater;
 };
 
 // Makes the ports of the system that the program was built for. Needs a QApplication, and is called

@@ -36,6 +36,10 @@ public:
     // click opens the menu.
     virtual void setActivation(std::function<void()> activation) = 0;
 
+    // What a click with the Option key does (Alt, elsewhere), in place of what it does without;
+    // also a click of the middle button, since not all desktops tell of keys with a click.
+    virtual void setAlternateActivation(std::function<void()> activation) = 0;
+
     // Fills an empty menu each time that the user asks for it.
     virtual void setMenuBuilder(MenuBuilder builder) = 0;
 

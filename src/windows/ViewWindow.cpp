@@ -35,6 +35,11 @@ Qt::WindowFlags flagsOf(WindowFeatures features) {
     return flags | Qt::WindowSystemMenuHint;
 }
 
+// Null for the window of something else.
+ViewWindow* viewWindowOf(const QWindow& window) {
+    return qobject_cast<ViewWindow*>(window.property(viewWindowProperty).value<QObject*>());
+}
+
 } // namespace
 
 ViewWindow::ViewWindow(const Description& description, QQmlEngine& engine)
@@ -150,12 +155,19 @@ QQuickItem& ViewWindow::root() const {
     return *window_->rootObject();
 }
 
+std::vector<ViewWindow*> ViewWindow::allVisible() {
+    std::vector<ViewWindow*> found;
+    for (const QWindow* window : QGuiApplication::allWindows()) {
+        if (ViewWindow* const ours = viewWindowOf(*window); ours && window->isVisible())
+            found.push_back(ours);
+    }
+    return found;
+}
+
 ViewWindow* ViewWindow::titled(const QString& title) {
     for (const QWindow* window : QGuiApplication::allWindows()) {
-        auto* const found =
-            qobject_cast<ViewWindow*>(window->property(viewWindowProperty).value<QObject*>());
-        if (found && window->title() == title)
-            return found;
+        if (ViewWindow* const ours = viewWindowOf(*window); ours && window->title() == title)
+            return ours;
     }
     return nullptr;
 }

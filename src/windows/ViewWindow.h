@@ -9,6 +9,7 @@
 #include <QVariantMap>
 
 #include <memory>
+#include <vector>
 
 class QQmlEngine;
 class QQuickItem;
@@ -63,6 +64,9 @@ public:
 
     // The program's window with exactly this title, hidden ones too; null if there is none.
     static ViewWindow* titled(const QString& title);
+
+    // Those that are on the screen, minimised ones too.
+    static std::vector<ViewWindow*> allVisible();
 
 Q_SIGNALS:
     void shown();

@@ -3,10 +3,13 @@
 #include "support/EventLoop.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
+#include "support/WindowPicture.h"
 
 #include <QMenu>
-#include <QQuickWindow>
+#include <QQuickItem>
+#include <QQuickView>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -73,6 +76,7 @@ TEST_F(AppDelegateTest, LetsNoSystemBringItsWindowsBack) {
 }
 
 TEST_F(AppDelegateTest, GivesMemoryBackSomeTimeAfterTheWindowWasClosed) {
+    services->preferences.setLaunchLoginPromptSuppressed(true);
     launch();
     delegate->showMainWindow();
     system.scheduler.advance(10);
@@ -90,6 +94,19 @@ TEST_F(AppDelegateTest, GivesNoMemoryBackWhenTheWindowWasOpenedAgain) {
     delegate->showMainWindow();
     system.scheduler.advance(3);
     EXPECT_EQ(desktop.application.memoryReturns, 0);
+}
+
+TEST_F(AppDelegateTest, GivesNoMemoryBackWhileAnotherWindowIsOpen) {
+    services->preferences.setLaunchLoginPromptSuppressed(true);
+    launch();
+    delegate->showMainWindow();
+    delegate->checkForUpdates();
+    window()->close();
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 0);
+    ViewWindow::allVisible().front()->window().close();
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 1);
 }
 
 TEST_F(AppDelegateTest, LooksAsTheSettingsSay) {
@@ -158,6 +175,61 @@ TEST_F(AppDelegateTest, GoesOnCapturingWithItsWindowClosed) {
     EXPECT_TRUE(window()->isVisible());
     EXPECT_EQ(delegate->mainWindow()->content().list()->filteredNotifications().size(), 1U);
 }
+
+TEST_F(AppDelegateTest, AsksAboutTheLoginAfterTheLaunch) {
+    launch();
+    EXPECT_EQ(delegate->permissionFlow()->launchPromptWindow(), nullptr);
+    system.scheduler.advance(0.6);
+    EXPECT_NE(delegate->permissionFlow()->launchPromptWindow(), nullptr);
+}
+
+TEST_F(AppDelegateTest, LeavesUpdatesToTheSystemThatHasAnUpdater) {
+    desktop.updater.isOwn = true;
+    launch();
+    chooseInStatusMenu(u"Check for Updates…"_qs);
+    EXPECT_EQ(desktop.updater.checks, 1);
+    EXPECT_THAT(ViewWindow::allVisible(), IsEmpty());
+}
+
+TEST_F(AppDelegateTest, SaysWhichVersionRunsAndHowNewOnesCome) {
+    QCoreApplication::setApplicationVersion(u"4.5.6"_qs);
+    launch();
+    for (int time = 0; time < 2; ++time) {
+        chooseInStatusMenu(u"Check for Updates…"_qs);
+        ASSERT_EQ(ViewWindow::allVisible().size(), 1U);
+        ViewWindow& notice = *ViewWindow::allVisible().front();
+        EXPECT_EQ(&notice, ViewWindow::titled(u"Tessarine Updates"_qs));
+        EXPECT_EQ(notice.root().findChild<QObject*>(u"version"_qs)->property("text").toString(),
+                  u"Tessarine 4.5.6"_qs);
+        EXPECT_EQ(desktop.application.activated.back(), &notice.window());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&notice.window(), testing::patienceMs));
+        QTest::keyClick(&notice.window(), time == 0 ? Qt::Key_Escape : Qt::Key_Return);
+        EXPECT_THAT(ViewWindow::allVisible(), IsEmpty());
+    }
+}
+
+class UpdatePicturesTest : public AppDelegateTest,
+                           public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(UpdatePicturesTest, NothingIsCutInTheNoticeOfUpdates) {
+    QCoreApplication::setApplicationVersion(u"4.5.6"_qs);
+    launch();
+    delegate->applyAppearance(QLatin1String(GetParam()));
+    delegate->checkForUpdates();
+    QQuickView& notice = ViewWindow::allVisible().front()->window();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&notice, testing::patienceMs));
+    const QImage picture = testing::stillPicture(notice);
+    const QRectF bounds(QPointF(), notice.size());
+    EXPECT_EQ(testing::textsOutside(*notice.contentItem(), bounds), QStringList());
+    const auto* const close = notice.rootObject()->findChild<QQuickItem*>(u"close"_qs);
+    EXPECT_TRUE(bounds.contains(close->mapRectToScene(close->boundingRect())));
+    const QString name = u"updates-%1@%2x.png"_qs.arg(QLatin1String(GetParam()))
+                             .arg(notice.effectiveDevicePixelRatio());
+    EXPECT_TRUE(testing::savePicture(picture, QStringLiteral(PICTURES_FOLDER), name));
+}
+
+INSTANTIATE_TEST_SUITE_P(Pictures, UpdatePicturesTest, ::testing::Values("light", "dark"),
+                         [](const auto& info) { return std::string(info.param); });
 
 TEST_F(AppDelegateTest, FollowsTheModeThatItIsTold) {
     launch();

@@ -36,7 +36,7 @@ protected:
     QTemporaryDir folder;
     testing::SimulatedPlatform system{folder.path()};
     Services services{system.platform};
-    LaunchFlow flow{services};
+    LaunchFlow flow{services, [] {}};
     qint64 lastNoteId = 0;
 };
 
@@ -44,6 +44,13 @@ TEST_F(LaunchFlowTest, CapturesOnceItHasBegun) {
     EXPECT_FALSE(services.listener->isStarted());
     flow.begin();
     EXPECT_TRUE(services.listener->isStarted());
+}
+
+TEST_F(LaunchFlowTest, ChecksWhatTheProgramMayDoOnceItIsAtWork) {
+    bool wasAtWork = false;
+    LaunchFlow other{services, [&] { wasAtWork = services.listener->isStarted(); }};
+    other.begin();
+    EXPECT_TRUE(wasAtWork);
 }
 
 TEST_F(LaunchFlowTest, LetsGoWhatIsTooOldBeforeTheListIsRead) {

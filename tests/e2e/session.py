@@ -105,6 +105,7 @@ class Session:
             "UBSAN_OPTIONS": os.environ.get("UBSAN_OPTIONS", ""),
         }
         self.give_to_user(self.root)
+        self.write_defaults("")
 
     def give_to_user(self, path):
         if self.user is None:
@@ -212,9 +213,11 @@ class Session:
     def titles(self):
         return [row[0] for row in self.query("SELECT title FROM notifications ORDER BY id")]
 
-    def write_defaults(self, text):
+    def write_defaults(self, text, asks_about_login=False):
+        """The settings, as a user has them who has answered all questions of the program."""
         self.config.mkdir(parents=True, exist_ok=True)
-        (self.config / DEFAULTS).write_text(f"[General]\n{text}\n")
+        answered = "" if asks_about_login else "launchLoginPromptSuppressed=true\n"
+        (self.config / DEFAULTS).write_text(f"[General]\n{answered}{text}\n")
         self.give_to_user(self.home)
 
     def defaults(self):
@@ -239,6 +242,14 @@ class Session:
         for window in self.windows("--onlyvisible", "--class", "tessarine"):
             geometry = self.xdotool("getwindowgeometry", "--shell", window)
             if int(dict(line.split("=") for line in geometry.split()).get("HEIGHT", 0)) in heights:
+                return window
+        return None
+
+    def visible_window_of(self, width, height):
+        """The program's window on the screen that has this size."""
+        for window in self.windows("--onlyvisible", "--class", "tessarine"):
+            if f"WIDTH={width}\nHEIGHT={height}\n" in self.xdotool("getwindowgeometry", "--shell",
+                                                                 window):
                 return window
         return None
 

@@ -113,6 +113,53 @@ class SingleInstance(SessionTestCase):
         self.session.assert_running(program)
 
 
+class LoginQuestion(SessionTestCase):
+    """Whether to start at login, asked at each start until there is an answer for good."""
+
+    def setUp(self):
+        super().setUp()
+        self.session.write_defaults("", asks_about_login=True)
+        self.autostart = self.session.config / "autostart/com.zorvek.Tessarine.desktop"
+
+    def question(self):
+        return self.session.visible_window_of(440, 300)
+
+    def start_and_answer(self, key):
+        program = self.session.start_program()
+        window = wait_until(self.question, "the question")
+        self.session.xdotool("windowfocus", "--sync", window, "key", key)
+        wait_until(lambda: not self.question(), "the end of the question")
+        return program
+
+    def start_without_a_question(self):
+        self.session.start_program()
+        wait_until(self.session.visible_panel, "the panel")  # comes two seconds after the start
+        self.assertIsNone(self.question())
+
+    def test_yes_makes_an_entry_and_ends_the_questions(self):
+        program = self.start_and_answer("Return")
+        wait_until(self.autostart.exists, "the entry")
+        self.session.kill(program)
+        wait_until(lambda: not self.session.visible_panel(), "no panel")
+        self.start_without_a_question()
+
+    def test_not_now_is_for_this_time(self):
+        self.session.kill(self.start_and_answer("Escape"))
+        self.assertFalse(self.autostart.exists())
+        self.start_and_answer("Escape")
+
+    def test_never_is_for_good(self):
+        program = self.session.start_program()
+        window = wait_until(self.question, "the question")
+        self.session.xdotool("windowfocus", "--sync", window, "key", "Tab", "key", "space")
+        wait_until(lambda: self.session.defaults().get("launchLoginPromptSuppressed") == "true",
+                   "the setting")
+        self.session.kill(program)
+        wait_until(lambda: not self.session.visible_panel(), "no panel")
+        self.assertFalse(self.autostart.exists())
+        self.start_without_a_question()
+
+
 class HoardFile(SessionTestCase):
     def test_only_the_user_can_read_it(self):
         self.session.start_program()

@@ -24,9 +24,10 @@ const QString lastSeenKey = u"menuBarLastSeenCount"_qs;
 class MenuBarTest : public ::testing::Test {
 protected:
     void launch() {
-        controller_.emplace(
-            item_, listener_, system_.defaults, launchAgent_, [this] { ++opened_; },
-            [this] { ++quit_; });
+        controller_.emplace(item_, listener_, system_.defaults, launchAgent_,
+                            MenuBarController::Actions{[this] { ++opened_; },
+                                                       [this] { ++updateChecks_; },
+                                                       [this] { ++quit_; }});
     }
 
     void publish(std::size_t count) { listener_->setNotifications(NotificationList(count)); }
@@ -39,6 +40,7 @@ protected:
     testing::SimulatedStatusItem item_;
     std::optional<MenuBarController> controller_;
     int opened_ = 0;
+    int updateChecks_ = 0;
     int quit_ = 0;
 };
 
@@ -150,10 +152,11 @@ TEST_F(MenuBarTest, TheMenuHasItsItemsInTheirOrder) {
     for (const QAction* action : menu.actions())
         texts << (action->isSeparator() ? u"-"_qs : action->text());
     EXPECT_EQ(texts, QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"-"_qs,
-                                  u"Launch at Login"_qs, u"-"_qs, u"Quit Tessarine"_qs}));
+                                  u"Launch at Login"_qs, u"-"_qs, u"Check for Updates…"_qs, u"-"_qs,
+                                  u"Quit Tessarine"_qs}));
     EXPECT_FALSE(menu.actions()[0]->isEnabled());
     EXPECT_EQ(menu.actions()[2]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
-    EXPECT_EQ(menu.actions()[6]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    EXPECT_EQ(menu.actions()[8]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
 
 TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
@@ -164,6 +167,8 @@ TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
     EXPECT_EQ(opened_, 1);
     EXPECT_EQ(quit_, 0);
     menu.actions()[6]->trigger();
+    EXPECT_EQ(updateChecks_, 1);
+    menu.actions()[8]->trigger();
     EXPECT_EQ(quit_, 1);
 }
 

@@ -21,6 +21,9 @@ public:
     }
     void setTip(const QString& text) override { tip = text; }
     void setActivation(std::function<void()> handler) override { activation = std::move(handler); }
+    void setAlternateActivation(std::function<void()> handler) override {
+        alternateActivation = std::move(handler);
+    }
     void keepPlaceIn(UserDefaults&) override {}
     void setMenuBuilder(MenuBuilder builder) override { menuBuilder = std::move(builder); }
     void show() override { shown = true; }
@@ -31,6 +34,7 @@ public:
     int titlesSet = 0;
     QString tip;
     std::function<void()> activation;
+    std::function<void()> alternateActivation;
     MenuBuilder menuBuilder;
     bool shown = false;
 };
@@ -106,6 +110,17 @@ public:
     int memoryReturns = 0;
 };
 
+class SimulatedUpdater : public Updater {
+public:
+    bool checkForUpdates() override {
+        ++checks;
+        return isOwn;
+    }
+
+    bool isOwn = false; // whether the system has an updater for the program
+    int checks = 0;
+};
+
 // The whole simulated desktop, with its parts at hand for the test.
 struct SimulatedDesktop {
     explicit SimulatedDesktop(std::unique_ptr<Symbols> symbols);
@@ -119,6 +134,7 @@ struct SimulatedDesktop {
     SimulatedStatusItem& statusItem;
     SimulatedSavePanel& savePanel;
     SimulatedFileViewer& fileViewer;
+    SimulatedUpdater& updater;
 };
 
 inline SimulatedDesktop::SimulatedDesktop(std::unique_ptr<Symbols> symbols)
@@ -128,12 +144,14 @@ inline SimulatedDesktop::SimulatedDesktop(std::unique_ptr<Symbols> symbols)
               std::make_unique<SimulatedApplicationControl>(),
               std::make_unique<SimulatedStatusItem>(),
               std::make_unique<SimulatedSavePanel>(),
-              std::make_unique<SimulatedFileViewer>()}
+              std::make_unique<SimulatedFileViewer>(),
+              std::make_unique<SimulatedUpdater>()}
     , icons(static_cast<SimulatedApplicationIcons&>(*desktop.applicationIcons))
     , appearance(static_cast<SimulatedAppearance&>(*desktop.appearance))
     , application(static_cast<SimulatedApplicationControl&>(*desktop.application))
     , statusItem(static_cast<SimulatedStatusItem&>(*desktop.statusItem))
     , savePanel(static_cast<SimulatedSavePanel&>(*desktop.savePanel))
-    , fileViewer(static_cast<SimulatedFileViewer&>(*desktop.fileViewer)) {}
+    , fileViewer(static_cast<SimulatedFileViewer&>(*desktop.fileViewer))
+    , updater(static_cast<SimulatedUpdater&>(*desktop.updater)) {}
 
 } // namespace tessarine::testing

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ApplicationControl.h"
+#include "platform/Updater.h"
 
 namespace tessarine {
 
@@ -13,6 +14,12 @@ public:
     void activate(QWindow& window) override;
 
     void returnFreeMemory() override;
+};
+
+// Here the package manager brings new versions.
+class LinuxUpdater : public Updater {
+public:
+    bool checkForUpdates() override { return false; }
 };
 
 } // namespace tessarine

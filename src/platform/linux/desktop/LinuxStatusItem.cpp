@@ -7,6 +7,7 @@
 #include "platform/linux/desktop/StatusPicture.h"
 #include "platform/linux/desktop/WidgetPalette.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -14,6 +15,11 @@
 namespace tessarine {
 
 namespace {
+
+void call(const std::function<void()>& action) {
+    if (action)
+        action();
+}
 
 // Whether two menus would look and work alike. What an item does follows from how it reads.
 bool sameItems(const QMenu& left, const QMenu& right) {
@@ -82,6 +88,10 @@ void LinuxStatusItem::setActivation(std::function<void()> activation) {
     activation_ = std::move(activation);
 }
 
+void LinuxStatusItem::setAlternateActivation(std::function<void()> activation) {
+    alternateActivation_ = std::move(activation);
+}
+
 void LinuxStatusItem::setMenuBuilder(MenuBuilder builder) {
     builder_ = std::move(builder);
 }
@@ -133,13 +143,18 @@ void LinuxStatusItem::showInTray() {
     refillTrayMenu();
     tray_ = std::make_unique<QSystemTrayIcon>();
     tray_->setContextMenu(trayMenu_.get());
-    connect(tray_.get(), &QSystemTrayIcon::activated, this,
-            [this](QSystemTrayIcon::ActivationReason reason) {
-                if (reason == QSystemTrayIcon::Trigger && activation_)
-                    activation_();
-            });
+    connect(tray_.get(), &QSystemTrayIcon::activated, this, &LinuxStatusItem::onTrayActivated);
     refresh();
     tray_->show();
+}
+
+// A tray tells the button and not the keys; these are asked for where the desktop lets a program.
+void LinuxStatusItem::onTrayActivated(QSystemTrayIcon::ActivationReason reason) {
+    const bool isAltHeld = QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier);
+    if (reason == QSystemTrayIcon::MiddleClick || (reason == QSystemTrayIcon::Trigger && isAltHeld))
+        call(alternateActivation_);
+    else if (reason == QSystemTrayIcon::Trigger)
+        call(activation_);
 }
 
 void LinuxStatusItem::showOnPanel() {
@@ -148,6 +163,8 @@ void LinuxStatusItem::showOnPanel() {
     if (!panel_) {
         panel_ = std::make_unique<LinuxStatusPanel>(symbols_, appearance_);
         connect(panel_.get(), &LinuxStatusPanel::menuRequested, this, &LinuxStatusItem::popUpMenu);
+        connect(panel_.get(), &LinuxStatusPanel::alternateRequested, this,
+                [this] { call(alternateActivation_); });
         connect(panel_.get(), &LinuxStatusPanel::placed, this, &LinuxStatusItem::savePlace);
         restorePlace();
     }

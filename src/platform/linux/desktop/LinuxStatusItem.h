@@ -36,6 +36,7 @@ public:
     void setTitle(const QString& title) override;
     void setTip(const QString& tip) override;
     void setActivation(std::function<void()> activation) override;
+    void setAlternateActivation(std::function<void()> activation) override;
     void setMenuBuilder(MenuBuilder builder) override;
     void keepPlaceIn(UserDefaults& defaults) override;
     void show() override;
@@ -50,6 +51,7 @@ private:
     void refreshTip();
     void refillTrayMenu();
     void popUpMenu(const QPoint& place);
+    void onTrayActivated(QSystemTrayIcon::ActivationReason reason);
     void restorePlace();
     void savePlace();
 
@@ -60,6 +62,7 @@ private:
     QString title_;
     QString tip_;
     std::function<void()> activation_;
+    std::function<void()> alternateActivation_;
     MenuBuilder builder_;
     UserDefaults* defaults_ = nullptr; // null: the place is not kept
     LinuxTrayWatch watch_;

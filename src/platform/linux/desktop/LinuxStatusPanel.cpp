@@ -157,8 +157,8 @@ void LinuxStatusPanel::paintEvent(QPaintEvent*) {
 }
 
 void LinuxStatusPanel::mousePressEvent(QMouseEvent* event) {
-    const bool isOurs = event->button() == Qt::LeftButton || event->button() == Qt::RightButton;
-    if (!isOurs || !face().contains(event->position().toPoint()))
+    constexpr Qt::MouseButtons ours = Qt::LeftButton | Qt::RightButton | Qt::MiddleButton;
+    if (!ours.testFlag(event->button()) || !face().contains(event->position().toPoint()))
         return;
     pressedAt_ = event->globalPosition().toPoint();
     grip_ = pressedAt_ - pos();
@@ -184,14 +184,18 @@ void LinuxStatusPanel::dragTo(const QPoint& pointer) {
     isDragged_ = true;
 }
 
-void LinuxStatusPanel::mouseReleaseEvent(QMouseEvent*) {
+void LinuxStatusPanel::mouseReleaseEvent(QMouseEvent* event) {
     const bool isClick = grip_ && isDown();
     grip_.reset();
     setDown(false);
     if (std::exchange(isDragged_, false))
         Q_EMIT placed();
-    if (isClick)
-        requestMenu();
+    if (!isClick)
+        return;
+    if (event->button() == Qt::MiddleButton)
+        Q_EMIT alternateRequested();
+    else
+        request(event->modifiers());
 }
 
 void LinuxStatusPanel::keyPressEvent(QKeyEvent* event) {
@@ -200,7 +204,7 @@ void LinuxStatusPanel::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Menu:
-        requestMenu();
+        request(event->modifiers());
         break;
     default:
         QAbstractButton::keyPressEvent(event);
@@ -210,6 +214,13 @@ void LinuxStatusPanel::keyPressEvent(QKeyEvent* event) {
 // The other ways by which a platform asks for a menu; the right button has asked already.
 void LinuxStatusPanel::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() == QContextMenuEvent::Keyboard)
+        requestMenu();
+}
+
+void LinuxStatusPanel::request(Qt::KeyboardModifiers modifiers) {
+    if (modifiers.testFlag(Qt::AltModifier))
+        Q_EMIT alternateRequested();
+    else
         requestMenu();
 }
 

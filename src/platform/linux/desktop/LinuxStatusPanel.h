@@ -11,8 +11,9 @@ class SystemAppearance;
 
 // The status item on a desktop without a tray: a small rounded window in the lower right corner of
 // the screen, above the others and in no task bar, that comes without taking the keyboard and can
-// be dragged away. Either mouse button asks for the menu, and so do Space, Return and the menu key
-// once it has the keyboard.
+// be dragged away. Left and right mouse button ask for the menu, and so do Space, Return and the
+// menu key once it has the keyboard; with Alt held they ask for what else there is, and so does the
+// middle button.
 class LinuxStatusPanel : public QAbstractButton {
     Q_OBJECT
 
@@ -37,7 +38,8 @@ public:
 
 Q_SIGNALS:
     void menuRequested(const QPoint& place); // on the screen
-    void placed();                           // by the user, who has let go of it
+    void alternateRequested();
+    void placed(); // by the user, who has let go of it
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -48,6 +50,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void request(Qt::KeyboardModifiers modifiers);
     void requestMenu();
     void dragTo(const QPoint& pointer);
     void stayOnScreen();

@@ -396,8 +396,21 @@ TEST_F(PanelTest, EitherMouseButtonAsksForTheMenu) {
     EXPECT_EQ(requests_.count(), 1);
     QTest::mouseClick(&panel_, Qt::RightButton);
     EXPECT_EQ(requests_.count(), 2);
-    QTest::mouseClick(&panel_, Qt::MiddleButton);
+    QTest::mouseClick(&panel_, Qt::BackButton);
     EXPECT_EQ(requests_.count(), 2);
+}
+
+TEST_F(PanelTest, AltAndTheMiddleButtonAskForTheOther) {
+    const QSignalSpy others(&panel_, &LinuxStatusPanel::alternateRequested);
+    QTest::mouseClick(&panel_, Qt::MiddleButton);
+    EXPECT_EQ(others.count(), 1);
+    QTest::mouseClick(&panel_, Qt::LeftButton, Qt::AltModifier);
+    EXPECT_EQ(others.count(), 2);
+    QTest::mouseClick(&panel_, Qt::RightButton, Qt::AltModifier);
+    EXPECT_EQ(others.count(), 3);
+    QTest::keyClick(&panel_, Qt::Key_Return, Qt::AltModifier);
+    EXPECT_EQ(others.count(), 4);
+    EXPECT_EQ(requests_.count(), 0);
 }
 
 TEST_F(PanelTest, SpaceReturnAndTheMenuKeyAskForTheMenu) {
@@ -485,6 +498,19 @@ TEST_F(StatusItemTest, WithoutATrayThePanelComesAfterTheGraceTime) {
         QTest::keyClick(menu, Qt::Key_Return);
         EXPECT_EQ(triggered_, click);
     }
+}
+
+TEST_F(StatusItemTest, TheOtherClickOpensNoMenuAndKeepsNone) {
+    int others = 0;
+    item_.show();
+    ASSERT_TRUE(turnsUntil([] { return panel() != nullptr; }));
+    QTest::mouseClick(panel(), Qt::MiddleButton); // before there is something for it to do
+    item_.setAlternateActivation([&] { ++others; });
+    QTest::mouseClick(panel(), Qt::MiddleButton);
+    QTest::mouseClick(panel(), Qt::LeftButton, Qt::AltModifier);
+    EXPECT_EQ(others, 2);
+    EXPECT_EQ(built_, 0);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(StatusItemTest, ThePanelComesBackToWhereTheUserPutIt) {
