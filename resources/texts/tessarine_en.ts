@@ -263,7 +263,7 @@
     </message>
     <message id="launchAtLogin.info.silentStart">
         <source>launchAtLogin.info.silentStart</source>
-        <translation>It starts without a window. You see nothing but its bell.</translation>
+        <translation>It starts without a window. You see nothing but its bell in the menu bar.</translation>
     </message>
     <message id="launchAtLogin.prompt.subtitle">
         <source>launchAtLogin.prompt.subtitle</source>

@@ -3,14 +3,14 @@
 #include "theme/Fonts.h"
 #include "theme/ProgramIcon.h"
 #include "theme/SymbolProvider.h"
+#include "theme/Texts.h"
 #include "theme/Theme.h"
 
-#include <QCoreApplication>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QQmlEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
-#include <QTranslator>
 
 // In the sources that Qt makes for the modules. Naming them keeps a static library's types from
 // being left out of the program.
@@ -19,21 +19,10 @@ void qml_register_types_Tessarine_Theme();
 
 namespace tessarine {
 
-namespace {
-
-void installTexts() {
-    auto* translator = new QTranslator(QCoreApplication::instance());
-    if (!translator->load(QStringLiteral(":/texts/tessarine_en.qm")))
-        qFatal("The program was built without its texts");
-    QCoreApplication::installTranslator(translator);
-}
-
-} // namespace
-
 void registerUi() {
     [[maybe_unused]] const volatile auto controls = &qml_register_types_Tessarine_Controls;
     [[maybe_unused]] const volatile auto theme = &qml_register_types_Tessarine_Theme;
-    installTexts();
+    installTexts(QLocale().uiLanguages());
     QGuiApplication::setFont(textFont());
     QGuiApplication::setWindowIcon(programIcon());
     QQuickStyle::setStyle(QStringLiteral("Basic"));
