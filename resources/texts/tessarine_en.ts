@@ -277,6 +277,14 @@
         <source>menu.checkForUpdates</source>
         <translation>Check for Updates…</translation>
     </message>
+    <message id="menu.fullDiskAccess">
+        <source>menu.fullDiskAccess</source>
+        <translation>Full Disk Access…</translation>
+    </message>
+    <message id="menu.help.title">
+        <source>menu.help.title</source>
+        <translation>Tessarine Help</translation>
+    </message>
     <message id="menu.launchAtLogin">
         <source>menu.launchAtLogin</source>
         <translation>Launch at Login</translation>
@@ -296,9 +304,277 @@
         <source>menu.quit</source>
         <translation>Quit Tessarine</translation>
     </message>
+    <message id="menu.welcome.title">
+        <source>menu.welcome.title</source>
+        <translation>Welcome Guide…</translation>
+    </message>
+    <message id="onboarding.ax.granted">
+        <source>onboarding.ax.granted</source>
+        <translation>Granted: Tessarine can see notifications as they come.</translation>
+    </message>
+    <message id="onboarding.ax.howToEnable">
+        <source>onboarding.ax.howToEnable</source>
+        <translation>Open the settings of the system, find Tessarine in the list, and switch it on.</translation>
+    </message>
+    <message id="onboarding.ax.noPermissionWarning">
+        <source>onboarding.ax.noPermissionWarning</source>
+        <translation>Without it, banners are not seen. Only what the system’s database holds can be kept, if Tessarine may read that.</translation>
+    </message>
+    <message id="onboarding.ax.notGranted">
+        <source>onboarding.ax.notGranted</source>
+        <translation>Not granted yet</translation>
+    </message>
+    <message id="onboarding.ax.openSettings">
+        <source>onboarding.ax.openSettings</source>
+        <translation>Open System Settings</translation>
+    </message>
+    <message id="onboarding.ax.openSettings.hint">
+        <source>onboarding.ax.openSettings.hint</source>
+        <translation>This page notices by itself when the permission is there.</translation>
+    </message>
+    <message id="onboarding.ax.subtitle">
+        <source>onboarding.ax.subtitle</source>
+        <translation>Tessarine reads banners through the Accessibility permission of macOS, at the moment they appear.</translation>
+    </message>
+    <message id="onboarding.ax.title">
+        <source>onboarding.ax.title</source>
+        <translation>Accessibility</translation>
+    </message>
+    <message id="onboarding.ax.whatItDoes.text">
+        <source>onboarding.ax.whatItDoes.text</source>
+        <translation>It reads the texts of the banners that Notification Center draws, and puts them into the hoard.</translation>
+    </message>
+    <message id="onboarding.ax.whatItDoes.title">
+        <source>onboarding.ax.whatItDoes.title</source>
+        <translation>What Tessarine does with it</translation>
+    </message>
+    <message id="onboarding.ax.whatItDoesNot.text">
+        <source>onboarding.ax.whatItDoesNot.text</source>
+        <translation>It doesn’t read other windows, doesn’t follow what you type, and doesn’t press anything for you.</translation>
+    </message>
+    <message id="onboarding.ax.whatItDoesNot.title">
+        <source>onboarding.ax.whatItDoesNot.title</source>
+        <translation>What it doesn’t do</translation>
+    </message>
+    <message id="onboarding.btn.agreeAndContinue">
+        <source>onboarding.btn.agreeAndContinue</source>
+        <translation>Agree and Continue</translation>
+    </message>
+    <message id="onboarding.btn.back">
+        <source>onboarding.btn.back</source>
+        <translation>Back</translation>
+    </message>
+    <message id="onboarding.btn.continue">
+        <source>onboarding.btn.continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message id="onboarding.btn.continueWithout">
+        <source>onboarding.btn.continueWithout</source>
+        <translation>Continue Without</translation>
+    </message>
+    <message id="onboarding.btn.done">
+        <source>onboarding.btn.done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="onboarding.btn.start">
+        <source>onboarding.btn.start</source>
+        <translation>Start Tessarine</translation>
+    </message>
+    <message id="onboarding.eula.agree">
+        <source>onboarding.eula.agree</source>
+        <translation>I have read the agreement and accept it</translation>
+    </message>
+    <message id="onboarding.eula.scrollHint">
+        <source>onboarding.eula.scrollHint</source>
+        <translation>Scroll to the end to go on.</translation>
+    </message>
+    <message id="onboarding.eula.subtitle">
+        <source>onboarding.eula.subtitle</source>
+        <translation>Please read it to the end. Nothing is recorded before you agree.</translation>
+    </message>
+    <message id="onboarding.eula.title">
+        <source>onboarding.eula.title</source>
+        <translation>The Agreement</translation>
+    </message>
+    <message id="onboarding.feature1.text">
+        <source>onboarding.feature1.text</source>
+        <translation>Tessarine keeps each notification when it comes, also those that you never saw.</translation>
+    </message>
+    <message id="onboarding.feature1.title">
+        <source>onboarding.feature1.title</source>
+        <translation>Nothing gets lost</translation>
+    </message>
+    <message id="onboarding.feature2.text">
+        <source>onboarding.feature2.text</source>
+        <translation>The hoard is one file in your home folder. There is no account and no server.</translation>
+    </message>
+    <message id="onboarding.feature2.title">
+        <source>onboarding.feature2.title</source>
+        <translation>All on this computer</translation>
+    </message>
+    <message id="onboarding.feature3.text">
+        <source>onboarding.feature3.text</source>
+        <translation>Search all texts, filter by app and by day, pin what matters, delete what doesn’t.</translation>
+    </message>
+    <message id="onboarding.feature3.title">
+        <source>onboarding.feature3.title</source>
+        <translation>Found in a moment</translation>
+    </message>
+    <message id="onboarding.feature4.text">
+        <source>onboarding.feature4.text</source>
+        <translation>Notifications that your iPhone passes on to this Mac are kept like all others.</translation>
+    </message>
+    <message id="onboarding.feature4.title">
+        <source>onboarding.feature4.title</source>
+        <translation>Your iPhone too</translation>
+    </message>
+    <message id="onboarding.privacy.reviewNote">
+        <source>onboarding.privacy.reviewNote</source>
+        <translation>You can read this again in the preferences, under Privacy.</translation>
+    </message>
+    <message id="onboarding.privacy.row1.text">
+        <source>onboarding.privacy.row1.text</source>
+        <translation>Everything is stored on this computer, readable by your account alone.</translation>
+    </message>
+    <message id="onboarding.privacy.row1.title">
+        <source>onboarding.privacy.row1.title</source>
+        <translation>It stays here</translation>
+    </message>
+    <message id="onboarding.privacy.row2.text">
+        <source>onboarding.privacy.row2.text</source>
+        <translation>Whoever can use your account or read your disk can read your notifications.</translation>
+    </message>
+    <message id="onboarding.privacy.row2.title">
+        <source>onboarding.privacy.row2.title</source>
+        <translation>It isn’t encrypted</translation>
+    </message>
+    <message id="onboarding.privacy.row3.text">
+        <source>onboarding.privacy.row3.text</source>
+        <translation>One-time codes are kept like all else. The preferences can delete them after some hours.</translation>
+    </message>
+    <message id="onboarding.privacy.row3.title">
+        <source>onboarding.privacy.row3.title</source>
+        <translation>It may hold codes</translation>
+    </message>
+    <message id="onboarding.privacy.row4.text">
+        <source>onboarding.privacy.row4.text</source>
+        <translation>One row, an app, a day, or everything, at any time.</translation>
+    </message>
+    <message id="onboarding.privacy.row4.title">
+        <source>onboarding.privacy.row4.title</source>
+        <translation>You can delete it</translation>
+    </message>
+    <message id="onboarding.privacy.subtitle">
+        <source>onboarding.privacy.subtitle</source>
+        <translation>What you should know about your hoard before it grows.</translation>
+    </message>
+    <message id="onboarding.privacy.title">
+        <source>onboarding.privacy.title</source>
+        <translation>Your Privacy</translation>
+    </message>
+    <message id="onboarding.welcome.subtitle">
+        <source>onboarding.welcome.subtitle</source>
+        <translation>Every notification your computer shows, kept and searchable.</translation>
+    </message>
+    <message id="onboarding.welcome.timeHint">
+        <source>onboarding.welcome.timeHint</source>
+        <translation>This takes about a minute.</translation>
+    </message>
+    <message id="onboarding.welcome.title">
+        <source>onboarding.welcome.title</source>
+        <translation>Welcome to Tessarine</translation>
+    </message>
+    <message id="onboarding.window.title">
+        <source>onboarding.window.title</source>
+        <translation>Welcome to Tessarine</translation>
+    </message>
     <message id="pageDots.position">
         <source>pageDots.position</source>
         <translation>Step %1 of %2</translation>
+    </message>
+    <message id="perm.fda.benefits.header">
+        <source>perm.fda.benefits.header</source>
+        <translation>What you gain</translation>
+    </message>
+    <message id="perm.fda.enabled">
+        <source>perm.fda.enabled</source>
+        <translation>I Have Switched It On</translation>
+    </message>
+    <message id="perm.fda.howto.header">
+        <source>perm.fda.howto.header</source>
+        <translation>How to switch it on</translation>
+    </message>
+    <message id="perm.fda.laterHint">
+        <source>perm.fda.laterHint</source>
+        <translation>You can do this at any time later, from the menu of the bell.</translation>
+    </message>
+    <message id="perm.fda.notDetected">
+        <source>perm.fda.notDetected</source>
+        <translation>The database still can’t be read. Check the switch, or quit Tessarine and start it again.</translation>
+    </message>
+    <message id="perm.fda.openSettings">
+        <source>perm.fda.openSettings</source>
+        <translation>Open System Settings</translation>
+    </message>
+    <message id="perm.fda.picture">
+        <source>perm.fda.picture</source>
+        <translation>The list of programs under Full Disk Access, with the switch of Tessarine on</translation>
+    </message>
+    <message id="perm.fda.reason1">
+        <source>perm.fda.reason1</source>
+        <translation>Notifications that came while Tessarine was not running are recovered, as far as the system still has them.</translation>
+    </message>
+    <message id="perm.fda.reason2">
+        <source>perm.fda.reason2</source>
+        <translation>Notifications that come without a banner are kept too.</translation>
+    </message>
+    <message id="perm.fda.restartHint">
+        <source>perm.fda.restartHint</source>
+        <translation>The system may ask to quit Tessarine and open it again for the change to take effect.</translation>
+    </message>
+    <message id="perm.fda.skip">
+        <source>perm.fda.skip</source>
+        <translation>Skip</translation>
+    </message>
+    <message id="perm.fda.step1">
+        <source>perm.fda.step1</source>
+        <translation>Open System Settings.</translation>
+    </message>
+    <message id="perm.fda.step2">
+        <source>perm.fda.step2</source>
+        <translation>Go to Privacy &amp; Security.</translation>
+    </message>
+    <message id="perm.fda.step3">
+        <source>perm.fda.step3</source>
+        <translation>Choose Full Disk Access.</translation>
+    </message>
+    <message id="perm.fda.step4">
+        <source>perm.fda.step4</source>
+        <translation>Switch Tessarine on. If it isn’t in the list, add it with the + button.</translation>
+    </message>
+    <message id="perm.fda.step5">
+        <source>perm.fda.step5</source>
+        <translation>Come back to this window.</translation>
+    </message>
+    <message id="perm.fda.subtitle">
+        <source>perm.fda.subtitle</source>
+        <translation>With it, Tessarine can also read the system’s own database of notifications.</translation>
+    </message>
+    <message id="perm.fda.title">
+        <source>perm.fda.title</source>
+        <translation>Full Disk Access</translation>
+    </message>
+    <message id="perm.fda.without.header">
+        <source>perm.fda.without.header</source>
+        <translation>Without it</translation>
+    </message>
+    <message id="perm.fda.without.row1">
+        <source>perm.fda.without.row1</source>
+        <translation>Banners are kept as before.</translation>
+    </message>
+    <message id="perm.fda.without.row2">
+        <source>perm.fda.without.row2</source>
+        <translation>Silent notifications, and those from before the start, are missing.</translation>
     </message>
     <message id="preview.copy">
         <source>preview.copy</source>
@@ -315,6 +591,62 @@
     <message id="preview.title">
         <source>preview.title</source>
         <translation>Notification</translation>
+    </message>
+    <message id="privacy.block1.text">
+        <source>privacy.block1.text</source>
+        <translation>The hoard is one file in your home folder, readable by your user account alone. Nothing in it is sent anywhere.</translation>
+    </message>
+    <message id="privacy.block1.title">
+        <source>privacy.block1.title</source>
+        <translation>Stored on this computer</translation>
+    </message>
+    <message id="privacy.block2.text">
+        <source>privacy.block2.text</source>
+        <translation>Notifications hold what other people sent to you. Keep that in mind when you show, export or copy them.</translation>
+    </message>
+    <message id="privacy.block2.title">
+        <source>privacy.block2.title</source>
+        <translation>What other people wrote</translation>
+    </message>
+    <message id="privacy.block3.text">
+        <source>privacy.block3.text</source>
+        <translation>The file is plain. Whoever can use your account, or can read your disk, can read it. Encrypt your disk if that is a concern. Hiding contents changes what is shown and not what is stored.</translation>
+    </message>
+    <message id="privacy.block3.title">
+        <source>privacy.block3.title</source>
+        <translation>Not encrypted</translation>
+    </message>
+    <message id="privacy.block4.text">
+        <source>privacy.block4.text</source>
+        <translation>Files that you export, and backups that you make, are plain too, and stay until you delete them.</translation>
+    </message>
+    <message id="privacy.block4.title">
+        <source>privacy.block4.title</source>
+        <translation>Exports and backups</translation>
+    </message>
+    <message id="privacy.block5.text">
+        <source>privacy.block5.text</source>
+        <translation>You can exclude apps, delete rows, set how long they are kept, and have one-time codes deleted after some hours.</translation>
+    </message>
+    <message id="privacy.block5.title">
+        <source>privacy.block5.title</source>
+        <translation>You decide</translation>
+    </message>
+    <message id="privacy.notice.btn.understood">
+        <source>privacy.notice.btn.understood</source>
+        <translation>I Understand</translation>
+    </message>
+    <message id="privacy.notice.reviewNote">
+        <source>privacy.notice.reviewNote</source>
+        <translation>You can read this again in the preferences, under Privacy.</translation>
+    </message>
+    <message id="privacy.notice.subtitle">
+        <source>privacy.notice.subtitle</source>
+        <translation>What is stored, where, and who can read it.</translation>
+    </message>
+    <message id="privacy.notice.title">
+        <source>privacy.notice.title</source>
+        <translation>Tessarine and Your Privacy</translation>
     </message>
     <message id="progress.percent">
         <source>progress.percent</source>
@@ -499,6 +831,14 @@
     <message id="updates.window.title">
         <source>updates.window.title</source>
         <translation>Tessarine Updates</translation>
+    </message>
+    <message id="window.title.fda">
+        <source>window.title.fda</source>
+        <translation>Full Disk Access</translation>
+    </message>
+    <message id="window.title.privacy">
+        <source>window.title.privacy</source>
+        <translation>Tessarine and Your Privacy</translation>
     </message>
 </context>
 </TS>

@@ -25,7 +25,12 @@ ViewWindow::Description updateNotice() {
 
 AppDelegate::AppDelegate(ViewServices& views)
     : views_(views)
-    , launchFlow_(views.services, [this] { permissionFlow_->runPermissionChecks(); }) {}
+    , launchFlow_(views.services,
+                  {[this] { onboardingFlow_.showOnboarding(OnboardingFlow::Guide::firstRun, 0); },
+                   [this] { permissionFlow_->runPermissionChecks(); }})
+    , onboardingFlow_(views, {[this] { permissionFlow_->runPermissionChecks(); },
+                              [this] { launchFlow_.finishStartup(); },
+                              [] { QCoreApplication::quit(); }}) {}
 
 AppDelegate::~AppDelegate() {
     // Going, a window hides, which asks the guard whether this object lives.
@@ -42,17 +47,37 @@ void AppDelegate::applicationDidFinishLaunching() {
     applyAppearance(services.preferences.appearanceMode());
     launchAgent_ = std::make_unique<LaunchAgentManager>(*services.platform.loginItem,
                                                         *services.platform.fileSystem);
-    permissionFlow_ = std::make_unique<PermissionFlow>(views_, *launchAgent_);
+    permissionFlow_ = std::make_unique<PermissionFlow>(views_, *launchAgent_, [this] {
+        onboardingFlow_.showOnboarding(OnboardingFlow::Guide::later, 1);
+    });
     menuBarController_ = std::make_unique<MenuBarController>(
         *views_.desktop.statusItem, services.listener, defaults, *launchAgent_, menuActions());
     mainWindow_ = std::make_unique<MainWindow>(views_.browser(), defaults, *views_.engine);
     watchWindow(*mainWindow_->window());
-    launchFlow_.begin();
+    launchFlow_.beginLaunchFlow();
 }
 
 MenuBarController::Actions AppDelegate::menuActions() {
-    return {[this] { showMainWindow(); }, [this] { checkForUpdates(); },
-            [] { QCoreApplication::quit(); }};
+    MenuBarController::Actions actions;
+    actions.openHoard = [this] { showMainWindow(); };
+    actions.openWelcomeGuide =
+        afterConsent([this] { onboardingFlow_.showOnboarding(OnboardingFlow::Guide::later, 0); });
+    actions.openFullDiskAccess =
+        afterConsent([this] { permissionFlow_->showFullDiskAccessPromptAgain(); });
+    actions.lacksFullDiskAccess = [this] { return permissionFlow_->lacksFullDiskAccess(); };
+    actions.checkForUpdates = [this] { checkForUpdates(); };
+    actions.quit = [] { QCoreApplication::quit(); };
+    return actions;
+}
+
+// What would read the hoard, or stand in the way of the agreement, leads to that first.
+MenuBarController::Action AppDelegate::afterConsent(MenuBarController::Action action) {
+    return [this, action = std::move(action)] {
+        if (views_.services.preferences.hasAcceptedEULA())
+            action();
+        else
+            onboardingFlow_.raiseOnboarding();
+    };
 }
 
 // Once the renderer has let go of what it had for the window, on its thread and on this one.
@@ -73,6 +98,10 @@ void AppDelegate::giveMemoryBack() {
 }
 
 void AppDelegate::showMainWindow() {
+    if (!views_.services.preferences.hasAcceptedEULA()) {
+        onboardingFlow_.raiseOnboarding();
+        return;
+    }
     mainWindow_->showAndMakeKey();
     views_.desktop.application->activate(*mainWindow_->window());
     menuBarController_->markAllSeen();

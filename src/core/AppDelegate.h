@@ -2,6 +2,7 @@
 
 #include "browser/MainWindow.h"
 #include "core/LaunchFlow.h"
+#include "core/OnboardingFlow.h"
 #include "core/PermissionFlow.h"
 #include "core/ViewServices.h"
 #include "shared/AliveGuard.h"
@@ -29,7 +30,8 @@ public:
     // The launch steps. Once, when the application runs.
     void applicationDidFinishLaunching();
 
-    // Brings the main window to the front and takes all notifications as seen.
+    // Brings the main window to the front and takes all notifications as seen. Before the user has
+    // agreed the guide comes instead, since a list would need the hoard.
     void showMainWindow();
 
     // The system's updater, or what there is to say where it has none.
@@ -43,6 +45,7 @@ public:
     void applyAppearance(const QString& mode);
 
     const LaunchFlow& launchFlow() const { return launchFlow_; }
+    OnboardingFlow& onboardingFlow() { return onboardingFlow_; }
 
     // Null until the launch steps have made it.
     const PermissionFlow* permissionFlow() const { return permissionFlow_.get(); }
@@ -52,6 +55,7 @@ public:
 
 private:
     MenuBarController::Actions menuActions();
+    MenuBarController::Action afterConsent(MenuBarController::Action action);
     void showUpdateNotice();
     void watchWindow(const QWindow& window);
     void giveMemoryBack();
@@ -59,6 +63,7 @@ private:
     ViewServices& views_;
     LaunchFlow launchFlow_;
     std::unique_ptr<LaunchAgentManager> launchAgent_;
+    OnboardingFlow onboardingFlow_;
     std::unique_ptr<PermissionFlow> permissionFlow_;
     std::unique_ptr<MenuBarController> menuBarController_;
     std::unique_ptr<MainWindow> mainWindow_;

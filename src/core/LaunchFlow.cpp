@@ -6,8 +6,12 @@
 
 namespace tessarine {
 
-void LaunchFlow::begin() {
-    finishStartup();
+void LaunchFlow::beginLaunchFlow() {
+    if (services_.preferences.hasAcceptedEULA())
+        finishStartup();
+    else
+        services_.platform.scheduler->onMainAfter(firstRunDelay,
+                                                  alive_.guard([this] { steps_.showFirstRun(); }));
 }
 
 void LaunchFlow::finishStartup() {
@@ -16,7 +20,7 @@ void LaunchFlow::finishStartup() {
     fdaConfirmedAtLaunch_ =
         services_.platform.fileSystem->grantsReading(services_.listener->usernotedDbPath());
     tellWhatIsMissing();
-    runPermissionChecks_();
+    steps_.runPermissionChecks();
 }
 
 void LaunchFlow::tellWhatIsMissing() {

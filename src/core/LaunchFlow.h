@@ -8,22 +8,28 @@
 
 namespace tessarine {
 
-// The steps of a launch that need no window, in their order. Main thread.
+// The steps of a launch in their order. Main thread.
 class LaunchFlow {
 public:
     // How long access to notifications may take to come, in seconds, before its lack is told.
     static constexpr double accessGrace = 5;
 
-    // What follows once the program is at work: the checks of what it may do.
-    using PermissionChecks = std::function<void()>;
+    // How long after the launch the guide of the first start comes, in seconds.
+    static constexpr double firstRunDelay = 0.4;
+
+    // What needs windows.
+    struct Steps {
+        std::function<void()> showFirstRun;        // leads to finishStartup once the user agrees
+        std::function<void()> runPermissionChecks; // once the program is at work
+    };
 
     // The services outlive the flow.
-    LaunchFlow(Services& services, PermissionChecks runPermissionChecks)
+    LaunchFlow(Services& services, Steps steps)
         : services_(services)
-        , runPermissionChecks_(std::move(runPermissionChecks)) {}
+        , steps_(std::move(steps)) {}
 
-    // What must not start before the user has agreed stands behind this. Leads to finishStartup.
-    void begin();
+    // The gate: nothing is captured, read or deleted before the user has agreed.
+    void beginLaunchFlow();
 
     // Lets go what the user doesn't want to keep, then captures. What makes that impossible is told
     // in a line each on standard error, for whoever started the program from a terminal or reads
@@ -37,7 +43,7 @@ private:
     void tellWhatIsMissing();
 
     Services& services_;
-    PermissionChecks runPermissionChecks_;
+    Steps steps_;
     bool fdaConfirmedAtLaunch_ = false;
     AliveGuard alive_;
 };

@@ -7,16 +7,21 @@
 
 #include <QPointer>
 
+#include <functional>
+
 namespace tessarine {
 
 // Asks the user for what the program could do more with, in a settled order. Main thread.
 class PermissionFlow {
 public:
-    // How long after the checks the question about the login comes, in seconds.
+    // How long after the checks the windows come, in seconds. The question about the login comes
+    // over the one about the files.
     static constexpr double promptDelay = 0.6;
+    static constexpr double fdaPromptDelay = 0.3;
 
-    // Both outlive the flow.
-    PermissionFlow(ViewServices& views, const LaunchAgentManager& launchAgent);
+    // Both outlive the flow. The guide leads to the permission without which nothing is seen.
+    PermissionFlow(ViewServices& views, const LaunchAgentManager& launchAgent,
+                   std::function<void()> showGuide);
     PermissionFlow(const PermissionFlow&) = delete;
     PermissionFlow& operator=(const PermissionFlow&) = delete;
     ~PermissionFlow(); // takes its windows with it
@@ -28,20 +33,39 @@ public:
     // or it stands on the screen or has been closed without an answer.
     void scheduleLaunchAtLoginPrompt();
 
-    // Null until it was shown, and after an answer. One that was closed by its frame stays.
+    // A new window in place of the one that may be there.
+    void showFullDiskAccessPrompt();
+
+    // The same for one who has skipped it before.
+    void showFullDiskAccessPromptAgain();
+
+    // Whether the system's database can't be read for want of a permission.
+    bool lacksFullDiskAccess() const;
+
+    // Null until they were shown, and after an answer. One that was closed by its frame stays.
     ViewWindow* launchPromptWindow() const { return launchPromptWindow_; }
+    ViewWindow* permissionWindow() const { return permissionWindow_; }
+
     bool launchAtLoginPromptDismissedThisSession() const {
         return launchAtLoginPromptDismissedThisSession_;
     }
+    bool fdaPromptDismissedThisSession() const { return fdaPromptDismissedThisSession_; }
 
 private:
     void showLaunchAtLoginPrompt();
-    void closeLaunchAtLoginPrompt();
+    void scheduleFullDiskAccessPrompt();
+    void onFullDiskAccessEnabled();
+    void onFullDiskAccessSkipped();
+    void bringToFront(ViewWindow& window);
+    QString fdaPath() const;
 
     ViewServices& views_;
     const LaunchAgentManager& launchAgent_;
+    std::function<void()> showGuide_;
     QPointer<ViewWindow> launchPromptWindow_;
+    QPointer<ViewWindow> permissionWindow_;
     bool launchAtLoginPromptDismissedThisSession_ = false;
+    bool fdaPromptDismissedThisSession_ = false;
     AliveGuard alive_;
 };
 

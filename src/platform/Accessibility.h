@@ -85,6 +85,10 @@ public:
     // Whether the system lets this process look. Never prompts. Any thread.
     virtual bool isProcessTrusted() const = 0;
 
+    // Makes the system ask the user for that, where it does so for a program. Returns at once; the
+    // answer shows in isProcessTrusted. Main thread.
+    virtual void promptForTrust() = 0;
+
     // Null when the process can't be observed. Main thread.
     virtual std::unique_ptr<AXObserver> createObserver(qint32 pid, AXCallback callback) = 0;
 

@@ -29,6 +29,10 @@ inline const QString lastSeenUsernotedRecIds =
 inline const QString lastSeenUsernotedRecId = QStringLiteral("lastSeenUsernotedRecId"); // integer
 inline const QString lastSeenSystemNoteId = QStringLiteral("lastSeenSystemNoteId");     // integer
 
+// Whether the user wants no more questions for access to the system's database. Bool, written by
+// PermissionFlow and by the status item's menu.
+inline const QString fdaSkipped = QStringLiteral("fdaSkipped");
+
 // The number of rows that the status item has shown last, written by MenuBarController. Integer.
 inline const QString menuBarLastSeenCount = QStringLiteral("menuBarLastSeenCount");
 

@@ -80,11 +80,14 @@ void MenuBarController::fillMenu(QMenu& menu) const {
     menu.addSeparator();
     menu.addAction(qtTrId("menu.openHoard"), QKeySequence(Qt::CTRL | Qt::Key_O), this,
                    actions_.openHoard);
+    menu.addAction(qtTrId("menu.welcome.title"), this, actions_.openWelcomeGuide);
     menu.addSeparator();
     QAction* atLogin =
         menu.addAction(qtTrId("menu.launchAtLogin"), this, [this] { launchAgent_.toggle(); });
     atLogin->setCheckable(true);
     atLogin->setChecked(launchAgent_.isEnabled());
+    if (actions_.lacksFullDiskAccess())
+        menu.addAction(qtTrId("menu.fullDiskAccess"), this, actions_.openFullDiskAccess);
     menu.addSeparator();
     menu.addAction(qtTrId("menu.checkForUpdates"), this, actions_.checkForUpdates);
     menu.addSeparator();

@@ -27,6 +27,9 @@ public:
     // What the entries of the menu do, and the click with Option.
     struct Actions {
         Action openHoard;
+        Action openWelcomeGuide;
+        Action openFullDiskAccess;
+        std::function<bool()> lacksFullDiskAccess; // asked each time that the menu opens
         Action checkForUpdates;
         Action quit;
     };

@@ -18,6 +18,9 @@ struct Palette {
     Q_PROPERTY(QColor red MEMBER red CONSTANT)
     Q_PROPERTY(QColor orange MEMBER orange CONSTANT)
     Q_PROPERTY(QColor green MEMBER green CONSTANT)
+    Q_PROPERTY(QColor yellow MEMBER yellow CONSTANT)
+    Q_PROPERTY(QColor blue MEMBER blue CONSTANT)
+    Q_PROPERTY(QColor purple MEMBER purple CONSTANT)
     Q_PROPERTY(QColor tertiaryLabel MEMBER tertiaryLabel CONSTANT)
     Q_PROPERTY(QColor accent MEMBER accent CONSTANT)
     Q_PROPERTY(QColor focusRing MEMBER focusRing CONSTANT)
@@ -53,6 +56,9 @@ public:
     QColor green;
 
     // Symbols and lines that must be seen, but hold no text
+    QColor yellow;
+    QColor blue;
+    QColor purple;
     QColor tertiaryLabel;
     QColor accent;
     QColor focusRing;

@@ -45,7 +45,8 @@ ViewWindow* viewWindowOf(const QWindow& window) {
 ViewWindow::ViewWindow(const Description& description, QQmlEngine& engine)
     : window_(std::make_unique<QQuickView>(&engine, nullptr))
     , minimumSize_(description.minimumSize)
-    , isResizable_(description.features.testFlag(WindowFeature::resizable)) {
+    , isResizable_(description.features.testFlag(WindowFeature::resizable))
+    , isClosable_(description.features.testFlag(WindowFeature::closable)) {
     window_->setProperty(viewWindowProperty, QVariant::fromValue<QObject*>(this));
     window_->setFlags(flagsOf(description.features));
     window_->setTitle(description.title);
@@ -59,8 +60,7 @@ ViewWindow::ViewWindow(const Description& description, QQmlEngine& engine)
     if (window_->status() != QQuickView::Ready)
         qFatal("%s", qPrintable(window_->errors().value(0).toString()));
     connect(window_.get(), &QWindow::visibleChanged, this, &ViewWindow::onVisibleChanged);
-    if (description.features.testFlag(WindowFeature::closable))
-        window_->installEventFilter(this);
+    window_->installEventFilter(this);
     connect(qApp, &QCoreApplication::aboutToQuit, window_.get(), &QWindow::hide);
 }
 
@@ -101,13 +101,16 @@ void ViewWindow::watchFrame() {
     connect(window_.get(), &QWindow::heightChanged, this, saveSoon);
 }
 
-// The shortcut that closes a window belongs to all of them. A key that is held down closes once,
-// and nothing that comes to the front after that.
 bool ViewWindow::eventFilter(QObject*, QEvent* event) {
-    if (event->type() != QEvent::KeyPress)
-        return false;
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (!key.matches(QKeySequence::Close))
+    if (event->type() == QEvent::Close)
+        Q_EMIT closing();
+    return event->type() == QEvent::KeyPress && press(static_cast<const QKeyEvent&>(*event));
+}
+
+// The shortcut that closes a window belongs to all that can be closed. A key that is held down
+// closes once, and nothing that comes to the front after that.
+bool ViewWindow::press(const QKeyEvent& key) {
+    if (!isClosable_ || !key.matches(QKeySequence::Close))
         return false;
     if (!key.isAutoRepeat())
         window_->close();
@@ -137,6 +140,11 @@ void ViewWindow::saveFrame() {
 
 void ViewWindow::releaseWhenClosed() {
     isReleasedWhenClosed_ = true;
+}
+
+void ViewWindow::dismiss() {
+    window_->hide();
+    deleteLater();
 }
 
 void ViewWindow::showAndMakeKey() {

@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+class QKeyEvent;
 class QQmlEngine;
 class QQuickItem;
 class QQuickView;
@@ -53,6 +54,10 @@ public:
     // Destroys the window, with this object, once it is closed. For one that is made with new.
     void releaseWhenClosed();
 
+    // Hides the window and destroys it, with this object, a moment later: so what stands in it may
+    // ask for that. For one that is made with new.
+    void dismiss();
+
     // Shows the window in front of the program's others and asks for the keyboard.
     void showAndMakeKey();
 
@@ -71,8 +76,10 @@ public:
 Q_SIGNALS:
     void shown();
     void hidden();
+    void closing(); // by its frame or by the key for that
 
 private:
+    bool press(const QKeyEvent& key); // true: the key was for the window itself
     void watchFrame();
     void saveFrame();
     void onVisibleChanged(bool visible);
@@ -80,6 +87,7 @@ private:
     std::unique_ptr<QQuickView> window_;
     QSize minimumSize_;
     bool isResizable_;
+    bool isClosable_;
     bool isReleasedWhenClosed_ = false;
     UserDefaults* defaults_ = nullptr; // null: the frame is not kept
     QString frameKey_;

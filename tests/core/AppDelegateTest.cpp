@@ -26,6 +26,9 @@ protected:
     AppDelegateTest() {
         system.defaults.setBoolean(u"NSQuitAlwaysKeepsWindows"_qs, true);
         system.defaults.setText(u"appearanceMode"_qs, u"dark"_qs);
+        system.defaults.setBoolean(u"hasAcceptedEULA"_qs, true);
+        system.defaults.setBoolean(u"fdaSkipped"_qs, true);
+        system.accessibility.trusted = true;
         services.emplace(system.platform);
         views.emplace(*services, desktop.desktop, [](const QString&) {});
         delegate.emplace(*views);

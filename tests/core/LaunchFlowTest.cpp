@@ -18,6 +18,8 @@ using ::testing::ElementsAre;
 
 class LaunchFlowTest : public ::testing::Test {
 protected:
+    LaunchFlowTest() { services.preferences.setHasAcceptedEULA(true); }
+
     void store(const QString& title, double age) {
         CapturedNotification row;
         row.noteId = ++lastNoteId;
@@ -36,20 +38,34 @@ protected:
     QTemporaryDir folder;
     testing::SimulatedPlatform system{folder.path()};
     Services services{system.platform};
-    LaunchFlow flow{services, [] {}};
+    LaunchFlow flow{services, {[this] { ++guides; }, [] {}}};
     qint64 lastNoteId = 0;
+    int guides = 0;
 };
 
 TEST_F(LaunchFlowTest, CapturesOnceItHasBegun) {
     EXPECT_FALSE(services.listener->isStarted());
-    flow.begin();
+    flow.beginLaunchFlow();
     EXPECT_TRUE(services.listener->isStarted());
+}
+
+TEST_F(LaunchFlowTest, DoesNothingButShowTheGuideBeforeTheUserHasAgreed) {
+    services.preferences.setHasAcceptedEULA(false);
+    flow.beginLaunchFlow();
+    system.scheduler.advance(0.39);
+    EXPECT_EQ(guides, 0);
+    system.scheduler.advance(0.01);
+    EXPECT_EQ(guides, 1);
+    system.scheduler.advance(60);
+    EXPECT_EQ(guides, 1);
+    EXPECT_FALSE(services.listener->isStarted());
+    EXPECT_FALSE(QFile::exists(services.hoard.path()));
 }
 
 TEST_F(LaunchFlowTest, ChecksWhatTheProgramMayDoOnceItIsAtWork) {
     bool wasAtWork = false;
-    LaunchFlow other{services, [&] { wasAtWork = services.listener->isStarted(); }};
-    other.begin();
+    LaunchFlow other{services, {{}, [&] { wasAtWork = services.listener->isStarted(); }}};
+    other.beginLaunchFlow();
     EXPECT_TRUE(wasAtWork);
 }
 
@@ -57,7 +73,7 @@ TEST_F(LaunchFlowTest, LetsGoWhatIsTooOldBeforeTheListIsRead) {
     services.preferences.setRetentionDays(30);
     store(u"old"_qs, 31 * day);
     store(u"young"_qs, 29 * day);
-    flow.begin();
+    flow.beginLaunchFlow();
     system.scheduler.settle();
     EXPECT_THAT(titles(), ElementsAre(u"young"_qs));
     EXPECT_EQ(services.diagnostics.entries().back().message,
@@ -70,12 +86,12 @@ TEST_F(LaunchFlowTest, RecordsThatTheSystemsDatabaseCanBeRead) {
     QFile database(path);
     ASSERT_TRUE(database.open(QIODevice::WriteOnly));
     EXPECT_FALSE(flow.fdaConfirmedAtLaunch());
-    flow.begin();
+    flow.beginLaunchFlow();
     EXPECT_TRUE(flow.fdaConfirmedAtLaunch());
 }
 
 TEST_F(LaunchFlowTest, RecordsThatItCannot) {
-    flow.begin();
+    flow.beginLaunchFlow();
     EXPECT_FALSE(flow.fdaConfirmedAtLaunch());
 }
 
@@ -106,13 +122,13 @@ private:
 
 TEST_F(LaunchComplaintsTest, NothingIsToldWhereAllIsWell) {
     system.accessibility.trusted = true;
-    flow.begin();
+    flow.beginLaunchFlow();
     system.scheduler.advance(60);
     EXPECT_THAT(toldLines, ElementsAre());
 }
 
 TEST_F(LaunchComplaintsTest, AccessThatDoesNotComeIsToldOfOnce) {
-    flow.begin();
+    flow.beginLaunchFlow();
     system.scheduler.advance(4);
     EXPECT_THAT(toldLines, ElementsAre());
     system.scheduler.advance(60);
@@ -120,7 +136,7 @@ TEST_F(LaunchComplaintsTest, AccessThatDoesNotComeIsToldOfOnce) {
 }
 
 TEST_F(LaunchComplaintsTest, AccessThatComesInTimeIsNotMissed) {
-    flow.begin();
+    flow.beginLaunchFlow();
     system.accessibility.trusted = true;
     system.scheduler.advance(60);
     EXPECT_THAT(toldLines, ElementsAre());
@@ -129,7 +145,7 @@ TEST_F(LaunchComplaintsTest, AccessThatComesInTimeIsNotMissed) {
 TEST_F(LaunchComplaintsTest, AHoardThatCannotBeOpenedIsToldOfWithItsPath) {
     system.accessibility.trusted = true;
     ASSERT_TRUE(QDir().mkpath(services.hoard.path())); // a folder in the file's place
-    flow.begin();
+    flow.beginLaunchFlow();
     system.scheduler.advance(60);
     EXPECT_THAT(toldLines, ElementsAre(u"The hoard can't be opened: "_qs + services.hoard.path()));
 }

@@ -6,6 +6,9 @@
 #include "support/WindowPicture.h"
 
 #include <QAccessible>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTemporaryDir>
@@ -27,6 +30,21 @@ public:
     }
 
 protected:
+    PermissionFlowTest() {
+        QDir().mkpath(QFileInfo(database).path());
+        allowDatabase(true);
+        system.accessibility.trusted = true;
+    }
+
+    // The system's database is there, and may be read or not.
+    void allowDatabase(bool allowed) const {
+        QFile file(database);
+        if (allowed)
+            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        else
+            EXPECT_TRUE(file.remove());
+    }
+
     // The checks, and the time after which the question comes.
     void check() {
         flow.runPermissionChecks();
@@ -35,20 +53,24 @@ protected:
 
     QQuickView& window() const { return flow.launchPromptWindow()->window(); }
 
-    // On the window, of the part with this name.
-    QRectF place(const char* name) const {
-        const auto* const part = window().rootObject()->findChild<QQuickItem*>(QLatin1String(name));
+    // On its window, of the part with this name.
+    static QRectF placeIn(const ViewWindow& window, const char* name) {
+        const auto* const part = window.root().findChild<QQuickItem*>(QLatin1String(name));
         return part ? part->mapRectToScene(part->boundingRect()) : QRectF();
     }
 
     bool overlap(const char* one, const char* other) const {
-        return place(one).intersects(place(other));
+        const ViewWindow& prompt = *flow.launchPromptWindow();
+        return placeIn(prompt, one).intersects(placeIn(prompt, other));
     }
 
-    void click(const char* name) {
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window(), testing::patienceMs));
-        QTest::mouseClick(&window(), Qt::LeftButton, {}, place(name).center().toPoint());
+    static void clickIn(const ViewWindow& window, const char* name) {
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window.window(), testing::patienceMs));
+        QTest::mouseClick(&window.window(), Qt::LeftButton, {},
+                          placeIn(window, name).center().toPoint());
     }
+
+    void click(const char* name) const { clickIn(*flow.launchPromptWindow(), name); }
 
     void press(Qt::Key key) {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window(), testing::patienceMs));
@@ -56,13 +78,16 @@ protected:
     }
 
     QTemporaryDir folder;
+    const QString database =
+        folder.path() + u"/Library/Group Containers/group.com.apple.usernoted/db2/db"_qs;
     testing::SimulatedPlatform system{folder.path()};
     testing::SimulatedDesktop desktop{makeSymbols()};
     Services services{system.platform};
     ViewServices views{services, desktop.desktop, [](const QString&) {}};
     LaunchAgentManager launchAgent{system.loginItem, system.fileSystem, [](const QString&) {}};
     testing::ManualScheduler& scheduler = system.scheduler;
-    PermissionFlow flow{views, launchAgent};
+    int guides = 0;
+    PermissionFlow flow{views, launchAgent, [this] { ++guides; }};
 };
 
 TEST_F(PermissionFlowTest, AsksAboutTheLoginAfterSixTenthsOfASecond) {
@@ -135,7 +160,7 @@ TEST_F(PermissionFlowTest, NotNowLastsForThisProcessAndEndsTheChecks) {
     check();
     EXPECT_EQ(flow.launchPromptWindow(), nullptr);
 
-    PermissionFlow nextProcess{views, launchAgent};
+    PermissionFlow nextProcess{views, launchAgent, [] {}};
     nextProcess.runPermissionChecks();
     scheduler.advance(0.6);
     EXPECT_NE(nextProcess.launchPromptWindow(), nullptr);
@@ -146,7 +171,7 @@ TEST_F(PermissionFlowTest, NeverIsForLaterProcessesTooAndLeavesTheMenuItsEntry) 
     click("dontAsk");
     EXPECT_TRUE(services.preferences.launchLoginPromptSuppressed());
     EXPECT_FALSE(flow.launchAtLoginPromptDismissedThisSession());
-    PermissionFlow nextProcess{views, launchAgent};
+    PermissionFlow nextProcess{views, launchAgent, [] {}};
     nextProcess.runPermissionChecks();
     scheduler.advance(10);
     EXPECT_EQ(nextProcess.launchPromptWindow(), nullptr);
@@ -209,6 +234,111 @@ TEST_F(PermissionFlowTest, AskedAHundredTimesItLeavesNothing) {
     EXPECT_EQ(objects(), before);
 }
 
+// What the system must grant
+
+TEST_F(PermissionFlowTest, WithoutAccessToBannersTheGuideComesAndNothingElse) {
+    system.accessibility.trusted = false;
+    allowDatabase(false);
+    flow.runPermissionChecks();
+    scheduler.advance(10);
+    EXPECT_EQ(guides, 1);
+    EXPECT_EQ(system.accessibility.prompts, 1);
+    EXPECT_EQ(flow.launchPromptWindow(), nullptr);
+    EXPECT_EQ(flow.permissionWindow(), nullptr);
+}
+
+TEST_F(PermissionFlowTest, AccessThatCameLaterIsTakenWithoutAnotherStart) {
+    system.accessibility.trusted = false;
+    services.listener->start();
+    scheduler.settle();
+    EXPECT_FALSE(services.listener->hasAXObserver());
+    system.accessibility.trusted = true;
+    system.workspace.running = {{42, u"com.apple.notificationcenterui"_qs, {}}};
+    flow.runPermissionChecks();
+    scheduler.settle();
+    EXPECT_TRUE(services.listener->hasAXObserver());
+}
+
+TEST_F(PermissionFlowTest, TheDatabaseIsAskedForBeforeTheLogin) {
+    allowDatabase(false);
+    flow.runPermissionChecks();
+    scheduler.advance(0.3);
+    ASSERT_NE(flow.permissionWindow(), nullptr);
+    EXPECT_EQ(flow.permissionWindow()->window().size(), QSize(500, 520));
+    EXPECT_EQ(flow.launchPromptWindow(), nullptr);
+    scheduler.advance(0.31);
+    EXPECT_NE(flow.launchPromptWindow(), nullptr);
+}
+
+TEST_F(PermissionFlowTest, ASkipIsForLaterProcessesTooAndTheLoginIsAskedForAllTheSame) {
+    allowDatabase(false);
+    check();
+    click("dontAsk");
+    services.preferences.setLaunchLoginPromptSuppressed(false);
+    clickIn(*flow.permissionWindow(), "skip");
+    scheduler.settle();
+    EXPECT_EQ(flow.permissionWindow(), nullptr);
+    EXPECT_TRUE(system.defaults.boolean(u"fdaSkipped"_qs));
+    EXPECT_TRUE(flow.fdaPromptDismissedThisSession());
+    scheduler.advance(0.6);
+    EXPECT_NE(flow.launchPromptWindow(), nullptr);
+    PermissionFlow nextProcess{views, launchAgent, [] {}};
+    nextProcess.runPermissionChecks();
+    scheduler.advance(10);
+    EXPECT_EQ(nextProcess.permissionWindow(), nullptr);
+}
+
+TEST_F(PermissionFlowTest, TheMenuBringsItBackAfterASkip) {
+    allowDatabase(false);
+    check();
+    clickIn(*flow.permissionWindow(), "skip");
+    scheduler.settle();
+    flow.showFullDiskAccessPromptAgain();
+    EXPECT_NE(flow.permissionWindow(), nullptr);
+    EXPECT_FALSE(system.defaults.boolean(u"fdaSkipped"_qs));
+    EXPECT_FALSE(flow.fdaPromptDismissedThisSession());
+}
+
+TEST_F(PermissionFlowTest, NotNowKeepsTheDatabaseFromBeingAskedFor) {
+    check();
+    click("notNow");
+    allowDatabase(false);
+    flow.runPermissionChecks();
+    scheduler.advance(10);
+    EXPECT_EQ(flow.permissionWindow(), nullptr);
+}
+
+TEST_F(PermissionFlowTest, WhatChangesInTheDelayCounts) {
+    allowDatabase(false);
+    flow.runPermissionChecks();
+    flow.showFullDiskAccessPrompt();
+    const ViewWindow* const first = flow.permissionWindow();
+    scheduler.advance(0.3);
+    EXPECT_EQ(flow.permissionWindow(), first);
+}
+
+TEST_F(PermissionFlowTest, TheWindowGoesWhenTheAccessIsThere) {
+    allowDatabase(false);
+    check();
+    click("dontAsk");
+    ASSERT_NE(flow.permissionWindow(), nullptr);
+    allowDatabase(true);
+    scheduler.advance(1);
+    scheduler.settle();
+    EXPECT_EQ(flow.permissionWindow(), nullptr);
+    EXPECT_FALSE(flow.lacksFullDiskAccess());
+}
+
+TEST_F(PermissionFlowTest, AClaimThatIsNotSoShowsAWarning) {
+    allowDatabase(false);
+    check();
+    clickIn(*flow.permissionWindow(), "enabled");
+    scheduler.settle();
+    ASSERT_NE(flow.permissionWindow(), nullptr);
+    EXPECT_TRUE(
+        flow.permissionWindow()->root().findChild<QQuickItem*>(u"notDetected"_qs)->isVisible());
+}
+
 // How it looks
 
 class PromptPicturesTest : public PermissionFlowTest,
@@ -225,6 +355,21 @@ TEST_P(PromptPicturesTest, ShowsEverythingWithinItsBounds) {
     EXPECT_FALSE(overlap("dontAsk", "notNow"));
     const QString name = u"loginPrompt-%1@%2x.png"_qs.arg(QLatin1String(GetParam()))
                              .arg(window().effectiveDevicePixelRatio());
+    EXPECT_TRUE(testing::savePicture(picture, QStringLiteral(PICTURES_FOLDER), name));
+}
+
+TEST_P(PromptPicturesTest, NothingIsCutInTheWindowOfThePermission) {
+    views.theme.applyAppearance(QLatin1String(GetParam()));
+    allowDatabase(false);
+    flow.showFullDiskAccessPrompt();
+    const ViewWindow& shown = *flow.permissionWindow();
+    shown.window().resize(500, 900);
+    clickIn(shown, "enabled");
+    const QImage picture = testing::stillPicture(shown.window());
+    EXPECT_EQ(testing::textsOutside(*shown.window().contentItem(), QRectF(0, 0, 500, 900)),
+              QStringList());
+    const QString name = u"fda-%1@%2x.png"_qs.arg(QLatin1String(GetParam()))
+                             .arg(shown.window().effectiveDevicePixelRatio());
     EXPECT_TRUE(testing::savePicture(picture, QStringLiteral(PICTURES_FOLDER), name));
 }
 

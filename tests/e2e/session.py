@@ -24,6 +24,9 @@ WRITER = str(TOOLS / "system_databases.py")
 USERNOTED = "Library/Group Containers/group.com.apple.usernoted/db2/db"
 DEFAULTS = "com.zorvek.Tessarine.conf"
 
+ANSWERED = ["hasAcceptedEULA", "hasSeenOnboarding", "hasSeenPrivacyNotice", "fdaSkipped",
+            "launchLoginPromptSuppressed"]
+
 # Of the program's windows, in pixels.
 PANEL_HEIGHTS = range(10, 61)
 MENU_HEIGHTS = range(61, 400)
@@ -213,10 +216,11 @@ class Session:
     def titles(self):
         return [row[0] for row in self.query("SELECT title FROM notifications ORDER BY id")]
 
-    def write_defaults(self, text, asks_about_login=False):
-        """The settings, as a user has them who has answered all questions of the program."""
+    def write_defaults(self, text, without=()):
+        """The settings, as a user has them who has answered all questions of the program (but those
+        whose keys are left out)."""
         self.config.mkdir(parents=True, exist_ok=True)
-        answered = "" if asks_about_login else "launchLoginPromptSuppressed=true\n"
+        answered = "".join(f"{key}=true\n" for key in ANSWERED if key not in without)
         (self.config / DEFAULTS).write_text(f"[General]\n{answered}{text}\n")
         self.give_to_user(self.home)
 
@@ -236,10 +240,10 @@ class Session:
         return subprocess.run(["xdotool", *arguments], env=self.environment,
                               capture_output=True, text=True).stdout
 
-    def visible_window(self, heights):
-        """The program's window on the screen whose height is one of these. Titles don't tell its
-        windows apart: the status panel has the main window's."""
-        for window in self.windows("--onlyvisible", "--class", "tessarine"):
+    def visible_window(self, heights, *criteria):
+        """The program's window on the screen whose height is one of these. Titles alone don't tell
+        its windows apart: the status panel has the main window's."""
+        for window in self.windows("--all", "--onlyvisible", "--class", "tessarine", *criteria):
             geometry = self.xdotool("getwindowgeometry", "--shell", window)
             if int(dict(line.split("=") for line in geometry.split()).get("HEIGHT", 0)) in heights:
                 return window
@@ -260,7 +264,7 @@ class Session:
         return self.visible_window(MENU_HEIGHTS)
 
     def visible_main_window(self):
-        return self.visible_window(MAIN_WINDOW_HEIGHTS)
+        return self.visible_window(MAIN_WINDOW_HEIGHTS, "--name", "^Tessarine$")
 
     def open_menu(self):
         """The status panel's, as on a desktop without a tray."""

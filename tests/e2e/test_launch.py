@@ -6,6 +6,7 @@ import subprocess
 import time
 import unittest
 
+from desktop import Bus
 from session import PATIENCE, Daemon, Session, SessionTestCase, wait_until
 
 NOBODY = 65534
@@ -118,7 +119,8 @@ class LoginQuestion(SessionTestCase):
 
     def setUp(self):
         super().setUp()
-        self.session.write_defaults("", asks_about_login=True)
+        self.session.write_defaults("", without=["launchLoginPromptSuppressed"])
+        Bus(self.session)
         self.autostart = self.session.config / "autostart/com.zorvek.Tessarine.desktop"
 
     def question(self):

@@ -32,6 +32,7 @@ LAYER_OF_FOLDERS = {
     "src/browser": "views",
     "src/export": "views",
     "src/settings": "views",
+    "src/onboarding": "views",
     "src/shell": "views",
     "src/core": "core",
 }

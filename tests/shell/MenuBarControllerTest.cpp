@@ -24,10 +24,11 @@ const QString lastSeenKey = u"menuBarLastSeenCount"_qs;
 class MenuBarTest : public ::testing::Test {
 protected:
     void launch() {
-        controller_.emplace(item_, listener_, system_.defaults, launchAgent_,
-                            MenuBarController::Actions{[this] { ++opened_; },
-                                                       [this] { ++updateChecks_; },
-                                                       [this] { ++quit_; }});
+        controller_.emplace(
+            item_, listener_, system_.defaults, launchAgent_,
+            MenuBarController::Actions{[this] { ++opened_; }, [this] { ++guides_; },
+                                       [this] { ++fdaPrompts_; }, [this] { return lacksFda_; },
+                                       [this] { ++updateChecks_; }, [this] { ++quit_; }});
     }
 
     void publish(std::size_t count) { listener_->setNotifications(NotificationList(count)); }
@@ -40,6 +41,9 @@ protected:
     testing::SimulatedStatusItem item_;
     std::optional<MenuBarController> controller_;
     int opened_ = 0;
+    int guides_ = 0;
+    int fdaPrompts_ = 0;
+    bool lacksFda_ = false;
     int updateChecks_ = 0;
     int quit_ = 0;
 };
@@ -144,31 +148,66 @@ TEST_F(MenuBarTest, TheSeenCountOutlivesTheProcess) {
     EXPECT_EQ(item_.title, u" 3"_qs);
 }
 
+// As a click opens it.
+class StatusMenu {
+public:
+    explicit StatusMenu(const testing::SimulatedStatusItem& item) { item.menuBuilder(menu_); }
+
+    // The entry with this text; null if there is none.
+    QAction* entry(const QString& text) const {
+        for (QAction* action : menu_.actions()) {
+            if (action->text() == text)
+                return action;
+        }
+        return nullptr;
+    }
+
+    QStringList texts() const {
+        QStringList texts;
+        for (const QAction* action : menu_.actions())
+            texts << (action->isSeparator() ? u"-"_qs : action->text());
+        return texts;
+    }
+
+private:
+    QMenu menu_;
+};
+
 TEST_F(MenuBarTest, TheMenuHasItsItemsInTheirOrder) {
     launch();
-    QMenu menu;
-    item_.menuBuilder(menu);
-    QStringList texts;
-    for (const QAction* action : menu.actions())
-        texts << (action->isSeparator() ? u"-"_qs : action->text());
-    EXPECT_EQ(texts, QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"-"_qs,
-                                  u"Launch at Login"_qs, u"-"_qs, u"Check for Updates…"_qs, u"-"_qs,
-                                  u"Quit Tessarine"_qs}));
-    EXPECT_FALSE(menu.actions()[0]->isEnabled());
-    EXPECT_EQ(menu.actions()[2]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
-    EXPECT_EQ(menu.actions()[8]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    const StatusMenu menu(item_);
+    EXPECT_EQ(menu.texts(),
+              QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"Welcome Guide…"_qs,
+                           u"-"_qs, u"Launch at Login"_qs, u"-"_qs, u"Check for Updates…"_qs,
+                           u"-"_qs, u"Quit Tessarine"_qs}));
+    EXPECT_FALSE(menu.entry(u"Tessarine"_qs)->isEnabled());
+    EXPECT_EQ(menu.entry(u"Open Hoard"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
+    EXPECT_EQ(menu.entry(u"Quit Tessarine"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+}
+
+TEST_F(MenuBarTest, TheWayToTheDatabaseIsThereAsLongAsItIsMissing) {
+    launch();
+    lacksFda_ = true;
+    const StatusMenu with(item_);
+    EXPECT_EQ(with.texts().indexOf(u"Access to a Database…"_qs),
+              with.texts().indexOf(u"Launch at Login"_qs) + 1);
+    with.entry(u"Access to a Database…"_qs)->trigger();
+    EXPECT_EQ(fdaPrompts_, 1);
+    lacksFda_ = false;
+    EXPECT_EQ(StatusMenu(item_).entry(u"Access to a Database…"_qs), nullptr);
 }
 
 TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
     launch();
-    QMenu menu;
-    item_.menuBuilder(menu);
-    menu.actions()[2]->trigger();
+    const StatusMenu menu(item_);
+    menu.entry(u"Open Hoard"_qs)->trigger();
     EXPECT_EQ(opened_, 1);
-    EXPECT_EQ(quit_, 0);
-    menu.actions()[6]->trigger();
+    menu.entry(u"Welcome Guide…"_qs)->trigger();
+    EXPECT_EQ(guides_, 1);
+    menu.entry(u"Check for Updates…"_qs)->trigger();
     EXPECT_EQ(updateChecks_, 1);
-    menu.actions()[8]->trigger();
+    EXPECT_EQ(quit_, 0);
+    menu.entry(u"Quit Tessarine"_qs)->trigger();
     EXPECT_EQ(quit_, 1);
 }
 
@@ -177,16 +216,14 @@ TEST_F(MenuBarTest, LaunchAtLoginIsCheckedWhileItIsEnabledAndTogglesIt) {
     for (const auto status : {LoginItemStatus::notRegistered, LoginItemStatus::requiresApproval,
                               LoginItemStatus::notFound}) {
         system_.loginItem.current = status;
-        QMenu off;
-        item_.menuBuilder(off);
-        EXPECT_FALSE(off.actions()[4]->isChecked());
-        off.actions()[4]->trigger();
+        const StatusMenu off(item_);
+        EXPECT_FALSE(off.entry(u"Launch at Login"_qs)->isChecked());
+        off.entry(u"Launch at Login"_qs)->trigger();
         EXPECT_EQ(system_.loginItem.current, LoginItemStatus::enabled);
     }
-    QMenu on;
-    item_.menuBuilder(on);
-    EXPECT_TRUE(on.actions()[4]->isChecked());
-    on.actions()[4]->trigger();
+    const StatusMenu on(item_);
+    EXPECT_TRUE(on.entry(u"Launch at Login"_qs)->isChecked());
+    on.entry(u"Launch at Login"_qs)->trigger();
     EXPECT_EQ(system_.loginItem.current, LoginItemStatus::notRegistered);
 }
 

@@ -52,6 +52,7 @@ public:
         : scheduler_(scheduler) {}
 
     bool isProcessTrusted() const override { return trusted; }
+    void promptForTrust() override { ++prompts; }
     std::unique_ptr<AXObserver> createObserver(qint32 pid, AXCallback callback) override;
     AXElementRef applicationElement(qint32 pid) override;
     void setMessagingTimeout(const AXElementRef& element, double seconds) override;
@@ -73,6 +74,7 @@ public:
     std::size_t attachedObservers() const { return attached_.size(); }
 
     bool trusted = false;
+    int prompts = 0; // of the system
     bool refusesObservers = false;
     std::vector<Registration> registrations; // of all observers, in their order
     std::vector<Timeout> timeouts;           // as they were set

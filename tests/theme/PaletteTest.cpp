@@ -81,7 +81,8 @@ protected:
                                      colours_.panelBackground};
     const QList<QColor> texts_{
         colours_.label, colours_.secondaryLabel, colours_.accentLabel, colours_.placeholderLabel,
-        colours_.red,   colours_.orange,         colours_.green};
+        colours_.red,   colours_.orange,         colours_.green,       colours_.yellow,
+        colours_.blue,  colours_.purple};
     const double text_ = GetParam().highContrast ? 7.0 : 4.5;
     static constexpr double enough_ = 4.5; // on grounds that come and go
     const double shape_ = GetParam().highContrast ? 4.5 : 3.0;

@@ -18,6 +18,7 @@ public:
     LinuxAccessibility(std::shared_ptr<BannerProcess> process, std::string busAddress);
 
     bool isProcessTrusted() const override;
+    void promptForTrust() override {} // a bus lets everybody listen, or nobody
     std::unique_ptr<AXObserver> createObserver(qint32 pid, AXCallback callback) override;
     AXElementRef applicationElement(qint32 pid) override;
     void setMessagingTimeout(const AXElementRef& element, double seconds) override;

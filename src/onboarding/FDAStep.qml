@@ -1,0 +1,4 @@
+import Tessarine.Controls
+
+// One step of the way to the permission.
+NumberedStep {}

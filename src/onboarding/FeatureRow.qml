@@ -1,0 +1,2 @@
+// What the program does for its user.
+TitledRow {}

@@ -1,0 +1,2 @@
+// A paragraph of the privacy notice.
+TitledRow {}
