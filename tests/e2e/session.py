@@ -240,12 +240,13 @@ class Session:
         return subprocess.run(["xdotool", *arguments], env=self.environment,
                               capture_output=True, text=True).stdout
 
-    def visible_window(self, heights, *criteria):
+    def visible_window(self, heights, title=None):
         """The program's window on the screen whose height is one of these. Titles alone don't tell
         its windows apart: the status panel has the main window's."""
-        for window in self.windows("--all", "--onlyvisible", "--class", "tessarine", *criteria):
+        for window in self.windows("--onlyvisible", "--class", "tessarine"):
             geometry = self.xdotool("getwindowgeometry", "--shell", window)
-            if int(dict(line.split("=") for line in geometry.split()).get("HEIGHT", 0)) in heights:
+            height = int(dict(line.split("=") for line in geometry.split()).get("HEIGHT", 0))
+            if height in heights and title in (None, self.xdotool("getwindowname", window).strip()):
                 return window
         return None
 
@@ -264,7 +265,7 @@ class Session:
         return self.visible_window(MENU_HEIGHTS)
 
     def visible_main_window(self):
-        return self.visible_window(MAIN_WINDOW_HEIGHTS, "--name", "^Tessarine$")
+        return self.visible_window(MAIN_WINDOW_HEIGHTS, "Tessarine")
 
     def open_menu(self):
         """The status panel's, as on a desktop without a tray."""
