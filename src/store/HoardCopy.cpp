@@ -49,11 +49,10 @@ bool isPartOfHoard(const QString& hoard, const QString& destination) {
 std::optional<QString> HoardStore::copyTo(const QString& destination) {
     if (isPartOfHoard(dbPath_, destination))
         return QStringLiteral("The hoard can't be copied onto itself");
-    open();
-    const SqliteConnection reader(dbPath_, SqliteConnection::Mode::ownFileReadOnly);
-    if (!reader.isOpen())
-        return reader.errorText();
-    SqliteMainFile file(reader);
+    const auto reader = connectionBeside(SqliteConnection::Mode::ownFileReadOnly);
+    if (!reader->isOpen())
+        return reader->errorText();
+    SqliteMainFile file(*reader);
     if (!file.hold(patience))
         return QStringLiteral("The hoard is in use by another program");
     const std::error_code error = writeAnewPrivately(
