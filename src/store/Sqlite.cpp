@@ -20,6 +20,11 @@ int openFlags(SqliteConnection::Mode mode) {
 
 } // namespace
 
+QString sqliteVersion() {
+    const SqliteConnection memory(QStringLiteral(":memory:"), SqliteConnection::Mode::ownFile);
+    return QString::fromLatin1(sqlite3_libversion());
+}
+
 SqliteConnection::SqliteConnection(const QString& path, Mode mode)
     : isOpen_(sqlite3_open_v2(path.toUtf8().constData(), &handle_, openFlags(mode), nullptr) ==
               SQLITE_OK) {}

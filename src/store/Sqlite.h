@@ -8,6 +8,9 @@ struct sqlite3_stmt;
 
 namespace tessarine {
 
+// The version of the library that runs, as a database in memory is opened with.
+QString sqliteVersion();
+
 // A connection to a database file for the length of a scope. One that can't be opened stays closed:
 // every statement on it fails.
 class SqliteConnection {

@@ -30,6 +30,10 @@ QString SimulatedFileSystem::expandingTilde(const QString& path) const {
     return path.startsWith(u'~') ? home_ + path.sliced(1) : path;
 }
 
+QString SimulatedFileSystem::abbreviatingWithTilde(const QString& path) const {
+    return path.startsWith(home_ + u'/') ? u'~' + path.sliced(home_.size()) : path;
+}
+
 bool SimulatedFileSystem::grantsReading(const QString& path) const {
     return QFileInfo(path).isReadable();
 }
@@ -134,6 +138,7 @@ SimulatedPlatform::SimulatedPlatform(const QString& home)
     , workspace(install(std::make_unique<SimulatedWorkspace>(), platform.workspace))
     , accessibility(
           install(std::make_unique<SimulatedAccessibility>(scheduler), platform.accessibility))
-    , loginItem(install(std::make_unique<SimulatedLoginItem>(), platform.loginItem)) {}
+    , loginItem(install(std::make_unique<SimulatedLoginItem>(), platform.loginItem))
+    , systemFacts(install(std::make_unique<SimulatedSystemFacts>(), platform.systemFacts)) {}
 
 } // namespace tessarine::testing

@@ -4,6 +4,7 @@
 #include "platform/linux/InotifyWatcher.h"
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxSingleInstance.h"
+#include "platform/linux/LinuxSystemFacts.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/applications/LinuxLoginItem.h"
 #include "platform/linux/banners/LinuxAccessibility.h"
@@ -37,6 +38,7 @@ std::unique_ptr<Platform> makePlatform() {
         LinuxWorkspace::Buses{sessionBusAddress(), systemBusAddress()});
     platform->accessibility = std::make_unique<LinuxAccessibility>(banners, sessionBusAddress());
     platform->loginItem = std::make_unique<LinuxLoginItem>();
+    platform->systemFacts = std::make_unique<LinuxSystemFacts>();
     return platform;
 }
 
