@@ -118,6 +118,150 @@
         <source>datePreset.yesterday</source>
         <translation>Yesterday</translation>
     </message>
+    <message id="diag.busy">
+        <source>diag.busy</source>
+        <translation>In progress</translation>
+    </message>
+    <message id="diag.db.apps">
+        <source>diag.db.apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message id="diag.db.backup.fail">
+        <source>diag.db.backup.fail</source>
+        <translation>Backup failed: %1</translation>
+    </message>
+    <message id="diag.db.backup.panelTitle">
+        <source>diag.db.backup.panelTitle</source>
+        <translation>Back Up the Hoard</translation>
+    </message>
+    <message id="diag.db.backup.saveBtn">
+        <source>diag.db.backup.saveBtn</source>
+        <translation>Back Up</translation>
+    </message>
+    <message id="diag.db.backup.success">
+        <source>diag.db.backup.success</source>
+        <translation>Backup saved to %1</translation>
+    </message>
+    <message id="diag.db.createBackup">
+        <source>diag.db.createBackup</source>
+        <translation>Create Backup…</translation>
+    </message>
+    <message id="diag.db.first">
+        <source>diag.db.first</source>
+        <translation>First</translation>
+    </message>
+    <message id="diag.db.header">
+        <source>diag.db.header</source>
+        <translation>Hoard</translation>
+    </message>
+    <message id="diag.db.integrity.fail">
+        <source>diag.db.integrity.fail</source>
+        <translation>Integrity check found problems: %1</translation>
+    </message>
+    <message id="diag.db.integrity.pass">
+        <source>diag.db.integrity.pass</source>
+        <translation>Integrity check passed</translation>
+    </message>
+    <message id="diag.db.last">
+        <source>diag.db.last</source>
+        <translation>Last</translation>
+    </message>
+    <message id="diag.db.pinned">
+        <source>diag.db.pinned</source>
+        <translation>Pinned</translation>
+    </message>
+    <message id="diag.db.records">
+        <source>diag.db.records</source>
+        <translation>Records</translation>
+    </message>
+    <message id="diag.db.refresh.help">
+        <source>diag.db.refresh.help</source>
+        <translation>Count the hoard again</translation>
+    </message>
+    <message id="diag.db.size">
+        <source>diag.db.size</source>
+        <translation>Size</translation>
+    </message>
+    <message id="diag.db.verifyIntegrity">
+        <source>diag.db.verifyIntegrity</source>
+        <translation>Verify Integrity</translation>
+    </message>
+    <message id="diag.export.data">
+        <source>diag.export.data</source>
+        <translation>Export Data…</translation>
+    </message>
+    <message id="diag.level.activity">
+        <source>diag.level.activity</source>
+        <translation>activity</translation>
+    </message>
+    <message id="diag.level.info">
+        <source>diag.level.info</source>
+        <translation>information</translation>
+    </message>
+    <message id="diag.level.success">
+        <source>diag.level.success</source>
+        <translation>success</translation>
+    </message>
+    <message id="diag.level.warning">
+        <source>diag.level.warning</source>
+        <translation>warning</translation>
+    </message>
+    <message id="diag.log.clear">
+        <source>diag.log.clear</source>
+        <translation>Clear the log</translation>
+    </message>
+    <message id="diag.log.clearFilter">
+        <source>diag.log.clearFilter</source>
+        <translation>Clear the filter</translation>
+    </message>
+    <message id="diag.log.filtered">
+        <source>diag.log.filtered</source>
+        <translation>No line of the log passes the filter.</translation>
+    </message>
+    <message id="diag.log.list">
+        <source>diag.log.list</source>
+        <translation>Log</translation>
+    </message>
+    <message id="diag.log.only">
+        <source>diag.log.only</source>
+        <translation>Only %1</translation>
+    </message>
+    <message id="diag.report.copied">
+        <source>diag.report.copied</source>
+        <translation>Report copied to the clipboard</translation>
+    </message>
+    <message id="diag.report.copy">
+        <source>diag.report.copy</source>
+        <translation>Copy Report</translation>
+    </message>
+    <message id="diag.report.export.fail">
+        <source>diag.report.export.fail</source>
+        <translation>Report could not be exported: %1</translation>
+    </message>
+    <message id="diag.report.export.panelTitle">
+        <source>diag.report.export.panelTitle</source>
+        <translation>Export Diagnostics Report</translation>
+    </message>
+    <message id="diag.report.export.saveBtn">
+        <source>diag.report.export.saveBtn</source>
+        <translation>Export</translation>
+    </message>
+    <message id="diag.report.exportReport">
+        <source>diag.report.exportReport</source>
+        <translation>Export Report…</translation>
+    </message>
+    <message id="diag.report.exported">
+        <source>diag.report.exported</source>
+        <translation>Report exported as %1</translation>
+    </message>
+    <message id="diag.report.includeContent">
+        <source>diag.report.includeContent</source>
+        <translation>Include notification content in exported reports</translation>
+    </message>
+    <message id="diag.report.safeNote">
+        <source>diag.report.safeNote</source>
+        <translation>When off, lines of the log that quote a notification name its app only. A copied report holds the log as it is.</translation>
+    </message>
     <message id="export.close">
         <source>export.close</source>
         <translation>Close</translation>

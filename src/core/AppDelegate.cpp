@@ -1,10 +1,11 @@
 #include "core/AppDelegate.h"
 
+#include "diagnosticsview/DiagnosticsWindow.h"
 #include "platform/DefaultsKeys.h"
 
 #include <QCoreApplication>
 #include <QQmlEngine>
-#include <QQuickWindow>
+#include <QQuickView>
 
 namespace tessarine {
 
@@ -19,8 +20,9 @@ AppDelegate::AppDelegate(ViewServices& views)
     , launchFlow_(views.services) {}
 
 AppDelegate::~AppDelegate() {
-    // Going, the window hides, which asks the guard whether this object lives.
+    // Going, the windows hide, which asks the guard whether this object lives.
     mainWindow_.reset();
+    delete ViewWindow::titled(diagnosticsTitle());
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -36,14 +38,13 @@ void AppDelegate::applicationDidFinishLaunching() {
         *views_.desktop.statusItem, services.listener, defaults, *launchAgent_,
         [this] { showMainWindow(); }, [] { QCoreApplication::quit(); });
     mainWindow_ = std::make_unique<MainWindow>(views_.browser(), defaults, *views_.engine);
-    watchMainWindow();
+    watchWindow(*mainWindow_->window());
     launchFlow_.begin();
 }
 
 // Once the renderer has let go of what it had for the window, on its thread and on this one.
-void AppDelegate::watchMainWindow() {
-    QWindow* const window = mainWindow_->window();
-    QObject::connect(window, &QWindow::visibleChanged, window, [this](bool visible) {
+void AppDelegate::watchWindow(const QWindow& window) {
+    QObject::connect(&window, &QWindow::visibleChanged, &window, [this](bool visible) {
         if (visible)
             return;
         views_.services.platform.scheduler->onMainAfter(memoryDelay,
@@ -62,6 +63,15 @@ void AppDelegate::showMainWindow() {
     mainWindow_->showAndMakeKey();
     views_.desktop.application->activate(*mainWindow_->window());
     menuBarController_->markAllSeen();
+}
+
+void AppDelegate::showDiagnostics() {
+    const bool isNew = !ViewWindow::titled(diagnosticsTitle());
+    ViewWindow& window = diagnosticsWindow(views_.diagnostics(), *views_.engine);
+    if (isNew)
+        watchWindow(window.window());
+    window.showAndMakeKey();
+    views_.desktop.application->activate(window.window());
 }
 
 void AppDelegate::activate() {

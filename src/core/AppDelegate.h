@@ -9,6 +9,8 @@
 
 #include <memory>
 
+class QWindow;
+
 namespace tessarine {
 
 // The program's spine: owns the status item and the windows, and runs the launch steps in their
@@ -28,6 +30,9 @@ public:
     // Brings the main window to the front and takes all notifications as seen.
     void showMainWindow();
 
+    // Brings the diagnostics window to the front. There is never a second one.
+    void showDiagnostics();
+
     // What another start of the program asks for: the windows that are open come to the front. One
     // that is hidden stays hidden.
     void activate();
@@ -41,7 +46,7 @@ public:
     MainWindow* mainWindow() const { return mainWindow_.get(); }
 
 private:
-    void watchMainWindow();
+    void watchWindow(const QWindow& window);
     void giveMemoryBack();
 
     ViewServices& views_;
