@@ -72,13 +72,15 @@ QString HoardStore::integrityCheck() {
     });
 }
 
-// SQLite keeps all writers out while it waits for a reader. So it doesn't wait here, and is asked
-// again until the reader is through.
+// SQLite keeps all writers out while it waits for a reader, and while it moves the log. So it
+// doesn't wait here, but is asked again until the reader is through; and most of the log is moved
+// before.
 void HoardStore::checkpoint() {
     maintenance_.sync([&] {
         const auto writer = connectionBeside(SqliteConnection::Mode::ownFile);
         writer->setLockTimeout(0);
         for (int attempt = 0; attempt < checkpointAttempts; ++attempt) {
+            writer->checkpointInPassing();
             if (takesOverWholeLog(*writer))
                 return;
             std::this_thread::sleep_for(pauseBetweenCheckpoints);

@@ -50,6 +50,10 @@ QString SqliteConnection::errorText() const {
     return QString::fromUtf8(sqlite3_errmsg(handle_));
 }
 
+void SqliteConnection::checkpointInPassing() const {
+    sqlite3_wal_checkpoint_v2(handle_, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+}
+
 qint64 SqliteConnection::lastInsertRowId() const {
     return sqlite3_last_insert_rowid(handle_);
 }

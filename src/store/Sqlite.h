@@ -44,6 +44,10 @@ public:
     // What SQLite says of the last call's failure.
     QString errorText() const;
 
+    // Moves what it can of the write-ahead log into the main file, in nobody's way: neither readers
+    // nor writers wait.
+    void checkpointInPassing() const;
+
     qint64 lastInsertRowId() const;
     int changes() const;      // rows that the last statement changed
     int totalChanges() const; // rows changed so far, by triggers too
