@@ -75,6 +75,8 @@ void AppDelegate::showDiagnostics() {
 }
 
 void AppDelegate::activate() {
+    if (const ViewWindow* const diagnostics = ViewWindow::titled(diagnosticsTitle()))
+        views_.desktop.application->activate(diagnostics->window());
     if (mainWindow_ && mainWindow_->isVisible())
         views_.desktop.application->activate(*mainWindow_->window());
 }

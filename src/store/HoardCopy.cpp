@@ -18,7 +18,8 @@ namespace {
 // Another program that moves its log into a large hoard may take seconds.
 constexpr auto patience = std::chrono::seconds(10);
 
-constexpr std::array<const char*, 4> suffixes = {"", "-wal", "-shm", "-journal"};
+// The hoard, SQLite's files beside it, and the lock that keeps a second copy of the program out.
+constexpr std::array<const char*, 5> suffixes = {"", "-wal", "-shm", "-journal", ".lock"};
 
 std::filesystem::path nativePath(const QString& path) {
     return QFile::encodeName(path).toStdString();

@@ -1,11 +1,12 @@
 #include "core/AppDelegate.h"
 
+#include "diagnosticsview/DiagnosticsWindow.h"
 #include "support/EventLoop.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
 
 #include <QMenu>
-#include <QQuickWindow>
+#include <QQuickView>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -157,6 +158,56 @@ TEST_F(AppDelegateTest, GoesOnCapturingWithItsWindowClosed) {
     delegate->showMainWindow();
     EXPECT_TRUE(window()->isVisible());
     EXPECT_EQ(delegate->mainWindow()->content().list()->filteredNotifications().size(), 1U);
+}
+
+TEST_F(AppDelegateTest, ShowsOneDiagnosticsWindowHoweverOftenItIsAskedFor) {
+    launch();
+    delegate->showDiagnostics();
+    const ViewWindow* const shown = ViewWindow::titled(u"Tessarine Diagnostics"_qs);
+    ASSERT_NE(shown, nullptr);
+    EXPECT_TRUE(shown->isVisible());
+    delegate->showDiagnostics();
+    EXPECT_EQ(ViewWindow::titled(u"Tessarine Diagnostics"_qs), shown);
+    EXPECT_THAT(desktop.application.activated, ElementsAre(&shown->window(), &shown->window()));
+    EXPECT_FALSE(window()->isVisible());
+}
+
+TEST_F(AppDelegateTest, GoesOnAndGivesMemoryBackWhenTheDiagnosticsWereClosed) {
+    launch();
+    delegate->showDiagnostics();
+    ViewWindow::titled(u"Tessarine Diagnostics"_qs)->window().close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(ViewWindow::titled(u"Tessarine Diagnostics"_qs), nullptr);
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 1);
+    EXPECT_TRUE(services->listener->isStarted());
+}
+
+TEST_F(AppDelegateTest, BringsOpenDiagnosticsToTheFrontAtASecondStart) {
+    launch();
+    delegate->showDiagnostics();
+    desktop.application.activated.clear();
+    delegate->activate();
+    EXPECT_EQ(desktop.application.activated.size(), 1U);
+}
+
+TEST_F(AppDelegateTest, TakesAnOpenDiagnosticsWindowAlong) {
+    launch();
+    delegate->showDiagnostics();
+    delegate.reset();
+    EXPECT_EQ(ViewWindow::titled(u"Tessarine Diagnostics"_qs), nullptr);
+}
+
+// The window shows what the program captures meanwhile.
+TEST_F(AppDelegateTest, ShowsInTheDiagnosticsWhatTheProgramLogs) {
+    launch();
+    delegate->showDiagnostics();
+    const auto* const view =
+        ViewWindow::titled(u"Tessarine Diagnostics"_qs)->findChild<DiagnosticsView*>();
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(view->captured(), u"0 captured"_qs);
+    services->diagnostics.setCapturedTotal(5);
+    EXPECT_EQ(view->captured(), u"5 captured"_qs);
 }
 
 TEST_F(AppDelegateTest, FollowsTheModeThatItIsTold) {

@@ -205,6 +205,7 @@ TEST_F(HoardCopy, IsNoSideFileOfTheHoard) {
     expectRefused(hoardPath() + u"-wal"_qs);
     expectRefused(hoardPath() + u"-shm"_qs);
     expectRefused(hoardPath() + u"-journal"_qs); // not there: SQLite would roll it back
+    expectRefused(hoardPath() + u".lock"_qs);    // of the program itself
     EXPECT_FALSE(QFileInfo::exists(hoardPath() + u"-journal"_qs));
 }
 
