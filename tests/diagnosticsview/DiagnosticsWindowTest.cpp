@@ -4,6 +4,7 @@
 #include "support/EventLoop.h"
 
 #include <QAccessible>
+#include <QPointer>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -132,9 +133,14 @@ TEST_F(DiagnosticsWindowTest, LeavesNothingBehindHoweverOftenItIsOpened) {
         shown.showAndMakeKey();
         draw();
         settle();
+        const QList<QPointer<QObject>> made{&shown,     &shown.window(), &shown.root(),
+                                            &view(),    view().log(),    view().log()->lines(),
+                                            &database()};
         shown.window().close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         ASSERT_FALSE(isOpen());
+        for (const QPointer<QObject>& object : made)
+            ASSERT_TRUE(object.isNull()) << object->metaObject()->className();
         views.engine->collectGarbage();
     };
     openAndClose();
