@@ -24,6 +24,7 @@ Rectangle {
         anchors.margins: Metrics.hairline
         activeFocusOnTab: true
         currentIndex: -1
+        cacheBuffer: 0 // rows are cheap, and Qt complains of those that go while it makes them
         model: root.log.lines
         topMargin: Metrics.spacingSmall
         bottomMargin: Metrics.spacingSmall
