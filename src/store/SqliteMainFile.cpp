@@ -10,7 +10,7 @@ namespace tessarine {
 namespace {
 
 // Fits the processor's cache on its way from one file to the other.
-constexpr qint64 partSize = 256 * 1024;
+constexpr qint64 partSize = 262144;
 
 constexpr auto pauseBetweenAttempts = std::chrono::milliseconds(5);
 

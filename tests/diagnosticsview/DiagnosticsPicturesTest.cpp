@@ -63,6 +63,9 @@ QStringList textsBeyond(const QQuickItem& item, double width) {
 
 class DiagnosticsPicturesTest : public DiagnosticsFixture,
                                 public ::testing::WithParamInterface<Look> {
+public:
+    ~DiagnosticsPicturesTest() override { QGuiApplication::setLayoutDirection(direction_); }
+
 protected:
     DiagnosticsPicturesTest()
         : direction_(QGuiApplication::layoutDirection()) {
@@ -70,7 +73,6 @@ protected:
             QGuiApplication::setLayoutDirection(Qt::RightToLeft);
         views.theme.applyAppearance(desk() == Desk::Dark ? u"dark"_qs : u"light"_qs);
     }
-    ~DiagnosticsPicturesTest() override { QGuiApplication::setLayoutDirection(direction_); }
 
     static State state() { return std::get<0>(GetParam()); }
     static Desk desk() { return std::get<1>(GetParam()); }

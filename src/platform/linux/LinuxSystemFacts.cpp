@@ -19,7 +19,7 @@ bool isQuoted(const QByteArray& value) {
 // Inside double quotes a backslash takes the next character as it is; inside single ones nothing is
 // special.
 QByteArray unquoted(const QByteArray& value) {
-    const QByteArray inner = isQuoted(value) ? value.sliced(1, value.size() - 2) : value;
+    QByteArray inner = isQuoted(value) ? value.sliced(1, value.size() - 2) : value;
     if (value.startsWith('\''))
         return inner;
     QByteArray plain;
