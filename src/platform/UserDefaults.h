@@ -9,7 +9,8 @@
 namespace tessarine {
 
 // The key-value store of the user's settings and cursors. What a setter is given is on disk before
-// it returns; a failure to write is silent and the value holds for this run. Getters are strict: a
+// it returns. What could not be written holds for this run, and the next setter writes it too if it
+// can; until then hasUnsavedValues() tells. Nothing waits for long. Getters are strict: a
 // value that is not plainly of the type asked for reads as absent. They go by how a value reads and
 // not by the setter that wrote it: "1" is a text, a bool, an integer, a number and a list of one.
 // Any thread.
@@ -36,6 +37,9 @@ public:
     virtual void setText(const QString& key, const QString& value) = 0;
     virtual void setTextList(const QString& key, const QStringList& value) = 0;
     virtual void setIntegerList(const QString& key, const std::vector<qint64>& value) = 0;
+
+    // Whether a value that was set is not on disk, by what the last setter has met with.
+    virtual bool hasUnsavedValues() const = 0;
 };
 
 } // namespace tessarine

@@ -46,6 +46,10 @@ public:
     // moment. Exact comparison. Any thread.
     bool isPrivate(const QString& bundleId) const;
 
+    // Whether each assignment so far is on disk. One that isn't holds for this run, and becomes so
+    // with a later one that can be written.
+    bool isSaved() const { return !defaults_.hasUnsavedValues(); }
+
 Q_SIGNALS:
     void objectWillChange(); // just before each assignment, while the old value still stands
     void changed();          // just after it

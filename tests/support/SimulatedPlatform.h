@@ -36,8 +36,10 @@ public:
     void setIntegerList(const QString& key, const std::vector<qint64>& value) override {
         values[key] = storedForm(value);
     }
+    bool hasUnsavedValues() const override { return cannotBeWritten; }
 
     std::map<QString, QVariant> values;
+    bool cannotBeWritten = false;
 
 private:
     QVariant value(const QString& key) const;

@@ -2,29 +2,70 @@
 
 #include "platform/qt/StoredValue.h"
 
-#include <QVariant>
+#include <QFile>
+#include <QLockFile>
 
 namespace tessarine {
 
-SettingsDefaults::SettingsDefaults(const QString& path)
-    : settings_(path, QSettings::IniFormat) {
-    settings_.setFallbacksEnabled(false);
+namespace {
+
+constexpr int lockPatience = 250; // milliseconds
+
+std::unique_ptr<QSettings> openSettings(const QString& path) {
+    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    settings->setFallbacksEnabled(false);
+    return settings;
 }
+
+} // namespace
+
+SettingsDefaults::SettingsDefaults(const QString& path)
+    : path_(path)
+    , settings_(openSettings(path)) {}
 
 QVariant SettingsDefaults::value(const QString& key) const {
     const std::lock_guard lock(mutex_);
-    return settings_.value(key);
+    const auto unsaved = unsaved_.find(key);
+    return unsaved != unsaved_.end() ? *unsaved : settings_->value(key);
 }
 
 void SettingsDefaults::write(const QString& key, const QVariant& value) {
     const std::lock_guard lock(mutex_);
-    settings_.setValue(key, value);
-    settings_.sync();
+    const bool isLocked = isLockedByOther();
+    unsaved_[key] = value;
+    if (!isLocked && save())
+        unsaved_.clear();
+}
+
+// QSettings itself would wait for half a minute.
+bool SettingsDefaults::isLockedByOther() const {
+    const QString lockPath = path_ + QStringLiteral(".lock");
+    if (!QFile::exists(lockPath))
+        return false;
+    QLockFile lock(lockPath);
+    return !lock.tryLock(unsaved_.isEmpty() ? lockPatience : 0) &&
+           lock.error() == QLockFile::LockFailedError;
+}
+
+// The status of QSettings is that of the first failure for ever. A new one shares what the old one
+// has not written, and tries that at once.
+bool SettingsDefaults::save() {
+    for (auto value = unsaved_.cbegin(); value != unsaved_.cend(); ++value)
+        settings_->setValue(value.key(), value.value());
+    settings_->sync();
+    if (settings_->status() != QSettings::NoError)
+        settings_ = openSettings(path_);
+    return settings_->status() == QSettings::NoError;
+}
+
+bool SettingsDefaults::hasUnsavedValues() const {
+    const std::lock_guard lock(mutex_);
+    return !unsaved_.isEmpty();
 }
 
 bool SettingsDefaults::contains(const QString& key) const {
     const std::lock_guard lock(mutex_);
-    return settings_.contains(key);
+    return unsaved_.contains(key) || settings_->contains(key);
 }
 
 bool SettingsDefaults::boolean(const QString& key) const {

@@ -2,14 +2,19 @@
 
 #include "platform/UserDefaults.h"
 
+#include <QMap>
 #include <QSettings>
+#include <QString>
+#include <QVariant>
 
+#include <memory>
 #include <mutex>
 
 namespace tessarine {
 
 // User defaults in an INI file, which people can read and edit while the program is off. A list is
-// separated by commas.
+// separated by commas. Programs that use Qt lock such a file while they write it: a setter waits
+// for one that does so a moment, and not again for one that goes on.
 class SettingsDefaults : public UserDefaults {
 public:
     explicit SettingsDefaults(const QString& path);
@@ -28,13 +33,20 @@ public:
     void setText(const QString& key, const QString& value) override;
     void setTextList(const QString& key, const QStringList& value) override;
     void setIntegerList(const QString& key, const std::vector<qint64>& value) override;
+    bool hasUnsavedValues() const override;
 
 private:
     QVariant value(const QString& key) const;
     void write(const QString& key, const QVariant& value);
 
-    mutable std::mutex mutex_;
-    QSettings settings_;
+    // With the mutex held.
+    bool isLockedByOther() const;
+    bool save();
+
+    const QString path_;
+    mutable std::mutex mutex_; // guards what follows
+    std::unique_ptr<QSettings> settings_;
+    QMap<QString, QVariant> unsaved_; // by key; these hold instead of what the settings have
 };
 
 } // namespace tessarine

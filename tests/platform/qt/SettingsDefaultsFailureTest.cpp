@@ -5,8 +5,11 @@
 #include "support/SmallDisk.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QSysInfo>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -35,9 +38,10 @@ TEST_F(SettingsDefaultsFailureTest, HoldsAValueForTheRunWhereTheFolderMayNotBeWr
         defaults.setTextList(u"list"_qs, {u"a"_qs});
         defaults.setInteger(u"number"_qs, 60);
         return QString::number(defaults.integer(u"number"_qs)) +
-               defaults.textList(u"list"_qs).join(u',');
+               defaults.textList(u"list"_qs).join(u',') +
+               (defaults.hasUnsavedValues() ? u" unsaved"_qs : u" saved"_qs);
     });
-    EXPECT_EQ(answer, u"60a"_qs);
+    EXPECT_EQ(answer, u"60a unsaved"_qs);
     EXPECT_THAT(QDir(closed).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), IsEmpty());
 }
 
@@ -48,9 +52,10 @@ TEST_F(SettingsDefaultsFailureTest, HoldsAValueForTheRunWhereTheFileMayNotBeWrit
     const QString answer = testing::asOrdinaryUser([&] {
         SettingsDefaults defaults(path());
         defaults.setInteger(key, 30);
-        return QString::number(defaults.integer(key) + defaults.integer(u"old"_qs));
+        return QString::number(defaults.integer(key) + defaults.integer(u"old"_qs)) +
+               (defaults.hasUnsavedValues() ? u" unsaved"_qs : u" saved"_qs);
     });
-    EXPECT_EQ(answer, u"31"_qs);
+    EXPECT_EQ(answer, u"31 unsaved"_qs);
     EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "old=1", ""));
     chmod(QFile::encodeName(folder.path()).constData(), 0755);
 }
@@ -70,9 +75,11 @@ TEST_F(SettingsDefaultsFailureTest, HoldsAValueWhileTheDiskIsFullAndWritesItOnce
     small.fill();
     defaults.setInteger(key, 30);
     EXPECT_EQ(defaults.integer(key), 30);
+    EXPECT_TRUE(defaults.hasUnsavedValues());
     EXPECT_EQ(content(), "[General]\nbefore=1\n");
     ASSERT_TRUE(QFile::remove(disk + u"/filler"_qs));
     defaults.setInteger(u"after"_qs, 2);
+    EXPECT_FALSE(defaults.hasUnsavedValues());
     EXPECT_EQ(content(), "[General]\nafter=2\nbefore=1\nkey=30\n");
 }
 
@@ -90,6 +97,76 @@ TEST_F(SettingsDefaultsFailureTest, HoldsAValueForTheRunWhereAFolderLiesInThePla
     SettingsDefaults defaults(path());
     defaults.setInteger(key, 30);
     EXPECT_EQ(defaults.integer(key), 30);
+    EXPECT_TRUE(defaults.hasUnsavedValues());
+}
+
+TEST_F(SettingsDefaultsFailureTest, SavesAgainAfterEachFailureThatHasPassed) {
+    ASSERT_TRUE(QDir().mkpath(path()));
+    SettingsDefaults defaults(path());
+    for (int round = 1; round <= 2; ++round) {
+        QFile::remove(path());
+        ASSERT_TRUE(QDir().mkpath(path()));
+        defaults.setInteger(key, round);
+        EXPECT_TRUE(defaults.hasUnsavedValues());
+        ASSERT_TRUE(QDir().rmdir(path()));
+        defaults.setInteger(u"other"_qs, round);
+        EXPECT_FALSE(defaults.hasUnsavedValues());
+        const QByteArray number = QByteArray::number(round);
+        EXPECT_THAT(linesOnDisk(),
+                    ElementsAre("[General]", "key=" + number, "other=" + number, ""));
+    }
+}
+
+// While another program has the file
+
+TEST_F(SettingsDefaultsFailureTest, HoldsAValueWhileAnotherProgramWritesAndSavesItThereafter) {
+    writeByHand("[General]\nold=1\n");
+    SettingsDefaults defaults(path());
+    QLockFile other(path() + u".lock"_qs);
+    ASSERT_TRUE(other.lock());
+    QElapsedTimer clock;
+    clock.start();
+    for (int value = 1; value <= 30; ++value)
+        defaults.setInteger(key, value);
+    EXPECT_LT(clock.elapsed(), 10000); // QSettings itself would wait for half a minute, each time
+    EXPECT_TRUE(defaults.hasUnsavedValues());
+    EXPECT_EQ(defaults.integer(key), 30);
+    EXPECT_TRUE(defaults.contains(key));
+    EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "old=1", ""));
+    other.unlock();
+    defaults.setInteger(u"other"_qs, 2);
+    EXPECT_FALSE(defaults.hasUnsavedValues());
+    EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=30", "old=1", "other=2", ""));
+}
+
+TEST_F(SettingsDefaultsFailureTest, ALockWhoseProgramHasGoneHoldsNothingUp) {
+    writeByHand("[General]\nold=1\n");
+    QFile lock(path() + u".lock"_qs);
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.write("999999999\nnobody\n" + QSysInfo::machineHostName().toUtf8() + "\n\n\n");
+    lock.close();
+    SettingsDefaults defaults(path());
+    defaults.setInteger(key, 30);
+    EXPECT_FALSE(defaults.hasUnsavedValues());
+    EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=30", "old=1", ""));
+}
+
+TEST_F(SettingsDefaultsFailureTest, AProgramThatOnlyHasTheFileOpenIsInNobodysWay) {
+    writeByHand("[General]\nold=1\n");
+    QFile reader(path());
+    ASSERT_TRUE(reader.open(QIODevice::ReadWrite));
+    SettingsDefaults defaults(path());
+    defaults.setInteger(key, 30);
+    EXPECT_FALSE(defaults.hasUnsavedValues());
+    EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=30", "old=1", ""));
+}
+
+TEST_F(SettingsDefaultsFailureTest, ALineThatIsNoSettingTakesNoneAlong) {
+    writeByHand("[General]\nold=1\nno setting\nother=2\n");
+    SettingsDefaults defaults(path());
+    defaults.setInteger(key, 30);
+    EXPECT_FALSE(defaults.hasUnsavedValues());
+    EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=30", "old=1", "other=2", ""));
 }
 
 } // namespace
