@@ -134,6 +134,8 @@ SimulatedPlatform::SimulatedPlatform(const QString& home)
     , workspace(install(std::make_unique<SimulatedWorkspace>(), platform.workspace))
     , accessibility(
           install(std::make_unique<SimulatedAccessibility>(scheduler), platform.accessibility))
-    , loginItem(install(std::make_unique<SimulatedLoginItem>(), platform.loginItem)) {}
+    , loginItem(install(std::make_unique<SimulatedLoginItem>(), platform.loginItem))
+    , systemSettings(
+          install(std::make_unique<SimulatedSystemSettings>(), platform.systemSettings)) {}
 
 } // namespace tessarine::testing

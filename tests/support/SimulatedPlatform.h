@@ -130,6 +130,20 @@ private:
     }
 };
 
+// A system that has the pages that the test says.
+class SimulatedSystemSettings : public SystemSettings {
+public:
+    bool offers(const QString& page) const override { return pages.contains(page); }
+    bool open(const QString& page) override {
+        opened << page;
+        return canStart && pages.contains(page);
+    }
+
+    std::set<QString> pages{settingsPages::accessibility, settingsPages::fullDiskAccess};
+    bool canStart = true;
+    QStringList opened;
+};
+
 // The whole simulated platform, with its parts at hand for the test.
 struct SimulatedPlatform {
     explicit SimulatedPlatform(const QString& home);
@@ -142,6 +156,7 @@ struct SimulatedPlatform {
     SimulatedWorkspace& workspace;
     SimulatedAccessibility& accessibility;
     SimulatedLoginItem& loginItem;
+    SimulatedSystemSettings& systemSettings;
 };
 
 } // namespace tessarine::testing

@@ -6,6 +6,7 @@
 #include "platform/linux/LinuxSingleInstance.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/applications/LinuxLoginItem.h"
+#include "platform/linux/applications/LinuxSystemSettings.h"
 #include "platform/linux/banners/LinuxAccessibility.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/SettingsDefaults.h"
@@ -37,6 +38,8 @@ std::unique_ptr<Platform> makePlatform() {
         LinuxWorkspace::Buses{sessionBusAddress(), systemBusAddress()});
     platform->accessibility = std::make_unique<LinuxAccessibility>(banners, sessionBusAddress());
     platform->loginItem = std::make_unique<LinuxLoginItem>();
+    platform->systemSettings =
+        std::make_unique<LinuxSystemSettings>(LinuxSystemSettings::currentDesktops());
     return platform;
 }
 
