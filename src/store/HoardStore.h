@@ -120,6 +120,13 @@ public:
     // "ok", or one line for each problem found. Reads the whole file.
     QString integrityCheck();
 
+    // Copies the main file, byte for byte and private, to a place from which a file or a link is
+    // removed first. What is still in the write-ahead log is not in the copy. Captures go on
+    // meanwhile, and nothing writes to the main file until the copy is there. Gives the error's
+    // text; nothing on success. The hoard and its side files, by whatever name or link, are refused
+    // as a place, and so is what is neither file nor link. After a failure there is no copy.
+    std::optional<QString> copyTo(const QString& destination);
+
     // Capture cursors. They are stored in the user defaults and never move back.
     qint64 lastSeenUsernotedRecId(); // where none is stored, the highest key in the hoard
     void saveLastSeenUsernotedRecId(qint64 value);

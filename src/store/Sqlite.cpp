@@ -13,6 +13,8 @@ constexpr int instructionsBetweenTests = 1000; // of SQLite's virtual machine: s
 int openFlags(SqliteConnection::Mode mode) {
     if (mode == SqliteConnection::Mode::foreignFile)
         return SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+    if (mode == SqliteConnection::Mode::ownFileReadOnly)
+        return SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
     return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX;
 }
 
@@ -37,6 +39,10 @@ void SqliteConnection::setLockTimeout(int milliseconds) const {
 bool SqliteConnection::wasLocked() const {
     const int error = sqlite3_errcode(handle_) & 0xff; // without the extended part
     return error == SQLITE_BUSY || error == SQLITE_LOCKED;
+}
+
+QString SqliteConnection::errorText() const {
+    return QString::fromUtf8(sqlite3_errmsg(handle_));
 }
 
 qint64 SqliteConnection::lastInsertRowId() const {

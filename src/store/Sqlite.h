@@ -14,6 +14,8 @@ class SqliteConnection {
 public:
     enum class Mode {
         ownFile, // made where it is missing; SQLite's full mutex
+        // A second connection to the same, for long readings beside the first. One thread.
+        ownFileReadOnly,
         // Another program's database, for one reading. Opened for writing although nothing is
         // written: a write-ahead log that needs recovery can't be read otherwise. No busy timeout:
         // what is locked is read the next time.
@@ -35,6 +37,9 @@ public:
 
     // Whether the last call failed because of another connection's lock.
     bool wasLocked() const;
+
+    // What SQLite says of the last call's failure.
+    QString errorText() const;
 
     qint64 lastInsertRowId() const;
     int changes() const;      // rows that the last statement changed
