@@ -20,6 +20,7 @@ AppDelegate::AppDelegate(ViewServices& views)
 
 AppDelegate::~AppDelegate() {
     // Going, the window hides, which asks the guard whether this object lives.
+    preferencesWindow_.reset();
     mainWindow_.reset();
 }
 
@@ -64,7 +65,29 @@ void AppDelegate::showMainWindow() {
     menuBarController_->markAllSeen();
 }
 
+void AppDelegate::showPreferences() {
+    if (!preferencesWindow_)
+        preferencesWindow_ = makePreferencesWindow();
+    preferencesWindow_->showAndMakeKey();
+    views_.desktop.application->activate(*preferencesWindow_->window());
+}
+
+std::unique_ptr<PreferencesWindow> AppDelegate::makePreferencesWindow() {
+    const LaunchAtLogin launchAtLogin{[this] { return launchAgent_->isEnabled(); },
+                                      [this] { launchAgent_->registerMainApp(); },
+                                      [this] { launchAgent_->unregisterMainApp(); }};
+    Services& services = views_.services;
+    return std::make_unique<PreferencesWindow>(
+        PreferencesView::Services{
+            services.preferences, services.listener, services.hoard, services.platform,
+            *views_.desktop.savePanel, launchAtLogin,
+            alive_.guard([this](const QString& mode) { applyAppearance(mode); })},
+        *views_.engine);
+}
+
 void AppDelegate::activate() {
+    if (preferencesWindow_ && preferencesWindow_->isVisible())
+        views_.desktop.application->activate(*preferencesWindow_->window());
     if (mainWindow_ && mainWindow_->isVisible())
         views_.desktop.application->activate(*mainWindow_->window());
 }

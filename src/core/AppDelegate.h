@@ -3,6 +3,7 @@
 #include "browser/MainWindow.h"
 #include "core/LaunchFlow.h"
 #include "core/ViewServices.h"
+#include "settings/PreferencesWindow.h"
 #include "shared/AliveGuard.h"
 #include "shell/LaunchAgentManager.h"
 #include "shell/MenuBarController.h"
@@ -28,6 +29,10 @@ public:
     // Brings the main window to the front and takes all notifications as seen.
     void showMainWindow();
 
+    // Brings the preferences to the front. Their window is built at the first request. Not before
+    // the launch steps.
+    void showPreferences();
+
     // What another start of the program asks for: the windows that are open come to the front. One
     // that is hidden stays hidden.
     void activate();
@@ -40,7 +45,11 @@ public:
     // Null until the launch steps have made it.
     MainWindow* mainWindow() const { return mainWindow_.get(); }
 
+    // Null until they were asked for.
+    PreferencesWindow* preferencesWindow() const { return preferencesWindow_.get(); }
+
 private:
+    std::unique_ptr<PreferencesWindow> makePreferencesWindow();
     void watchMainWindow();
     void giveMemoryBack();
 
@@ -49,6 +58,7 @@ private:
     std::unique_ptr<LaunchAgentManager> launchAgent_;
     std::unique_ptr<MenuBarController> menuBarController_;
     std::unique_ptr<MainWindow> mainWindow_;
+    std::unique_ptr<PreferencesWindow> preferencesWindow_;
     AliveGuard alive_;
 };
 
