@@ -35,7 +35,8 @@ void AppDelegate::applicationDidFinishLaunching() {
                                                         *services.platform.fileSystem);
     menuBarController_ = std::make_unique<MenuBarController>(
         *views_.desktop.statusItem, services.listener, defaults, *launchAgent_,
-        [this] { showMainWindow(); }, [] { QCoreApplication::quit(); });
+        MenuBarController::Actions{[this] { showMainWindow(); }, [this] { showPreferences(); },
+                                   [] { QCoreApplication::quit(); }});
     mainWindow_ = std::make_unique<MainWindow>(views_.browser(), defaults, *views_.engine);
     watchMainWindow();
     launchFlow_.begin();

@@ -25,16 +25,15 @@ constexpr qint64 badgeLimit = 100; // from here on it tells no number
 MenuBarController::MenuBarController(StatusItem& statusItem,
                                      std::shared_ptr<NotificationListener> listener,
                                      UserDefaults& defaults, const LaunchAgentManager& launchAgent,
-                                     Action openHoard, Action quit)
+                                     Actions actions)
     : statusItem_(statusItem)
     , listener_(std::move(listener))
     , defaults_(defaults)
     , launchAgent_(launchAgent)
-    , openHoard_(std::move(openHoard))
-    , quit_(std::move(quit))
+    , actions_(std::move(actions))
     , lastSeenCount_(defaults.integer(defaultsKeys::menuBarLastSeenCount)) {
     statusItem_.setImage(QStringLiteral("bell.fill"), programName);
-    statusItem_.setActivation(openHoard_);
+    statusItem_.setActivation(actions_.openHoard);
     statusItem_.keepPlaceIn(defaults_);
     statusItem_.setMenuBuilder([this](QMenu& menu) { fillMenu(menu); });
     connect(listener_.get(), &NotificationListener::notificationsChanged, this,
@@ -79,14 +78,17 @@ QString MenuBarController::tip(quint64 count) {
 void MenuBarController::fillMenu(QMenu& menu) const {
     menu.addAction(programName)->setEnabled(false);
     menu.addSeparator();
-    menu.addAction(qtTrId("menu.openHoard"), QKeySequence(Qt::CTRL | Qt::Key_O), this, openHoard_);
+    menu.addAction(qtTrId("menu.openHoard"), QKeySequence(Qt::CTRL | Qt::Key_O), this,
+                   actions_.openHoard);
+    menu.addAction(qtTrId("menu.preferences.title"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
+                   actions_.showPreferences);
     menu.addSeparator();
     QAction* atLogin =
         menu.addAction(qtTrId("menu.launchAtLogin"), this, [this] { launchAgent_.toggle(); });
     atLogin->setCheckable(true);
     atLogin->setChecked(launchAgent_.isEnabled());
     menu.addSeparator();
-    menu.addAction(qtTrId("menu.quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, quit_);
+    menu.addAction(qtTrId("menu.quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, actions_.quit);
 }
 
 } // namespace tessarine

@@ -24,10 +24,17 @@ class MenuBarController : public QObject {
 public:
     using Action = std::function<void()>;
 
+    // What the entries of the menu do.
+    struct Actions {
+        Action openHoard;
+        Action showPreferences;
+        Action quit;
+    };
+
     // Shows the item. Item, defaults and manager outlive the controller.
     MenuBarController(StatusItem& statusItem, std::shared_ptr<NotificationListener> listener,
                       UserDefaults& defaults, const LaunchAgentManager& launchAgent,
-                      Action openHoard, Action quit);
+                      Actions actions);
 
     // The list as it stands counts as seen, in later processes too.
     void markAllSeen();
@@ -49,8 +56,7 @@ private:
     std::shared_ptr<NotificationListener> listener_;
     UserDefaults& defaults_;
     const LaunchAgentManager& launchAgent_;
-    Action openHoard_;
-    Action quit_;
+    Actions actions_;
     qint64 lastSeenCount_;
     std::optional<QString> shownTitle_;
 };

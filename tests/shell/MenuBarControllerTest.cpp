@@ -24,9 +24,10 @@ const QString lastSeenKey = u"menuBarLastSeenCount"_qs;
 class MenuBarTest : public ::testing::Test {
 protected:
     void launch() {
-        controller_.emplace(
-            item_, listener_, system_.defaults, launchAgent_, [this] { ++opened_; },
-            [this] { ++quit_; });
+        controller_.emplace(item_, listener_, system_.defaults, launchAgent_,
+                            MenuBarController::Actions{[this] { ++opened_; },
+                                                       [this] { ++preferences_; },
+                                                       [this] { ++quit_; }});
     }
 
     void publish(std::size_t count) { listener_->setNotifications(NotificationList(count)); }
@@ -39,6 +40,7 @@ protected:
     testing::SimulatedStatusItem item_;
     std::optional<MenuBarController> controller_;
     int opened_ = 0;
+    int preferences_ = 0;
     int quit_ = 0;
 };
 
@@ -149,11 +151,12 @@ TEST_F(MenuBarTest, TheMenuHasItsItemsInTheirOrder) {
     QStringList texts;
     for (const QAction* action : menu.actions())
         texts << (action->isSeparator() ? u"-"_qs : action->text());
-    EXPECT_EQ(texts, QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"-"_qs,
-                                  u"Launch at Login"_qs, u"-"_qs, u"Quit Tessarine"_qs}));
+    EXPECT_EQ(texts, QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"Preferences…"_qs,
+                                  u"-"_qs, u"Launch at Login"_qs, u"-"_qs, u"Quit Tessarine"_qs}));
     EXPECT_FALSE(menu.actions()[0]->isEnabled());
     EXPECT_EQ(menu.actions()[2]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
-    EXPECT_EQ(menu.actions()[6]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    EXPECT_EQ(menu.actions()[3]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    EXPECT_EQ(menu.actions()[7]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
 
 TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
@@ -162,8 +165,12 @@ TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
     item_.menuBuilder(menu);
     menu.actions()[2]->trigger();
     EXPECT_EQ(opened_, 1);
+    EXPECT_EQ(preferences_, 0);
+    menu.actions()[3]->trigger();
+    EXPECT_EQ(preferences_, 1);
+    EXPECT_EQ(opened_, 1);
     EXPECT_EQ(quit_, 0);
-    menu.actions()[6]->trigger();
+    menu.actions()[7]->trigger();
     EXPECT_EQ(quit_, 1);
 }
 
@@ -174,14 +181,14 @@ TEST_F(MenuBarTest, LaunchAtLoginIsCheckedWhileItIsEnabledAndTogglesIt) {
         system_.loginItem.current = status;
         QMenu off;
         item_.menuBuilder(off);
-        EXPECT_FALSE(off.actions()[4]->isChecked());
-        off.actions()[4]->trigger();
+        EXPECT_FALSE(off.actions()[5]->isChecked());
+        off.actions()[5]->trigger();
         EXPECT_EQ(system_.loginItem.current, LoginItemStatus::enabled);
     }
     QMenu on;
     item_.menuBuilder(on);
-    EXPECT_TRUE(on.actions()[4]->isChecked());
-    on.actions()[4]->trigger();
+    EXPECT_TRUE(on.actions()[5]->isChecked());
+    on.actions()[5]->trigger();
     EXPECT_EQ(system_.loginItem.current, LoginItemStatus::notRegistered);
 }
 
