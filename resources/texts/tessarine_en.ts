@@ -132,15 +132,15 @@
     </message>
     <message id="excludedApps.confirm.excludeAndDelete">
         <source>excludedApps.confirm.excludeAndDelete</source>
-        <translation>Exclude and Delete Them</translation>
+        <translation>Exclude and Delete</translation>
     </message>
     <message id="excludedApps.confirm.excludeOnly">
         <source>excludedApps.confirm.excludeOnly</source>
-        <translation>Exclude and Keep Them</translation>
+        <translation>Exclude Only</translation>
     </message>
     <message id="excludedApps.confirm.message">
         <source>excludedApps.confirm.message</source>
-        <translation>New notifications of %1 will not be kept. What is to become of those that the hoard has?</translation>
+        <translation>New notifications of %1 will not be kept. You can also delete all that the hoard has under this name.</translation>
     </message>
     <message id="excludedApps.confirm.title">
         <source>excludedApps.confirm.title</source>
@@ -541,7 +541,7 @@
     </message>
     <message id="prefs.storage.retention.shortWarning">
         <source>prefs.storage.retention.shortWarning</source>
-        <translation>Notifications go after a short time, pinned ones too. They can't be brought back.</translation>
+        <translation>Notifications go after a short time, pinned ones too.</translation>
     </message>
     <message id="prefs.storage.section.hoard">
         <source>prefs.storage.section.hoard</source>

@@ -38,14 +38,13 @@ void AppDelegate::applicationDidFinishLaunching() {
         MenuBarController::Actions{[this] { showMainWindow(); }, [this] { showPreferences(); },
                                    [] { QCoreApplication::quit(); }});
     mainWindow_ = std::make_unique<MainWindow>(views_.browser(), defaults, *views_.engine);
-    watchMainWindow();
+    watch(*mainWindow_->window());
     launchFlow_.begin();
 }
 
 // Once the renderer has let go of what it had for the window, on its thread and on this one.
-void AppDelegate::watchMainWindow() {
-    QWindow* const window = mainWindow_->window();
-    QObject::connect(window, &QWindow::visibleChanged, window, [this](bool visible) {
+void AppDelegate::watch(const QWindow& window) {
+    QObject::connect(&window, &QWindow::visibleChanged, &window, [this](bool visible) {
         if (visible)
             return;
         views_.services.platform.scheduler->onMainAfter(memoryDelay,
@@ -54,7 +53,7 @@ void AppDelegate::watchMainWindow() {
 }
 
 void AppDelegate::giveMemoryBack() {
-    if (mainWindow_->isVisible())
+    if (mainWindow_->isVisible() || (preferencesWindow_ && preferencesWindow_->isVisible()))
         return;
     views_.engine->collectGarbage();
     views_.desktop.application->returnFreeMemory();
@@ -67,8 +66,10 @@ void AppDelegate::showMainWindow() {
 }
 
 void AppDelegate::showPreferences() {
-    if (!preferencesWindow_)
+    if (!preferencesWindow_) {
         preferencesWindow_ = makePreferencesWindow();
+        watch(*preferencesWindow_->window());
+    }
     preferencesWindow_->showAndMakeKey();
     views_.desktop.application->activate(*preferencesWindow_->window());
 }

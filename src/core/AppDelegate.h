@@ -10,6 +10,8 @@
 
 #include <memory>
 
+class QWindow;
+
 namespace tessarine {
 
 // The program's spine: owns the status item and the windows, and runs the launch steps in their
@@ -50,7 +52,7 @@ public:
 
 private:
     std::unique_ptr<PreferencesWindow> makePreferencesWindow();
-    void watchMainWindow();
+    void watch(const QWindow& window);
     void giveMemoryBack();
 
     ViewServices& views_;

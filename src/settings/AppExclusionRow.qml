@@ -32,7 +32,7 @@ CheckControl {
         width: 28
         height: 28
         bundleId: row.bundleId
-        appName: row.appName
+        appName: row.name
         cornerRadius: 6
     }
 

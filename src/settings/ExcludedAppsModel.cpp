@@ -28,7 +28,7 @@ QVariant ExcludedAppsModel::data(const QModelIndex& index, int role) const {
     case bundleId:
         return app.bundleId;
     case appName:
-        return app.appName;
+        return app.appName.simplified();
     case isExcluded:
         return excluded_.contains(app.bundleId);
     default:

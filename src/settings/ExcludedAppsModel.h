@@ -9,7 +9,8 @@
 
 namespace tessarine {
 
-// The applications that the hoard knows, in its order, and whether they are excluded. Main thread.
+// The applications that the hoard knows, in its order, and whether they are excluded. A view gets
+// names in one line. Main thread.
 class ExcludedAppsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT

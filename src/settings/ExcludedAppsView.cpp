@@ -125,7 +125,7 @@ void ExcludedAppsView::setShowConfirmation(bool shown) {
 }
 
 QString ExcludedAppsView::askedName() const {
-    const QString& name = asked_.appName.isEmpty() ? asked_.bundleId : asked_.appName;
+    const QString name = (asked_.appName.isEmpty() ? asked_.bundleId : asked_.appName).simplified();
     const QStringView shown = firstCharacters(name, longestName);
     return shown.size() == name.size() ? name : shown.toString() + u'…';
 }

@@ -11,11 +11,12 @@ PreferencesTab {
 
     readonly property string note: "macOS does not allow apps to grant or revoke permissions directly. Use “Open System Settings” to manage each permission, then tap “Re-check” to update the status shown here."
 
-    padding: Metrics.spacingLarge
-    gap: Metrics.spacingLarge
+    padding: Metrics.spacingMedium
+    gap: Metrics.spacingMedium
 
     PreferencesSection {
         heading: "System Permissions"
+        rowGap: Metrics.spacingMedium
 
         PermissionRow {
             objectName: "accessibility"

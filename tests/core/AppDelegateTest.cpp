@@ -5,6 +5,7 @@
 #include "support/SimulatedPlatform.h"
 
 #include <QMenu>
+#include <QPointer>
 #include <QQuickWindow>
 #include <QTemporaryDir>
 
@@ -157,6 +158,85 @@ TEST_F(AppDelegateTest, GoesOnCapturingWithItsWindowClosed) {
     delegate->showMainWindow();
     EXPECT_TRUE(window()->isVisible());
     EXPECT_EQ(delegate->mainWindow()->content().list()->filteredNotifications().size(), 1U);
+}
+
+TEST_F(AppDelegateTest, BuildsThePreferencesAtTheFirstRequestAndKeepsThem) {
+    launch();
+    EXPECT_EQ(delegate->preferencesWindow(), nullptr);
+    delegate->showPreferences();
+    const QPointer<QWindow> preferences = delegate->preferencesWindow()->window();
+    EXPECT_TRUE(preferences->isVisible());
+    delegate->showPreferences();
+    preferences->close();
+    EXPECT_FALSE(preferences->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    delegate->showPreferences();
+    EXPECT_EQ(delegate->preferencesWindow()->window(), preferences);
+    EXPECT_TRUE(preferences->isVisible());
+}
+
+TEST_F(AppDelegateTest, RaisesThePreferencesAtEachRequest) {
+    launch();
+    delegate->showPreferences();
+    QWindow* const preferences = delegate->preferencesWindow()->window();
+    delegate->showMainWindow();
+    delegate->showPreferences();
+    EXPECT_THAT(desktop.application.activated, ElementsAre(preferences, window(), preferences));
+}
+
+TEST_F(AppDelegateTest, BringsOpenPreferencesToTheFrontAtASecondStart) {
+    launch();
+    delegate->showPreferences();
+    desktop.application.activated.clear();
+    delegate->activate();
+    EXPECT_THAT(desktop.application.activated,
+                ElementsAre(delegate->preferencesWindow()->window()));
+}
+
+TEST_F(AppDelegateTest, TheMenuLeadsToThePreferences) {
+    launch();
+    chooseInStatusMenu(u"Preferences…"_qs);
+    ASSERT_NE(delegate->preferencesWindow(), nullptr);
+    EXPECT_TRUE(delegate->preferencesWindow()->isVisible());
+    EXPECT_FALSE(window()->isVisible());
+}
+
+TEST_F(AppDelegateTest, GoesOnCapturingWhenThePreferencesAreClosed) {
+    launch();
+    delegate->showPreferences();
+    delegate->preferencesWindow()->window()->close();
+    CapturedNotification row;
+    row.noteId = 1;
+    row.title = u"later"_qs;
+    ASSERT_TRUE(services->hoard.insert(row));
+    services->listener->setNotifications(services->hoard.fetchRecent(500));
+    EXPECT_EQ(desktop.statusItem.title, u" 1"_qs);
+}
+
+TEST_F(AppDelegateTest, GivesMemoryBackOnceTheLastOfItsWindowsWasClosed) {
+    launch();
+    delegate->showMainWindow();
+    delegate->showPreferences();
+    delegate->preferencesWindow()->window()->close();
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 0);
+    window()->close();
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 1);
+}
+
+TEST_F(AppDelegateTest, ThePreferencesSwitchAppearanceAndLoginItem) {
+    launch();
+    delegate->showPreferences();
+    GeneralSettings& general = *delegate->preferencesWindow()->view().general();
+    general.chooseAppearance(1);
+    system.scheduler.settle();
+    EXPECT_EQ(desktop.appearance.appearance, Appearance::light);
+    general.setLaunchAtLogin(true);
+    EXPECT_EQ(system.loginItem.current, LoginItemStatus::enabled);
+    EXPECT_TRUE(general.launchAtLogin());
+    general.setLaunchAtLogin(false);
+    EXPECT_EQ(system.loginItem.current, LoginItemStatus::notRegistered);
 }
 
 TEST_F(AppDelegateTest, FollowsTheModeThatItIsTold) {
