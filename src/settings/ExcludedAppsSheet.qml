@@ -77,10 +77,16 @@ Sheet {
 
             // Whether there was such a row.
             function goTo(row: int): bool {
-                currentIndex = row >= 0 ? row : currentIndex;
-                if (row >= 0)
-                    currentItem.forceActiveFocus(Qt.TabFocusReason);
-                return row >= 0;
+                if (row < 0)
+                    return false;
+                positionViewAtIndex(row, ListView.Contain);
+                itemAtIndex(row).forceActiveFocus(Qt.TabFocusReason);
+                return true;
+            }
+
+            function takeFocusOf(row: int) {
+                currentIndex = row;
+                positionViewAtIndex(row, ListView.Contain);
             }
 
             anchors.top: header.bottom
@@ -99,7 +105,7 @@ Sheet {
                 required property int index
 
                 width: list.width
-                focusPolicy: index === list.currentIndex || activeFocus ? Qt.TabFocus : Qt.NoFocus
+                focusPolicy: index === Math.max(0, list.currentIndex) || activeFocus ? Qt.TabFocus : Qt.NoFocus
                 onToggleOn: sheet.view.toggleOn(index)
                 onToggleOff: sheet.view.toggleOff(index)
                 onActiveFocusChanged: if (activeFocus) ListView.view.takeFocusOf(index)
@@ -109,11 +115,6 @@ Sheet {
                     width: parent.width
                     visible: row.index + 1 < list.count
                 }
-            }
-
-            function takeFocusOf(row: int) {
-                currentIndex = row;
-                positionViewAtIndex(row, ListView.Contain);
             }
 
             T.ScrollBar.vertical: ThinScrollBar {}

@@ -33,7 +33,6 @@ FocusScope {
             y: Metrics.spacingMedium
             width: parent.width - 2 * Metrics.spacingMedium
             anchors.horizontalCenter: parent.horizontalCenter
-            focus: true
             accessibleName: qsTrId("prefs.window.title")
             currentIndex: root.view.selectedTab
             onActivated: index => root.view.selectedTab = index

@@ -54,8 +54,9 @@ TEST_F(PreferencesKeyboardTest, TabGoesThroughPermissionsInTheOrderOfReading) {
                                     u"Open System Settings"_qs, u"Re-check"_qs}));
 }
 
-TEST_F(PreferencesKeyboardTest, TheKeyboardBeginsAtTheTabsAndArrowsChangeThem) {
+TEST_F(PreferencesKeyboardTest, TabComesToTheTabsFirstAndArrowsChangeThem) {
     show();
+    user().press(Qt::Key_Tab);
     EXPECT_EQ(user().focusName(), u"General"_qs);
     user().press(Qt::Key_Right);
     EXPECT_EQ(view().selectedTab(), PrefTab::storage);
