@@ -56,6 +56,8 @@ T.Dialog {
 
     contentItem: FocusScope {
         focus: true
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft // popups inherit it from nobody
+        LayoutMirroring.childrenInherit: true
         implicitWidth: children[0]?.implicitWidth ?? 0
         implicitHeight: children[0]?.implicitHeight ?? 0
         Keys.onReturnPressed: sheet.defaultButton?.press()

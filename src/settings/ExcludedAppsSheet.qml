@@ -108,7 +108,7 @@ Sheet {
                 focusPolicy: index === Math.max(0, list.currentIndex) || activeFocus ? Qt.TabFocus : Qt.NoFocus
                 onToggleOn: sheet.view.toggleOn(index)
                 onToggleOff: sheet.view.toggleOff(index)
-                onActiveFocusChanged: if (activeFocus) ListView.view.takeFocusOf(index)
+                onActiveFocusChanged: if (activeFocus) list.takeFocusOf(index)
 
                 HorizontalDivider {
                     anchors.bottom: parent.bottom

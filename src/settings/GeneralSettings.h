@@ -19,7 +19,7 @@ class GeneralSettings : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("PreferencesView brings it")
-    Q_PROPERTY(QStringList appearanceTexts READ appearanceTexts CONSTANT)
+    Q_PROPERTY(QList<QString> appearanceTexts READ appearanceTexts CONSTANT)
     Q_PROPERTY(int appearanceIndex READ appearanceIndex WRITE chooseAppearance NOTIFY changed)
     Q_PROPERTY(
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)

@@ -18,7 +18,7 @@ class PrivacySettings : public QObject {
     QML_UNCREATABLE("PreferencesView brings it")
     Q_PROPERTY(
         bool globalPrivacyMode READ globalPrivacyMode WRITE setGlobalPrivacyMode NOTIFY changed)
-    Q_PROPERTY(QStringList otpTexts READ otpTexts CONSTANT)
+    Q_PROPERTY(QList<QString> otpTexts READ otpTexts CONSTANT)
     Q_PROPERTY(int otpIndex READ otpIndex WRITE chooseOtp NOTIFY changed)
     Q_PROPERTY(QString otpText READ otpText NOTIFY changed)
     Q_PROPERTY(tessarine::PreferenceNote otpNote READ otpNote NOTIFY changed)

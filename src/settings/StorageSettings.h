@@ -21,7 +21,7 @@ class StorageSettings : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("PreferencesView brings it")
-    Q_PROPERTY(QStringList retentionTexts READ retentionTexts CONSTANT)
+    Q_PROPERTY(QList<QString> retentionTexts READ retentionTexts CONSTANT)
     Q_PROPERTY(int retentionIndex READ retentionIndex WRITE chooseRetention NOTIFY changed)
     Q_PROPERTY(QString retentionText READ retentionText NOTIFY changed)
     Q_PROPERTY(tessarine::PreferenceNote retentionNote READ retentionNote NOTIFY changed)

@@ -63,6 +63,8 @@ class SettingsTestCase(DesktopTestCase):
 
     def insert(self, title, body, age):
         """A row of that many seconds, written by another program."""
+        wait_until(lambda: self.session.query(
+            "SELECT 1 FROM sqlite_master WHERE name = 'notifications'"), "the table")
         with contextlib.closing(sqlite3.connect(self.session.hoard, timeout=30)) as hoard, hoard:
             hoard.execute(
                 "INSERT INTO notifications (note_id, app_name, bundle_id, title, body, timestamp) "
