@@ -67,7 +67,7 @@ class SettingsTestCase(DesktopTestCase):
             "SELECT 1 FROM sqlite_master WHERE name = 'notifications'"), "the table")
         with contextlib.closing(sqlite3.connect(self.session.hoard, timeout=30)) as hoard, hoard:
             hoard.execute(
-                "INSERT INTO notifications (note_id, app_name, bundle_id, title, body, timestamp) "
+                "INSERT INTO notifications (system_note_id, app_name, bundle_id, title, body, timestamp) "
                 "VALUES (?, 'Old', 'old', ?, ?, ?)",
                 (-int(age) - len(title), title, body, now() - age))
 
@@ -180,7 +180,7 @@ class Storage(SettingsTestCase):
         self.wait_for_count(1)
         self.save(pathlib.Path("/proc/backup.db"))
         self.window.shows("heading", "The backup could not be made.")
-        self.window.press("Return")
+        self.window.click("push button", "OK")
         self.window.hides("heading", "The backup could not be made.")
         self.application("Mail").announce("Afterwards")
         self.wait_for_count(2)
