@@ -95,6 +95,15 @@ protected:
         choose(tab);
     }
 
+    // At double density the screen of the tests is too small for it.
+    void takeFullSize() {
+        const bool isFirst = view().selectedTab() == PrefTab::general;
+        const QSize size(480, isFirst ? 500 : windowHeight(view().selectedTab()));
+        window->window()->setMaximumSize(size);
+        window->window()->setMinimumSize(size);
+        window->window()->resize(size);
+    }
+
     void bringAbout(SettingsScene scene) {
         switch (scene) {
         case SettingsScene::General:
@@ -172,6 +181,7 @@ TEST_P(PreferencesPicturesTest, ShowsTheSceneWithoutCuttingIt) {
     views.theme.applyAppearance(dark ? u"dark"_qs : u"light"_qs);
     desktop.appearance.setHighContrast(desk == SettingsDesk::ContrastDark);
     bringAbout(scene);
+    takeFullSize();
     const QImage picture = user().stillPicture();
     EXPECT_EQ(user().textsOutside(), QStringList());
     const QString name = u"settings-%1-%2@%3x.png"_qs.arg(

@@ -435,11 +435,18 @@ TEST_F(PermissionsTest, WhatWasGrantedMeanwhileIsSeenByReCheckAlone) {
     makeUsernoted();
     system.scheduler.advance(100);
     EXPECT_EQ(status(u"accessibility"_qs), u"Not enabled"_qs);
-    user().click(button(u"accessibility"_qs, u"recheck"_qs));
-    EXPECT_EQ(status(u"accessibility"_qs), u"Enabled"_qs);
-    EXPECT_EQ(status(u"fullDiskAccess"_qs), u"Not enabled"_qs);
     user().click(button(u"fullDiskAccess"_qs, u"recheck"_qs));
     EXPECT_EQ(status(u"fullDiskAccess"_qs), u"Enabled"_qs);
+    EXPECT_EQ(status(u"accessibility"_qs), u"Not enabled"_qs);
+    user().click(button(u"accessibility"_qs, u"recheck"_qs));
+    EXPECT_EQ(status(u"accessibility"_qs), u"Enabled"_qs);
+}
+
+TEST_F(PermissionsTest, ReCheckOfOneLeavesTheOtherAsItWas) {
+    showPermissions();
+    makeUsernoted();
+    user().click(button(u"accessibility"_qs, u"recheck"_qs));
+    EXPECT_EQ(status(u"fullDiskAccess"_qs), u"Not enabled"_qs);
 }
 
 TEST_F(PermissionsTest, WhatWasGrantedMeanwhileIsSeenWhenTheWindowAppears) {

@@ -3,8 +3,12 @@
 #include "support/EventLoop.h"
 
 #include <QAccessible>
+#include <QGuiApplication>
 #include <QQmlError>
+#include <QScreen>
 #include <QTest>
+
+#include <algorithm>
 
 namespace tessarine::testing {
 
@@ -58,7 +62,8 @@ void SettingsTest::choose(PrefTab tab) {
     if (view().selectedTab() == tab)
         return; // with the height that it has
     view().setSelectedTab(tab);
-    const int height = windowHeight(tab);
+    const int room = QGuiApplication::primaryScreen()->availableSize().height();
+    const int height = std::min(windowHeight(tab), room);
     ASSERT_TRUE(turnsUntil([&] { return window->window()->height() == height; }));
     user().draw();
 }
