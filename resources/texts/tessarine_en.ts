@@ -11,6 +11,18 @@
         <source>action.close</source>
         <translation>Close</translation>
     </message>
+    <message id="action.continue">
+        <source>action.continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message id="action.done">
+        <source>action.done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="action.ok">
+        <source>action.ok</source>
+        <translation>OK</translation>
+    </message>
     <message id="banner.deepLink.subtitle">
         <source>banner.deepLink.subtitle</source>
         <translation>The app shows the place this notification is about.</translation>
@@ -117,6 +129,189 @@
     <message id="datePreset.yesterday">
         <source>datePreset.yesterday</source>
         <translation>Yesterday</translation>
+    </message>
+    <message id="diag.busy">
+        <source>diag.busy</source>
+        <translation>In progress</translation>
+    </message>
+    <message id="diag.db.apps">
+        <source>diag.db.apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message id="diag.db.backup.fail">
+        <source>diag.db.backup.fail</source>
+        <translation>Backup failed: %1</translation>
+    </message>
+    <message id="diag.db.backup.panelTitle">
+        <source>diag.db.backup.panelTitle</source>
+        <translation>Back Up the Hoard</translation>
+    </message>
+    <message id="diag.db.backup.saveBtn">
+        <source>diag.db.backup.saveBtn</source>
+        <translation>Back Up</translation>
+    </message>
+    <message id="diag.db.backup.success">
+        <source>diag.db.backup.success</source>
+        <translation>Backup saved to %1</translation>
+    </message>
+    <message id="diag.db.createBackup">
+        <source>diag.db.createBackup</source>
+        <translation>Create Backup…</translation>
+    </message>
+    <message id="diag.db.first">
+        <source>diag.db.first</source>
+        <translation>First</translation>
+    </message>
+    <message id="diag.db.header">
+        <source>diag.db.header</source>
+        <translation>Hoard</translation>
+    </message>
+    <message id="diag.db.integrity.fail">
+        <source>diag.db.integrity.fail</source>
+        <translation>Integrity check found problems: %1</translation>
+    </message>
+    <message id="diag.db.integrity.pass">
+        <source>diag.db.integrity.pass</source>
+        <translation>Integrity check passed</translation>
+    </message>
+    <message id="diag.db.last">
+        <source>diag.db.last</source>
+        <translation>Last</translation>
+    </message>
+    <message id="diag.db.pinned">
+        <source>diag.db.pinned</source>
+        <translation>Pinned</translation>
+    </message>
+    <message id="diag.db.records">
+        <source>diag.db.records</source>
+        <translation>Records</translation>
+    </message>
+    <message id="diag.db.refresh.help">
+        <source>diag.db.refresh.help</source>
+        <translation>Count the hoard again</translation>
+    </message>
+    <message id="diag.db.size">
+        <source>diag.db.size</source>
+        <translation>Size</translation>
+    </message>
+    <message id="diag.db.verifyIntegrity">
+        <source>diag.db.verifyIntegrity</source>
+        <translation>Verify Integrity</translation>
+    </message>
+    <message id="diag.export.data">
+        <source>diag.export.data</source>
+        <translation>Export Data…</translation>
+    </message>
+    <message id="diag.level.activity">
+        <source>diag.level.activity</source>
+        <translation>activity</translation>
+    </message>
+    <message id="diag.level.info">
+        <source>diag.level.info</source>
+        <translation>information</translation>
+    </message>
+    <message id="diag.level.success">
+        <source>diag.level.success</source>
+        <translation>success</translation>
+    </message>
+    <message id="diag.level.warning">
+        <source>diag.level.warning</source>
+        <translation>warning</translation>
+    </message>
+    <message id="diag.log.clear">
+        <source>diag.log.clear</source>
+        <translation>Clear the log</translation>
+    </message>
+    <message id="diag.log.clearFilter">
+        <source>diag.log.clearFilter</source>
+        <translation>Clear the filter</translation>
+    </message>
+    <message id="diag.log.filtered">
+        <source>diag.log.filtered</source>
+        <translation>No line of the log passes the filter.</translation>
+    </message>
+    <message id="diag.log.list">
+        <source>diag.log.list</source>
+        <translation>Log</translation>
+    </message>
+    <message id="diag.log.only">
+        <source>diag.log.only</source>
+        <translation>Only %1</translation>
+    </message>
+    <message id="diag.report.copied">
+        <source>diag.report.copied</source>
+        <translation>Report copied to the clipboard</translation>
+    </message>
+    <message id="diag.report.copy">
+        <source>diag.report.copy</source>
+        <translation>Copy Report</translation>
+    </message>
+    <message id="diag.report.export.fail">
+        <source>diag.report.export.fail</source>
+        <translation>Report could not be exported: %1</translation>
+    </message>
+    <message id="diag.report.export.panelTitle">
+        <source>diag.report.export.panelTitle</source>
+        <translation>Export Diagnostics Report</translation>
+    </message>
+    <message id="diag.report.export.saveBtn">
+        <source>diag.report.export.saveBtn</source>
+        <translation>Export</translation>
+    </message>
+    <message id="diag.report.exportReport">
+        <source>diag.report.exportReport</source>
+        <translation>Export Report…</translation>
+    </message>
+    <message id="diag.report.exported">
+        <source>diag.report.exported</source>
+        <translation>Report exported as %1</translation>
+    </message>
+    <message id="diag.report.includeContent">
+        <source>diag.report.includeContent</source>
+        <translation>Include notification content in exported reports</translation>
+    </message>
+    <message id="diag.report.safeNote">
+        <source>diag.report.safeNote</source>
+        <translation>When off, lines of the log that quote a notification name its app only. A copied report holds the log as it is.</translation>
+    </message>
+    <message id="excludedApps.confirm.excludeAndDelete">
+        <source>excludedApps.confirm.excludeAndDelete</source>
+        <translation>Exclude and Delete</translation>
+    </message>
+    <message id="excludedApps.confirm.excludeOnly">
+        <source>excludedApps.confirm.excludeOnly</source>
+        <translation>Exclude Only</translation>
+    </message>
+    <message id="excludedApps.confirm.message">
+        <source>excludedApps.confirm.message</source>
+        <translation>New notifications of %1 will not be kept. You can also delete all that the hoard has under this name.</translation>
+    </message>
+    <message id="excludedApps.confirm.title">
+        <source>excludedApps.confirm.title</source>
+        <translation>Exclude %1?</translation>
+    </message>
+    <message id="excludedApps.empty.subtitle">
+        <source>excludedApps.empty.subtitle</source>
+        <translation>An app is listed here once one of its notifications was kept.</translation>
+    </message>
+    <message id="excludedApps.empty.title">
+        <source>excludedApps.empty.title</source>
+        <translation>No apps yet</translation>
+    </message>
+    <message id="excludedApps.footer.count" numerus="yes">
+        <source>excludedApps.footer.count</source>
+        <translation>
+            <numerusform>%Ln app is excluded</numerusform>
+            <numerusform>%Ln apps are excluded</numerusform>
+        </translation>
+    </message>
+    <message id="excludedApps.subtitle">
+        <source>excludedApps.subtitle</source>
+        <translation>Turn an app on to stop keeping its notifications.</translation>
+    </message>
+    <message id="excludedApps.title">
+        <source>excludedApps.title</source>
+        <translation>Excluded Apps</translation>
     </message>
     <message id="export.close">
         <source>export.close</source>
@@ -281,10 +476,6 @@
         <source>menu.fullDiskAccess</source>
         <translation>Full Disk Access…</translation>
     </message>
-    <message id="menu.help.title">
-        <source>menu.help.title</source>
-        <translation>Tessarine Help</translation>
-    </message>
     <message id="menu.launchAtLogin">
         <source>menu.launchAtLogin</source>
         <translation>Launch at Login</translation>
@@ -299,6 +490,10 @@
     <message id="menu.openHoard">
         <source>menu.openHoard</source>
         <translation>Open Hoard</translation>
+    </message>
+    <message id="menu.preferences.title">
+        <source>menu.preferences.title</source>
+        <translation>Preferences…</translation>
     </message>
     <message id="menu.quit">
         <source>menu.quit</source>
@@ -575,6 +770,309 @@
     <message id="perm.fda.without.row2">
         <source>perm.fda.without.row2</source>
         <translation>Silent notifications, and those from before the start, are missing.</translation>
+    </message>
+    <message id="prefs.general.appearance">
+        <source>prefs.general.appearance</source>
+        <translation>Look</translation>
+    </message>
+    <message id="prefs.general.appearance.auto">
+        <source>prefs.general.appearance.auto</source>
+        <translation>Automatic</translation>
+    </message>
+    <message id="prefs.general.appearance.dark">
+        <source>prefs.general.appearance.dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message id="prefs.general.appearance.light">
+        <source>prefs.general.appearance.light</source>
+        <translation>Light</translation>
+    </message>
+    <message id="prefs.general.captureExplainer">
+        <source>prefs.general.captureExplainer</source>
+        <translation>Tessarine copies each notification into its hoard while it is shown. Where the system keeps a database of notifications, Tessarine reads it too, and so recovers much of what came while it was not running. Everything stays on this computer.</translation>
+    </message>
+    <message id="prefs.general.excludedApps">
+        <source>prefs.general.excludedApps</source>
+        <translation>Excluded apps</translation>
+    </message>
+    <message id="prefs.general.excludedApps.caption">
+        <source>prefs.general.excludedApps.caption</source>
+        <translation>Notifications of these apps are not kept.</translation>
+    </message>
+    <message id="prefs.general.excludedApps.count" numerus="yes">
+        <source>prefs.general.excludedApps.count</source>
+        <translation>
+            <numerusform>%Ln app</numerusform>
+            <numerusform>%Ln apps</numerusform>
+        </translation>
+    </message>
+    <message id="prefs.general.excludedApps.manage">
+        <source>prefs.general.excludedApps.manage</source>
+        <translation>Manage…</translation>
+    </message>
+    <message id="prefs.general.launchAtLogin">
+        <source>prefs.general.launchAtLogin</source>
+        <translation>Launch at login</translation>
+    </message>
+    <message id="prefs.general.launchAtLogin.caption">
+        <source>prefs.general.launchAtLogin.caption</source>
+        <translation>Tessarine starts in the background when you log in.</translation>
+    </message>
+    <message id="prefs.general.launchAtLogin.warning">
+        <source>prefs.general.launchAtLogin.warning</source>
+        <translation>Notifications that come while Tessarine is not running may be missed.</translation>
+    </message>
+    <message id="prefs.general.section.appearance">
+        <source>prefs.general.section.appearance</source>
+        <translation>Appearance</translation>
+    </message>
+    <message id="prefs.general.section.capture">
+        <source>prefs.general.section.capture</source>
+        <translation>Capture</translation>
+    </message>
+    <message id="prefs.general.section.howCapture">
+        <source>prefs.general.section.howCapture</source>
+        <translation>How Capture Works</translation>
+    </message>
+    <message id="prefs.general.section.startup">
+        <source>prefs.general.section.startup</source>
+        <translation>Startup</translation>
+    </message>
+    <message id="prefs.privacy.hideContent">
+        <source>prefs.privacy.hideContent</source>
+        <translation>Hide content</translation>
+    </message>
+    <message id="prefs.privacy.hideContent.activeNote">
+        <source>prefs.privacy.hideContent.activeNote</source>
+        <translation>The content of all apps is hidden. It is stored all the same.</translation>
+    </message>
+    <message id="prefs.privacy.hideContent.caption">
+        <source>prefs.privacy.hideContent.caption</source>
+        <translation>Titles and texts are masked in the window and in exports.</translation>
+    </message>
+    <message id="prefs.privacy.otp.1h">
+        <source>prefs.privacy.otp.1h</source>
+        <translation>1 hour</translation>
+    </message>
+    <message id="prefs.privacy.otp.24h">
+        <source>prefs.privacy.otp.24h</source>
+        <translation>24 hours</translation>
+    </message>
+    <message id="prefs.privacy.otp.4h">
+        <source>prefs.privacy.otp.4h</source>
+        <translation>4 hours</translation>
+    </message>
+    <message id="prefs.privacy.otp.note1h">
+        <source>prefs.privacy.otp.note1h</source>
+        <translation>At each start, those older than an hour are deleted.</translation>
+    </message>
+    <message id="prefs.privacy.otp.note24h">
+        <source>prefs.privacy.otp.note24h</source>
+        <translation>At each start, those older than a day are deleted.</translation>
+    </message>
+    <message id="prefs.privacy.otp.note4h">
+        <source>prefs.privacy.otp.note4h</source>
+        <translation>At each start, those older than 4 hours are deleted.</translation>
+    </message>
+    <message id="prefs.privacy.otp.off">
+        <source>prefs.privacy.otp.off</source>
+        <translation>Off</translation>
+    </message>
+    <message id="prefs.privacy.otp.otherHours" numerus="yes">
+        <source>prefs.privacy.otp.otherHours</source>
+        <translation>
+            <numerusform>%Ln hour</numerusform>
+            <numerusform>%Ln hours</numerusform>
+        </translation>
+    </message>
+    <message id="prefs.privacy.otpAutoDelete">
+        <source>prefs.privacy.otpAutoDelete</source>
+        <translation>Delete codes after</translation>
+    </message>
+    <message id="prefs.privacy.otpAutoDelete.caption">
+        <source>prefs.privacy.otpAutoDelete.caption</source>
+        <translation>Deletes notifications that may hold a one-time code: four digits in a row, or words that such messages use. Pinned ones go too.</translation>
+    </message>
+    <message id="prefs.privacy.privacyNotice">
+        <source>prefs.privacy.privacyNotice</source>
+        <translation>Privacy notice</translation>
+    </message>
+    <message id="prefs.privacy.privacyNotice.btn">
+        <source>prefs.privacy.privacyNotice.btn</source>
+        <translation>Read…</translation>
+    </message>
+    <message id="prefs.privacy.privacyNotice.caption">
+        <source>prefs.privacy.privacyNotice.caption</source>
+        <translation>What is stored, where, and who can read it.</translation>
+    </message>
+    <message id="prefs.privacy.section.documents">
+        <source>prefs.privacy.section.documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message id="prefs.privacy.section.otpAutoDelete">
+        <source>prefs.privacy.section.otpAutoDelete</source>
+        <translation>One-Time Codes</translation>
+    </message>
+    <message id="prefs.privacy.section.privacyMode">
+        <source>prefs.privacy.section.privacyMode</source>
+        <translation>Privacy Mode</translation>
+    </message>
+    <message id="prefs.privacy.welcomeGuide">
+        <source>prefs.privacy.welcomeGuide</source>
+        <translation>Welcome guide</translation>
+    </message>
+    <message id="prefs.privacy.welcomeGuide.btn">
+        <source>prefs.privacy.welcomeGuide.btn</source>
+        <translation>Open…</translation>
+    </message>
+    <message id="prefs.privacy.welcomeGuide.caption">
+        <source>prefs.privacy.welcomeGuide.caption</source>
+        <translation>The pages that the first start showed.</translation>
+    </message>
+    <message id="prefs.saveProblem">
+        <source>prefs.saveProblem</source>
+        <translation>Your changes could not be saved to the settings file. They hold until Tessarine quits, and are saved with the next change once the file can be written.</translation>
+    </message>
+    <message id="prefs.storage.backup.alert.body">
+        <source>prefs.storage.backup.alert.body</source>
+        <translation>It holds the content of your notifications without encryption. The most recent ones may be missing from it.</translation>
+    </message>
+    <message id="prefs.storage.backup.alert.title">
+        <source>prefs.storage.backup.alert.title</source>
+        <translation>The backup can be read by anyone who has it.</translation>
+    </message>
+    <message id="prefs.storage.backup.error.title">
+        <source>prefs.storage.backup.error.title</source>
+        <translation>The backup could not be made.</translation>
+    </message>
+    <message id="prefs.storage.backup.panel.save">
+        <source>prefs.storage.backup.panel.save</source>
+        <translation>Save</translation>
+    </message>
+    <message id="prefs.storage.backup.panel.title">
+        <source>prefs.storage.backup.panel.title</source>
+        <translation>Back Up the Hoard</translation>
+    </message>
+    <message id="prefs.storage.dbSize">
+        <source>prefs.storage.dbSize</source>
+        <translation>Size on disk</translation>
+    </message>
+    <message id="prefs.storage.exportBackup">
+        <source>prefs.storage.exportBackup</source>
+        <translation>Back Up…</translation>
+    </message>
+    <message id="prefs.storage.exportBackup.help">
+        <source>prefs.storage.exportBackup.help</source>
+        <translation>Save a copy of the hoard's file</translation>
+    </message>
+    <message id="prefs.storage.keepFor">
+        <source>prefs.storage.keepFor</source>
+        <translation>Keep notifications</translation>
+    </message>
+    <message id="prefs.storage.retention.14days">
+        <source>prefs.storage.retention.14days</source>
+        <translation>14 days</translation>
+    </message>
+    <message id="prefs.storage.retention.1year">
+        <source>prefs.storage.retention.1year</source>
+        <translation>1 year</translation>
+    </message>
+    <message id="prefs.storage.retention.30days">
+        <source>prefs.storage.retention.30days</source>
+        <translation>30 days</translation>
+    </message>
+    <message id="prefs.storage.retention.60days">
+        <source>prefs.storage.retention.60days</source>
+        <translation>60 days</translation>
+    </message>
+    <message id="prefs.storage.retention.6months">
+        <source>prefs.storage.retention.6months</source>
+        <translation>6 months</translation>
+    </message>
+    <message id="prefs.storage.retention.7days">
+        <source>prefs.storage.retention.7days</source>
+        <translation>7 days</translation>
+    </message>
+    <message id="prefs.storage.retention.90days">
+        <source>prefs.storage.retention.90days</source>
+        <translation>90 days</translation>
+    </message>
+    <message id="prefs.storage.retention.daysNote" numerus="yes">
+        <source>prefs.storage.retention.daysNote</source>
+        <translation>
+            <numerusform>At each start, notifications older than %Ln day are deleted, pinned ones too.</numerusform>
+            <numerusform>At each start, notifications older than %Ln days are deleted, pinned ones too.</numerusform>
+        </translation>
+    </message>
+    <message id="prefs.storage.retention.forever">
+        <source>prefs.storage.retention.forever</source>
+        <translation>Forever</translation>
+    </message>
+    <message id="prefs.storage.retention.foreverNote">
+        <source>prefs.storage.retention.foreverNote</source>
+        <translation>Nothing is ever deleted because of its age.</translation>
+    </message>
+    <message id="prefs.storage.retention.otherDays" numerus="yes">
+        <source>prefs.storage.retention.otherDays</source>
+        <translation>
+            <numerusform>%Ln day</numerusform>
+            <numerusform>%Ln days</numerusform>
+        </translation>
+    </message>
+    <message id="prefs.storage.retention.shortWarning">
+        <source>prefs.storage.retention.shortWarning</source>
+        <translation>Notifications go after a short time, pinned ones too.</translation>
+    </message>
+    <message id="prefs.storage.section.hoard">
+        <source>prefs.storage.section.hoard</source>
+        <translation>Hoard</translation>
+    </message>
+    <message id="prefs.storage.section.retention">
+        <source>prefs.storage.section.retention</source>
+        <translation>Retention</translation>
+    </message>
+    <message id="prefs.storage.size.bytes" numerus="yes">
+        <source>prefs.storage.size.bytes</source>
+        <translation>
+            <numerusform>%Ln byte</numerusform>
+            <numerusform>%Ln bytes</numerusform>
+        </translation>
+    </message>
+    <message id="prefs.storage.size.gigabytes">
+        <source>prefs.storage.size.gigabytes</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message id="prefs.storage.size.kilobytes">
+        <source>prefs.storage.size.kilobytes</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message id="prefs.storage.size.megabytes">
+        <source>prefs.storage.size.megabytes</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message id="prefs.storage.size.terabytes">
+        <source>prefs.storage.size.terabytes</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message id="prefs.storage.size.zero">
+        <source>prefs.storage.size.zero</source>
+        <translation>Zero KB</translation>
+    </message>
+    <message id="prefs.tab.general">
+        <source>prefs.tab.general</source>
+        <translation>General</translation>
+    </message>
+    <message id="prefs.tab.privacy">
+        <source>prefs.tab.privacy</source>
+        <translation>Privacy</translation>
+    </message>
+    <message id="prefs.tab.storage">
+        <source>prefs.tab.storage</source>
+        <translation>Storage</translation>
+    </message>
+    <message id="prefs.window.title">
+        <source>prefs.window.title</source>
+        <translation>Preferences</translation>
     </message>
     <message id="preview.copy">
         <source>preview.copy</source>

@@ -35,6 +35,8 @@ T.Popup {
 
     contentItem: MenuPickerList {
         focus: true
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft // popups inherit it from nobody
+        LayoutMirroring.childrenInherit: true
         texts: held.shown
         chosenIndex: held.shownIndex
         open: menu.visible

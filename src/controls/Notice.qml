@@ -10,7 +10,7 @@ Column {
     required property string title
     property string detail
 
-    readonly property int textWidth: 440
+    property int textWidth: 440
 
     spacing: Metrics.spacingSmall
     Accessible.role: Accessible.StaticText

@@ -4,9 +4,10 @@ import Tessarine.Controls
 import Tessarine.Theme
 
 // A panel over its dimmed window, which waits until it closes. It is as large as its ideal size, or
-// else as its content, within its bounds and within the window. Return presses the default button,
-// wherever in the sheet the keyboard is and unless something there wants the key itself. Escape closes
-// it; one that decides for itself (`closesOnEscape` is false) is told by `escaped`.
+// else as its content, within its bounds and within the window less `windowMargin`. Return presses the
+// default button, wherever in the sheet the keyboard is and unless something there wants the key
+// itself. Escape closes it; one that decides for itself (`closesOnEscape` is false) is told by
+// `escaped`.
 T.Dialog {
     id: sheet
 
@@ -17,6 +18,7 @@ T.Dialog {
     property real minimumHeight: 0
     property real idealHeight: 0
     property real maximumHeight: Infinity
+    property real windowMargin: Metrics.sheetMargin
     property bool closesOnEscape: true
     property TextButton defaultButton: null
 
@@ -27,7 +29,7 @@ T.Dialog {
         contentItem.parent.Accessible.name = accessibleName;
     }
 
-    readonly property real room: 2 * Metrics.sheetMargin
+    readonly property real room: 2 * windowMargin
     readonly property real naturalWidth: idealWidth || implicitContentWidth + leftPadding + rightPadding
     readonly property real naturalHeight: idealHeight || implicitContentHeight + topPadding + bottomPadding
 
@@ -54,6 +56,8 @@ T.Dialog {
 
     contentItem: FocusScope {
         focus: true
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft // popups inherit it from nobody
+        LayoutMirroring.childrenInherit: true
         implicitWidth: children[0]?.implicitWidth ?? 0
         implicitHeight: children[0]?.implicitHeight ?? 0
         Keys.onReturnPressed: sheet.defaultButton?.press()

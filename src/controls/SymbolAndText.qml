@@ -8,6 +8,7 @@ Item {
     property string symbol
     property string text
     property color ink: Theme.colours.label
+    property color symbolInk: ink
     property int textSize: Metrics.textBody
     property int textWeight: Font.Normal
     property int symbolSize: Metrics.symbolSize
@@ -27,7 +28,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             symbol: content.symbol
             size: content.symbolSize
-            tint: content.ink
+            tint: content.symbolInk
             visible: symbol
         }
 

@@ -14,6 +14,7 @@ T.Button {
     property string toolTipText
     property color ink: prominent ? Theme.colours.onFill
         : destructive ? Theme.colours.red : Theme.colours.label
+    property color symbolInk: ink
 
     // As a click would, for a key or a screen reader.
     function press() {
@@ -48,6 +49,7 @@ T.Button {
         symbol: button.symbol
         text: button.text
         ink: button.ink
+        symbolInk: button.symbolInk
         textSize: button.font.pixelSize
         textWeight: button.prominent ? Font.Medium : Font.Normal
     }

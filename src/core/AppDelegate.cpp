@@ -1,5 +1,6 @@
 #include "core/AppDelegate.h"
 
+#include "diagnosticsview/DiagnosticsWindow.h"
 #include "platform/DefaultsKeys.h"
 
 #include <QCoreApplication>
@@ -35,7 +36,9 @@ AppDelegate::AppDelegate(ViewServices& views)
 AppDelegate::~AppDelegate() {
     // Going, a window hides, which asks the guard whether this object lives.
     updateNotice_.reset();
+    preferencesWindow_.reset();
     mainWindow_.reset();
+    delete ViewWindow::titled(diagnosticsTitle());
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -53,13 +56,15 @@ void AppDelegate::applicationDidFinishLaunching() {
     menuBarController_ = std::make_unique<MenuBarController>(
         *views_.desktop.statusItem, services.listener, defaults, *launchAgent_, menuActions());
     mainWindow_ = std::make_unique<MainWindow>(views_.browser(), defaults, *views_.engine);
-    watchWindow(*mainWindow_->window());
+    watch(*mainWindow_->window());
     launchFlow_.beginLaunchFlow();
 }
 
 MenuBarController::Actions AppDelegate::menuActions() {
     MenuBarController::Actions actions;
     actions.openHoard = [this] { showMainWindow(); };
+    actions.openPreferences = afterConsent([this] { showPreferences(); });
+    actions.openDiagnostics = afterConsent([this] { showDiagnostics(); });
     actions.openWelcomeGuide =
         afterConsent([this] { onboardingFlow_.showOnboarding(OnboardingFlow::Guide::later, 0); });
     actions.openFullDiskAccess =
@@ -81,7 +86,7 @@ MenuBarController::Action AppDelegate::afterConsent(MenuBarController::Action ac
 }
 
 // Once the renderer has let go of what it had for the window, on its thread and on this one.
-void AppDelegate::watchWindow(const QWindow& window) {
+void AppDelegate::watch(const QWindow& window) {
     QObject::connect(&window, &QWindow::visibleChanged, &window, [this](bool visible) {
         if (visible)
             return;
@@ -117,10 +122,47 @@ void AppDelegate::showUpdateNotice() {
         updateNotice_ = std::make_unique<ViewWindow>(updateNotice(), *views_.engine);
         const QQuickItem& root = updateNotice_->root();
         updateNotice_->centre(QSizeF(root.implicitWidth(), root.implicitHeight()).toSize());
-        watchWindow(updateNotice_->window());
+        watch(updateNotice_->window());
     }
     updateNotice_->showAndMakeKey();
     views_.desktop.application->activate(updateNotice_->window());
+}
+
+void AppDelegate::showDiagnostics() {
+    const bool isNew = !ViewWindow::titled(diagnosticsTitle());
+    ViewWindow& window = diagnosticsWindow(views_.diagnostics(), *views_.engine);
+    if (isNew)
+        watch(window.window());
+    window.showAndMakeKey();
+    views_.desktop.application->activate(window.window());
+}
+
+void AppDelegate::showPreferences() {
+    if (!preferencesWindow_) {
+        preferencesWindow_ = makePreferencesWindow();
+        watch(*preferencesWindow_->window());
+    }
+    preferencesWindow_->showAndMakeKey();
+    views_.desktop.application->activate(*preferencesWindow_->window());
+}
+
+std::unique_ptr<PreferencesWindow> AppDelegate::makePreferencesWindow() {
+    const LaunchAtLogin launchAtLogin{[this] { return launchAgent_->isEnabled(); },
+                                      [this] { launchAgent_->registerMainApp(); },
+                                      [this] { launchAgent_->unregisterMainApp(); }};
+    Services& services = views_.services;
+    return std::make_unique<PreferencesWindow>(
+        PreferencesView::Services{
+            services.preferences,
+            services.listener,
+            services.hoard,
+            services.platform,
+            *views_.desktop.savePanel,
+            launchAtLogin,
+            alive_.guard([this](const QString& mode) { applyAppearance(mode); }),
+            {[this] { onboardingFlow_.showPrivacyNotice(); },
+             [this] { onboardingFlow_.showOnboarding(OnboardingFlow::Guide::later, 0); }}},
+        *views_.engine);
 }
 
 void AppDelegate::activate() {

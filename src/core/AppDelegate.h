@@ -5,6 +5,7 @@
 #include "core/OnboardingFlow.h"
 #include "core/PermissionFlow.h"
 #include "core/ViewServices.h"
+#include "settings/PreferencesWindow.h"
 #include "shared/AliveGuard.h"
 #include "shell/LaunchAgentManager.h"
 #include "shell/MenuBarController.h"
@@ -37,6 +38,13 @@ public:
     // The system's updater, or what there is to say where it has none.
     void checkForUpdates();
 
+    // Brings the diagnostics window to the front. There is never a second one.
+    void showDiagnostics();
+
+    // Brings the preferences to the front. Their window is built at the first request. Not before
+    // the launch steps.
+    void showPreferences();
+
     // What another start of the program asks for: the windows that are open come to the front. One
     // that is hidden stays hidden.
     void activate();
@@ -53,11 +61,15 @@ public:
     // Null until the launch steps have made it.
     MainWindow* mainWindow() const { return mainWindow_.get(); }
 
+    // Null until they were asked for.
+    PreferencesWindow* preferencesWindow() const { return preferencesWindow_.get(); }
+
 private:
     MenuBarController::Actions menuActions();
     MenuBarController::Action afterConsent(MenuBarController::Action action);
     void showUpdateNotice();
-    void watchWindow(const QWindow& window);
+    std::unique_ptr<PreferencesWindow> makePreferencesWindow();
+    void watch(const QWindow& window);
     void giveMemoryBack();
 
     ViewServices& views_;
@@ -68,6 +80,7 @@ private:
     std::unique_ptr<MenuBarController> menuBarController_;
     std::unique_ptr<MainWindow> mainWindow_;
     std::unique_ptr<ViewWindow> updateNotice_; // null until it was asked for
+    std::unique_ptr<PreferencesWindow> preferencesWindow_;
     AliveGuard alive_;
 };
 

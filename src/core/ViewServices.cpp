@@ -23,21 +23,31 @@ ViewServices::ViewServices(Services& services, Desktop& desktop, SetPasteboard s
 ViewServices::~ViewServices() = default;
 
 ContentView::Services ViewServices::browser() {
-    const ExportOptionsSheet::Services sheet{exports, services.preferences,
-                                             *services.platform.scheduler, *desktop.fileViewer};
     return {services.listener,
             services.hoard,
             services.preferences,
             *services.platform.scheduler,
             services.launcher,
             setPasteboard,
-            [sheet](NotificationList list, std::function<void()> onDismiss) {
-                return std::make_unique<ExportOptionsSheet>(std::move(list), std::move(onDismiss),
-                                                            sheet);
-            },
+            makeExportSheet(),
             [&accessibility = *services.platform.accessibility] {
                 return accessibility.isProcessTrusted();
             }};
+}
+
+DiagnosticsView::Services ViewServices::diagnostics() {
+    return {services.diagnostics, services.hoard,
+            services.platform,    services.listener->usernotedDbPath(),
+            *desktop.savePanel,   setPasteboard,
+            makeExportSheet()};
+}
+
+ViewServices::MakeExportSheet ViewServices::makeExportSheet() {
+    const ExportOptionsSheet::Services sheet{exports, services.preferences,
+                                             *services.platform.scheduler, *desktop.fileViewer};
+    return [sheet](NotificationList list, std::function<void()> onDismiss) {
+        return std::make_unique<ExportOptionsSheet>(std::move(list), std::move(onDismiss), sheet);
+    };
 }
 
 } // namespace tessarine

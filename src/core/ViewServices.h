@@ -3,6 +3,7 @@
 #include "apps/AppIconResolver.h"
 #include "browser/ContentView.h"
 #include "core/Services.h"
+#include "diagnosticsview/DiagnosticsView.h"
 #include "export/ExportManager.h"
 #include "platform/Desktop.h"
 #include "theme/Theme.h"
@@ -29,6 +30,9 @@ struct ViewServices {
     // What the browser works with.
     ContentView::Services browser();
 
+    // What the diagnostics window works with.
+    DiagnosticsView::Services diagnostics();
+
     Services& services;
     Desktop& desktop;
     SetPasteboard setPasteboard;
@@ -36,6 +40,10 @@ struct ViewServices {
     std::shared_ptr<AppIconResolver> icons;
     ExportManager exports;
     std::unique_ptr<QQmlEngine> engine;
+
+private:
+    using MakeExportSheet = DatabaseSectionView::MakeExportSheet;
+    MakeExportSheet makeExportSheet();
 };
 
 } // namespace tessarine

@@ -24,6 +24,16 @@ void DiagnosticsStore::log(const QString& message, Level level, Category categor
     }
 }
 
+DiagnosticsStore::Logger DiagnosticsStore::logger() {
+    return alive_.guard([this](const QString& message, Level level, Category category) {
+        log(message, level, category);
+    });
+}
+
+std::function<void()> DiagnosticsStore::statsRefresher() {
+    return alive_.guard([this] { refreshHoardStats(); });
+}
+
 void DiagnosticsStore::clearEntries() {
     entries_.clear();
     Q_EMIT entriesChanged();

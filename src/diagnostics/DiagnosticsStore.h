@@ -31,6 +31,11 @@ public:
     void log(const QString& message, Level level, Category category);
     void clearEntries(); // touches no status field
 
+    // The same as a function, for work that may outlive whoever began it: it does nothing once the
+    // store is gone. To be called on the main thread, copied and destroyed on any.
+    using Logger = std::function<void(const QString& message, Level level, Category category)>;
+    Logger logger();
+
     qint64 capturedTotal() const { return capturedTotal_; }
     const QString& axStatus() const { return axStatus_; }
     const QString& dbStatus() const { return dbStatus_; }
@@ -51,6 +56,7 @@ public:
 
     // Recomputes hoardStats on a worker and publishes it when done.
     void refreshHoardStats();
+    std::function<void()> statsRefresher(); // the same as a function, as with logger()
 
 Q_SIGNALS:
     void entriesChanged(); // once for an insertion, once more for a truncation

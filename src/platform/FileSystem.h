@@ -19,6 +19,10 @@ public:
     // The path with a leading "~" replaced by the user's home folder.
     virtual QString expandingTilde(const QString& path) const = 0;
 
+    // The path with the user's home folder at its start replaced by "~", for a reader who shall not
+    // learn the user's name. Other paths stay.
+    virtual QString abbreviatingWithTilde(const QString& path) const = 0;
+
     // Whether the system lets this process read the system database at the path. Where the system
     // hides no files from the user, what is not there needs no permission. Opens nothing: closing
     // a file that SQLite has open elsewhere in the process would drop SQLite's locks.

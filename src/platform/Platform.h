@@ -5,6 +5,7 @@
 #include "platform/FileWatcher.h"
 #include "platform/LoginItem.h"
 #include "platform/Scheduler.h"
+#include "platform/SystemFacts.h"
 #include "platform/SystemSettings.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
@@ -24,6 +25,7 @@ struct Platform {
     std::unique_ptr<Accessibility> accessibility;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<SystemSettings> systemSettings;
+    std::unique_ptr<SystemFacts> systemFacts;
 };
 
 // Makes the ports of the system that the program was built for. Needs an application object, and

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
+#include <functional>
 #include <system_error>
 
 namespace tessarine {
@@ -20,5 +22,14 @@ std::error_code writePrivately(const QString& path, const QByteArray& bytes);
 // that a stranger put into a folder that anyone can write to is refused, and so is what can't be
 // replaced by a file: a pipe, a socket, a device.
 std::error_code replacePrivately(const QString& path, const QByteArray& bytes);
+
+// The next bytes of a file to be written, valid until the next call; none at its end. An error that
+// it sets ends the writing.
+using ByteSource = std::function<QByteArrayView(std::error_code& error)>;
+
+// Removes the file or the link that is there and writes a new file of what the source gives. What a
+// link led to is untouched. A folder, a pipe, a socket or a device is refused. A failure half-way
+// leaves no file, and what was removed stays removed.
+std::error_code writeAnewPrivately(const QString& path, const ByteSource& next);
 
 } // namespace tessarine

@@ -13,7 +13,8 @@ public:
     struct Request {
         QString name; // the file name that is suggested, with its extension
         QString title;
-        QString prompt; // on the button that saves
+        QString prompt;         // on the button that saves
+        QString extension = {}; // of a name that is given without one; empty: as it is given
 
         bool operator==(const Request&) const = default;
     };

@@ -19,6 +19,8 @@ IcuStyle icuStyle(DateFormatter::Style style) {
     switch (style) {
     case DateFormatter::Style::none:
         return icu::DateFormat::kNone;
+    case DateFormatter::Style::brief:
+        return icu::DateFormat::kShort;
     case DateFormatter::Style::medium:
         return icu::DateFormat::kMedium;
     case DateFormatter::Style::full:

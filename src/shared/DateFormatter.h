@@ -13,7 +13,7 @@ namespace tessarine {
 // time.
 class DateFormatter {
 public:
-    enum class Style { none, medium, full };
+    enum class Style { none, brief, medium, full };
 
     // A Unicode date pattern ("yyyy-MM-dd"). A locale by its ICU name ("de_DE").
     static DateFormatter withPattern(const QString& pattern, const QByteArray& locale);

@@ -34,6 +34,7 @@ MenuBarController::MenuBarController(StatusItem& statusItem,
     , lastSeenCount_(defaults.integer(defaultsKeys::menuBarLastSeenCount)) {
     statusItem_.setImage(QStringLiteral("bell.fill"), programName);
     statusItem_.setActivation(actions_.openHoard);
+    statusItem_.setAlternateActivation(actions_.openDiagnostics);
     statusItem_.keepPlaceIn(defaults_);
     statusItem_.setMenuBuilder([this](QMenu& menu) { fillMenu(menu); });
     connect(listener_.get(), &NotificationListener::notificationsChanged, this,
@@ -81,6 +82,8 @@ void MenuBarController::fillMenu(QMenu& menu) const {
     menu.addAction(qtTrId("menu.openHoard"), QKeySequence(Qt::CTRL | Qt::Key_O), this,
                    actions_.openHoard);
     menu.addAction(qtTrId("menu.welcome.title"), this, actions_.openWelcomeGuide);
+    menu.addAction(qtTrId("menu.preferences.title"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
+                   actions_.openPreferences);
     menu.addSeparator();
     QAction* atLogin =
         menu.addAction(qtTrId("menu.launchAtLogin"), this, [this] { launchAgent_.toggle(); });

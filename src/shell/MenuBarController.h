@@ -28,9 +28,11 @@ public:
     struct Actions {
         Action openHoard;
         Action openWelcomeGuide;
+        Action openPreferences;
         Action openFullDiskAccess;
         std::function<bool()> lacksFullDiskAccess; // asked each time that the menu opens
         Action checkForUpdates;
+        Action openDiagnostics; // has no entry
         Action quit;
     };
 

@@ -56,6 +56,7 @@ QString hoardPath(const FileSystem& fileSystem) {
 HoardStore::HoardStore(const FileSystem& fileSystem, UserDefaults& defaults, const Scheduler& clock)
     : dbPath_(hoardPath(fileSystem))
     , queue_("com.zorvek.Tessarine.store")
+    , maintenance_("com.zorvek.Tessarine.store.maintenance")
     , fileSystem_(fileSystem)
     , defaults_(defaults)
     , clock_(clock) {}

@@ -12,6 +12,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <set>
 #include <vector>
@@ -47,8 +48,8 @@ enum class Insertion {
 QString hoardPath(const FileSystem& fileSystem);
 
 // The archive of every captured notification: one SQLite file. Any thread may call; each call
-// blocks until its work is done, one at a time. No operation reports an error: a hoard that can't
-// be opened answers false, empty or zero, and the program runs on.
+// blocks until its work is done, one at a time unless it says otherwise. No operation reports an
+// error: a hoard that can't be opened answers false, empty or zero, and the program runs on.
 class HoardStore {
 public:
     // The defaults hold the excluded applications and the capture cursors; the clock tells how old
@@ -92,7 +93,9 @@ public:
 
     qint64 totalCount();
     qint64 maxSystemNoteId(); // 0 when there is none
-    HoardStats stats();       // reads the whole table: not on the main thread
+
+    // Reads the whole table, for workers. Nothing else waits for it, nor it for anything else.
+    HoardStats stats();
 
     // All applications with an id, by name without regard to the case of ASCII letters.
     DistinctAppList distinctApps();
@@ -114,11 +117,21 @@ public:
     // row, or a word that such messages use. Below one hour it does nothing.
     qint64 deleteOtpOlderThan(qint64 hours);
 
-    // Moves the write-ahead log into the main file, as far as readers in other processes allow.
+    // The next two are for workers: one at a time, while everything else goes on.
+
+    // Moves the write-ahead log into the main file. Waits some seconds for readers that still need
+    // it; what they need after that stays in the log.
     void checkpoint();
 
     // "ok", or one line for each problem found. Reads the whole file.
     QString integrityCheck();
+
+    // Copies the main file, byte for byte and private, to a place from which a file or a link is
+    // removed first. What is still in the write-ahead log is not in the copy. Captures go on
+    // meanwhile, and nothing writes to the main file until the copy is there. Gives the error's
+    // text; nothing on success. The hoard and its side files, by whatever name or link, are refused
+    // as a place, and so is what is neither file nor link. After a failure there is no copy.
+    std::optional<QString> copyTo(const QString& destination);
 
     // Capture cursors. They are stored in the user defaults and never move back.
     qint64 lastSeenUsernotedRecId(); // where none is stored, the highest key in the hoard
@@ -140,6 +153,8 @@ private:
     bool isExcluded(const QString& bundleId) const;
     qint64 cursor(const QString& key);
     void raiseCursor(const QString& key, qint64 value);
+
+    std::unique_ptr<SqliteConnection> connectionBeside(SqliteConnection::Mode mode);
 
     template <typename Work>
     auto onQueue(const Work& work) {
@@ -175,6 +190,7 @@ private:
 
     const QString dbPath_;
     SerialQueue queue_;
+    SerialQueue maintenance_;                    // entered before the queue where both are
     std::optional<SqliteConnection> connection_; // guarded by the queue; none: not opened yet
     RecentRows recent_;                          // guarded by the queue
     DuplicateIndex duplicates_;                  // guarded by the queue

@@ -13,10 +13,17 @@ constexpr int instructionsBetweenTests = 1000; // of SQLite's virtual machine: s
 int openFlags(SqliteConnection::Mode mode) {
     if (mode == SqliteConnection::Mode::foreignFile)
         return SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+    if (mode == SqliteConnection::Mode::ownFileReadOnly)
+        return SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
     return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX;
 }
 
 } // namespace
+
+QString sqliteVersion() {
+    const SqliteConnection memory(QStringLiteral(":memory:"), SqliteConnection::Mode::ownFile);
+    return QString::fromLatin1(sqlite3_libversion());
+}
 
 SqliteConnection::SqliteConnection(const QString& path, Mode mode)
     : isOpen_(sqlite3_open_v2(path.toUtf8().constData(), &handle_, openFlags(mode), nullptr) ==
@@ -37,6 +44,14 @@ void SqliteConnection::setLockTimeout(int milliseconds) const {
 bool SqliteConnection::wasLocked() const {
     const int error = sqlite3_errcode(handle_) & 0xff; // without the extended part
     return error == SQLITE_BUSY || error == SQLITE_LOCKED;
+}
+
+QString SqliteConnection::errorText() const {
+    return QString::fromUtf8(sqlite3_errmsg(handle_));
+}
+
+void SqliteConnection::checkpointInPassing() const {
+    sqlite3_wal_checkpoint_v2(handle_, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
 }
 
 qint64 SqliteConnection::lastInsertRowId() const {

@@ -8,12 +8,17 @@ struct sqlite3_stmt;
 
 namespace tessarine {
 
+// The version of the library that runs, as a database in memory is opened with.
+QString sqliteVersion();
+
 // A connection to a database file for the length of a scope. One that can't be opened stays closed:
 // every statement on it fails.
 class SqliteConnection {
 public:
     enum class Mode {
         ownFile, // made where it is missing; SQLite's full mutex
+        // A second connection to the same, for long readings beside the first. One thread.
+        ownFileReadOnly,
         // Another program's database, for one reading. Opened for writing although nothing is
         // written: a write-ahead log that needs recovery can't be read otherwise. No busy timeout:
         // what is locked is read the next time.
@@ -35,6 +40,13 @@ public:
 
     // Whether the last call failed because of another connection's lock.
     bool wasLocked() const;
+
+    // What SQLite says of the last call's failure.
+    QString errorText() const;
+
+    // Moves what it can of the write-ahead log into the main file, in nobody's way: neither readers
+    // nor writers wait.
+    void checkpointInPassing() const;
 
     qint64 lastInsertRowId() const;
     int changes() const;      // rows that the last statement changed

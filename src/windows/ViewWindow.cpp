@@ -4,6 +4,7 @@
 #include "platform/UserDefaults.h"
 #include "windows/WindowFrame.h"
 
+#include <QEasingCurve>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QQmlError>
@@ -23,6 +24,13 @@ constexpr WindowFeatures allFeatures =
     WindowFeature::closable | WindowFeature::miniaturizable | WindowFeature::resizable;
 constexpr auto saveDelay = 500ms;
 constexpr char viewWindowProperty[] = "tessarineViewWindow";
+
+// From standing to standing: the curve that desktops have for what moves in both directions.
+QEasingCurve easeInEaseOut() {
+    QEasingCurve curve(QEasingCurve::BezierSpline);
+    curve.addCubicBezierSegment({0.42, 0}, {0.58, 1}, {1, 1});
+    return curve;
+}
 
 // The frame is the window system's own as long as nothing is to be missing from it.
 Qt::WindowFlags flagsOf(WindowFeatures features) {
@@ -62,6 +70,9 @@ ViewWindow::ViewWindow(const Description& description, QQmlEngine& engine)
     connect(window_.get(), &QWindow::visibleChanged, this, &ViewWindow::onVisibleChanged);
     window_->installEventFilter(this);
     connect(qApp, &QCoreApplication::aboutToQuit, window_.get(), &QWindow::hide);
+    heightChange_.setEasingCurve(easeInEaseOut());
+    connect(&heightChange_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& height) { setHeight(height.toInt()); });
 }
 
 ViewWindow::~ViewWindow() {
@@ -76,6 +87,29 @@ void ViewWindow::centre(const QSize& size) {
         window_->setMinimumSize(fitting);
         window_->setMaximumSize(fitting);
     }
+}
+
+void ViewWindow::changeHeight(int height, int milliseconds) {
+    heightChange_.stop();
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    const int fitting = sizeWithin({window_->width(), height}, minimumSize_, room).height();
+    if (milliseconds < 1 || !isVisible()) {
+        setHeight(fitting);
+        return;
+    }
+    heightChange_.setDuration(milliseconds);
+    heightChange_.setStartValue(window_->height());
+    heightChange_.setEndValue(fitting);
+    heightChange_.start();
+}
+
+void ViewWindow::setHeight(int height) {
+    const QSize size(window_->width(), height);
+    if (!isResizable_) {
+        window_->setMinimumSize(size);
+        window_->setMaximumSize(size);
+    }
+    window_->resize(size);
 }
 
 void ViewWindow::restoreSize(const QString& frameName, UserDefaults& defaults,

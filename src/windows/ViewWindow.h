@@ -6,6 +6,7 @@
 #include <QSize>
 #include <QString>
 #include <QTimer>
+#include <QVariantAnimation>
 #include <QVariantMap>
 
 #include <memory>
@@ -51,6 +52,11 @@ public:
     // the window's frame under this name. They outlive the window.
     void restoreSize(const QString& frameName, UserDefaults& defaults, const QSize& firstSize);
 
+    // Gives the content another height, as far as the screen has room, in this many milliseconds:
+    // slowly at both ends, and at once with none or while the window is hidden. The top edge and
+    // the width stay. Another change begins where the one before has come to.
+    void changeHeight(int height, int milliseconds);
+
     // Destroys the window, with this object, once it is closed. For one that is made with new.
     void releaseWhenClosed();
 
@@ -80,6 +86,7 @@ Q_SIGNALS:
 
 private:
     bool press(const QKeyEvent& key); // true: the key was for the window itself
+    void setHeight(int height);
     void watchFrame();
     void saveFrame();
     void onVisibleChanged(bool visible);
@@ -92,6 +99,7 @@ private:
     UserDefaults* defaults_ = nullptr; // null: the frame is not kept
     QString frameKey_;
     QTimer saveTimer_;
+    QVariantAnimation heightChange_;
 };
 
 } // namespace tessarine

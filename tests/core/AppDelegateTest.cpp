@@ -1,11 +1,14 @@
 #include "core/AppDelegate.h"
 
+#include "diagnosticsview/DiagnosticsWindow.h"
 #include "support/EventLoop.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
 #include "support/WindowPicture.h"
 
+#include <QFile>
 #include <QMenu>
+#include <QPointer>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTemporaryDir>
@@ -28,6 +31,7 @@ protected:
         system.defaults.setText(u"appearanceMode"_qs, u"dark"_qs);
         system.defaults.setBoolean(u"hasAcceptedEULA"_qs, true);
         system.defaults.setBoolean(u"fdaSkipped"_qs, true);
+        system.defaults.setBoolean(u"launchLoginPromptSuppressed"_qs, true);
         system.accessibility.trusted = true;
         services.emplace(system.platform);
         views.emplace(*services, desktop.desktop, [](const QString&) {});
@@ -79,7 +83,6 @@ TEST_F(AppDelegateTest, LetsNoSystemBringItsWindowsBack) {
 }
 
 TEST_F(AppDelegateTest, GivesMemoryBackSomeTimeAfterTheWindowWasClosed) {
-    services->preferences.setLaunchLoginPromptSuppressed(true);
     launch();
     delegate->showMainWindow();
     system.scheduler.advance(10);
@@ -100,7 +103,6 @@ TEST_F(AppDelegateTest, GivesNoMemoryBackWhenTheWindowWasOpenedAgain) {
 }
 
 TEST_F(AppDelegateTest, GivesNoMemoryBackWhileAnotherWindowIsOpen) {
-    services->preferences.setLaunchLoginPromptSuppressed(true);
     launch();
     delegate->showMainWindow();
     delegate->checkForUpdates();
@@ -180,6 +182,7 @@ TEST_F(AppDelegateTest, GoesOnCapturingWithItsWindowClosed) {
 }
 
 TEST_F(AppDelegateTest, AsksAboutTheLoginAfterTheLaunch) {
+    services->preferences.setLaunchLoginPromptSuppressed(false);
     launch();
     EXPECT_EQ(delegate->permissionFlow()->launchPromptWindow(), nullptr);
     system.scheduler.advance(0.6);
@@ -233,6 +236,149 @@ TEST_P(UpdatePicturesTest, NothingIsCutInTheNoticeOfUpdates) {
 
 INSTANTIATE_TEST_SUITE_P(Pictures, UpdatePicturesTest, ::testing::Values("light", "dark"),
                          [](const auto& info) { return std::string(info.param); });
+
+TEST_F(AppDelegateTest, ShowsOneDiagnosticsWindowHoweverOftenItIsAskedFor) {
+    launch();
+    delegate->showDiagnostics();
+    const ViewWindow* const shown = ViewWindow::titled(u"Tessarine Diagnostics"_qs);
+    ASSERT_NE(shown, nullptr);
+    EXPECT_TRUE(shown->isVisible());
+    delegate->showDiagnostics();
+    EXPECT_EQ(ViewWindow::titled(u"Tessarine Diagnostics"_qs), shown);
+    EXPECT_THAT(desktop.application.activated, ElementsAre(&shown->window(), &shown->window()));
+    EXPECT_FALSE(window()->isVisible());
+}
+
+TEST_F(AppDelegateTest, GoesOnAndGivesMemoryBackWhenTheDiagnosticsWereClosed) {
+    launch();
+    delegate->showDiagnostics();
+    ViewWindow::titled(u"Tessarine Diagnostics"_qs)->window().close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(ViewWindow::titled(u"Tessarine Diagnostics"_qs), nullptr);
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 1);
+    EXPECT_TRUE(services->listener->isStarted());
+}
+
+TEST_F(AppDelegateTest, BringsOpenDiagnosticsToTheFrontAtASecondStart) {
+    launch();
+    delegate->showDiagnostics();
+    desktop.application.activated.clear();
+    delegate->activate();
+    EXPECT_EQ(desktop.application.activated.size(), 1U);
+}
+
+TEST_F(AppDelegateTest, TakesAnOpenDiagnosticsWindowAlong) {
+    launch();
+    delegate->showDiagnostics();
+    delegate.reset();
+    EXPECT_EQ(ViewWindow::titled(u"Tessarine Diagnostics"_qs), nullptr);
+}
+
+TEST_F(AppDelegateTest, ShowsInTheDiagnosticsWhatTheProgramLogs) {
+    launch();
+    delegate->showDiagnostics();
+    const auto* const view =
+        ViewWindow::titled(u"Tessarine Diagnostics"_qs)->findChild<DiagnosticsView*>();
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(view->captured(), u"0 captured"_qs);
+    services->diagnostics.setCapturedTotal(5);
+    EXPECT_EQ(view->captured(), u"5 captured"_qs);
+}
+
+TEST_F(AppDelegateTest, BuildsThePreferencesAtTheFirstRequestAndKeepsThem) {
+    launch();
+    EXPECT_EQ(delegate->preferencesWindow(), nullptr);
+    delegate->showPreferences();
+    const QPointer<QWindow> preferences = delegate->preferencesWindow()->window();
+    EXPECT_TRUE(preferences->isVisible());
+    delegate->showPreferences();
+    preferences->close();
+    EXPECT_FALSE(preferences->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    delegate->showPreferences();
+    EXPECT_EQ(delegate->preferencesWindow()->window(), preferences);
+    EXPECT_TRUE(preferences->isVisible());
+}
+
+TEST_F(AppDelegateTest, RaisesThePreferencesAtEachRequest) {
+    launch();
+    delegate->showPreferences();
+    QWindow* const preferences = delegate->preferencesWindow()->window();
+    delegate->showMainWindow();
+    delegate->showPreferences();
+    EXPECT_THAT(desktop.application.activated, ElementsAre(preferences, window(), preferences));
+}
+
+TEST_F(AppDelegateTest, BringsOpenPreferencesToTheFrontAtASecondStart) {
+    launch();
+    delegate->showPreferences();
+    desktop.application.activated.clear();
+    delegate->activate();
+    EXPECT_THAT(desktop.application.activated,
+                ElementsAre(delegate->preferencesWindow()->window()));
+}
+
+TEST_F(AppDelegateTest, TheMenuLeadsToThePreferences) {
+    launch();
+    chooseInStatusMenu(u"Preferences…"_qs);
+    ASSERT_NE(delegate->preferencesWindow(), nullptr);
+    EXPECT_TRUE(delegate->preferencesWindow()->isVisible());
+    EXPECT_FALSE(window()->isVisible());
+}
+
+TEST_F(AppDelegateTest, GoesOnCapturingWhenThePreferencesAreClosed) {
+    launch();
+    delegate->showPreferences();
+    delegate->preferencesWindow()->window()->close();
+    CapturedNotification row;
+    row.noteId = 1;
+    row.title = u"later"_qs;
+    ASSERT_TRUE(services->hoard.insert(row));
+    services->listener->setNotifications(services->hoard.fetchRecent(500));
+    EXPECT_EQ(desktop.statusItem.title, u" 1"_qs);
+}
+
+TEST_F(AppDelegateTest, GivesMemoryBackOnceTheLastOfItsWindowsWasClosed) {
+    launch();
+    delegate->showMainWindow();
+    delegate->showPreferences();
+    delegate->preferencesWindow()->window()->close();
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 0);
+    window()->close();
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 1);
+}
+
+TEST_F(AppDelegateTest, ThePreferencesSwitchAppearanceAndLoginItem) {
+    launch();
+    delegate->showPreferences();
+    GeneralSettings& general = *delegate->preferencesWindow()->view().general();
+    general.chooseAppearance(1);
+    system.scheduler.settle();
+    EXPECT_EQ(desktop.appearance.appearance, Appearance::light);
+    general.setLaunchAtLogin(true);
+    EXPECT_EQ(system.loginItem.current, LoginItemStatus::enabled);
+    EXPECT_TRUE(general.launchAtLogin());
+    general.setLaunchAtLogin(false);
+    EXPECT_EQ(system.loginItem.current, LoginItemStatus::notRegistered);
+}
+
+TEST_F(AppDelegateTest, BeforeTheUserHasAgreedEverythingLeadsToTheGuide) {
+    services->preferences.setHasAcceptedEULA(false);
+    launch();
+    system.scheduler.advance(0.4);
+    QWindow* const guide = &delegate->onboardingFlow().onboardingWindow()->window();
+    for (const QString& text : {u"Open Hoard"_qs, u"Welcome Guide…"_qs, u"Preferences…"_qs}) {
+        desktop.application.activated.clear();
+        chooseInStatusMenu(text);
+        EXPECT_THAT(desktop.application.activated, ElementsAre(guide));
+    }
+    desktop.statusItem.alternateActivation();
+    EXPECT_EQ(ViewWindow::allVisible().size(), 1U);
+    EXPECT_FALSE(QFile::exists(services->hoard.path()));
+}
 
 TEST_F(AppDelegateTest, FollowsTheModeThatItIsTold) {
     launch();

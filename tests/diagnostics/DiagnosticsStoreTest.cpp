@@ -10,6 +10,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace tessarine {
 namespace {
 
@@ -65,6 +67,19 @@ TEST_F(DiagnosticsStoreTest, PutsTheNewestFirst) {
     EXPECT_EQ(store.entries().at(0).timestamp, ManualScheduler::startOfTime + 1.5);
     EXPECT_EQ(store.entries().at(1).message, u"first"_qs);
     EXPECT_NE(store.entries().at(0).id, store.entries().at(1).id);
+}
+
+TEST_F(DiagnosticsStoreTest, LendsAWayToLogThatOutlivesIt) {
+    auto lender = std::make_unique<DiagnosticsStore>(scheduler, hoard);
+    const DiagnosticsStore::Logger logger = lender->logger();
+    const std::function<void()> refresher = lender->statsRefresher();
+    logger(u"hello"_qs, Level::warning, Category::hoard);
+    ASSERT_EQ(lender->entries().size(), 1);
+    EXPECT_EQ(lender->entries().first().message, u"hello"_qs);
+    lender.reset();
+    logger(u"to nobody"_qs, Level::info, Category::hoard);
+    refresher();
+    scheduler.settle();
 }
 
 TEST_F(DiagnosticsStoreTest, KeepsTwoHundredEntries) {

@@ -30,6 +30,7 @@ LAYER_OF_FOLDERS = {
     "src/windows": "windows",
     "src/apps": "views",
     "src/browser": "views",
+    "src/diagnosticsview": "views",
     "src/export": "views",
     "src/settings": "views",
     "src/onboarding": "views",

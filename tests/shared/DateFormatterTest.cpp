@@ -72,6 +72,14 @@ TEST_F(DateFormatterTest, TakesMomentsWithoutADateAsTheFirstOrTheLast) {
         EXPECT_EQ(made.text(moment), u"AD 1-01-01 00:00:00"_qs) << moment;
 }
 
+TEST_F(DateFormatterTest, HasABriefStyle) {
+    using Style = DateFormatter::Style;
+    EXPECT_EQ(DateFormatter::withStyles(Style::brief, Style::none, "de_DE").text(afternoon),
+              u"16.11.25"_qs);
+    EXPECT_EQ(DateFormatter::withStyles(Style::medium, Style::brief, "de_DE").text(afternoon),
+              u"16.11.2025, 15:33"_qs);
+}
+
 TEST_F(DateFormatterTest, CanBeHandedOn) {
     auto first = formatter(u"yyyy"_qs);
     const DateFormatter second = std::move(first);

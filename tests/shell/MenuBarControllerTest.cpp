@@ -24,11 +24,16 @@ const QString lastSeenKey = u"menuBarLastSeenCount"_qs;
 class MenuBarTest : public ::testing::Test {
 protected:
     void launch() {
-        controller_.emplace(
-            item_, listener_, system_.defaults, launchAgent_,
-            MenuBarController::Actions{[this] { ++opened_; }, [this] { ++guides_; },
-                                       [this] { ++fdaPrompts_; }, [this] { return lacksFda_; },
-                                       [this] { ++updateChecks_; }, [this] { ++quit_; }});
+        MenuBarController::Actions actions;
+        actions.openHoard = [this] { ++opened_; };
+        actions.openWelcomeGuide = [this] { ++guides_; };
+        actions.openPreferences = [this] { ++preferences_; };
+        actions.openFullDiskAccess = [this] { ++fdaPrompts_; };
+        actions.lacksFullDiskAccess = [this] { return lacksFda_; };
+        actions.checkForUpdates = [this] { ++updateChecks_; };
+        actions.openDiagnostics = [this] { ++diagnostics_; };
+        actions.quit = [this] { ++quit_; };
+        controller_.emplace(item_, listener_, system_.defaults, launchAgent_, actions);
     }
 
     void publish(std::size_t count) { listener_->setNotifications(NotificationList(count)); }
@@ -45,6 +50,8 @@ protected:
     int fdaPrompts_ = 0;
     bool lacksFda_ = false;
     int updateChecks_ = 0;
+    int preferences_ = 0;
+    int diagnostics_ = 0;
     int quit_ = 0;
 };
 
@@ -178,11 +185,19 @@ TEST_F(MenuBarTest, TheMenuHasItsItemsInTheirOrder) {
     const StatusMenu menu(item_);
     EXPECT_EQ(menu.texts(),
               QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"Welcome Guide…"_qs,
-                           u"-"_qs, u"Launch at Login"_qs, u"-"_qs, u"Check for Updates…"_qs,
-                           u"-"_qs, u"Quit Tessarine"_qs}));
+                           u"Preferences…"_qs, u"-"_qs, u"Launch at Login"_qs, u"-"_qs,
+                           u"Check for Updates…"_qs, u"-"_qs, u"Quit Tessarine"_qs}));
     EXPECT_FALSE(menu.entry(u"Tessarine"_qs)->isEnabled());
     EXPECT_EQ(menu.entry(u"Open Hoard"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
+    EXPECT_EQ(menu.entry(u"Preferences…"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Comma));
     EXPECT_EQ(menu.entry(u"Quit Tessarine"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+}
+
+TEST_F(MenuBarTest, TheClickWithOptionLeadsToTheDiagnosticsAlone) {
+    launch();
+    item_.alternateActivation();
+    EXPECT_EQ(diagnostics_, 1);
+    EXPECT_EQ(opened_, 0);
 }
 
 TEST_F(MenuBarTest, TheWayToTheDatabaseIsThereAsLongAsItIsMissing) {
@@ -204,6 +219,8 @@ TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
     EXPECT_EQ(opened_, 1);
     menu.entry(u"Welcome Guide…"_qs)->trigger();
     EXPECT_EQ(guides_, 1);
+    menu.entry(u"Preferences…"_qs)->trigger();
+    EXPECT_EQ(preferences_, 1);
     menu.entry(u"Check for Updates…"_qs)->trigger();
     EXPECT_EQ(updateChecks_, 1);
     EXPECT_EQ(quit_, 0);

@@ -30,6 +30,10 @@ QString SimulatedFileSystem::expandingTilde(const QString& path) const {
     return path.startsWith(u'~') ? home_ + path.sliced(1) : path;
 }
 
+QString SimulatedFileSystem::abbreviatingWithTilde(const QString& path) const {
+    return path.startsWith(home_ + u'/') ? u'~' + path.sliced(home_.size()) : path;
+}
+
 bool SimulatedFileSystem::grantsReading(const QString& path) const {
     return QFileInfo(path).isReadable();
 }
@@ -135,7 +139,7 @@ SimulatedPlatform::SimulatedPlatform(const QString& home)
     , accessibility(
           install(std::make_unique<SimulatedAccessibility>(scheduler), platform.accessibility))
     , loginItem(install(std::make_unique<SimulatedLoginItem>(), platform.loginItem))
-    , systemSettings(
-          install(std::make_unique<SimulatedSystemSettings>(), platform.systemSettings)) {}
+    , systemSettings(install(std::make_unique<SimulatedSystemSettings>(), platform.systemSettings))
+    , systemFacts(install(std::make_unique<SimulatedSystemFacts>(), platform.systemFacts)) {}
 
 } // namespace tessarine::testing

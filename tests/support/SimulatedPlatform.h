@@ -53,6 +53,7 @@ public:
 
     QStringList applicationSupportDirectories() const override;
     QString expandingTilde(const QString& path) const override;
+    QString abbreviatingWithTilde(const QString& path) const override;
     bool grantsReading(const QString& path) const override;
     bool makePrivate(const QString& path) const override;
 
@@ -144,6 +145,20 @@ public:
     QStringList opened;
 };
 
+// A system and a program of the test's own making.
+class SimulatedSystemFacts : public SystemFacts {
+public:
+    QString programVersion() const override { return version; }
+    QString programBuild() const override { return build; }
+    QString systemLabel() const override { return label; }
+    QString systemVersion() const override { return system; }
+
+    QString version = QStringLiteral("1.2.3");
+    QString build = QStringLiteral("45");
+    QString label = QStringLiteral("System");
+    QString system = QStringLiteral("Example 6.7 (Linux 8.9)");
+};
+
 // The whole simulated platform, with its parts at hand for the test.
 struct SimulatedPlatform {
     explicit SimulatedPlatform(const QString& home);
@@ -157,6 +172,7 @@ struct SimulatedPlatform {
     SimulatedAccessibility& accessibility;
     SimulatedLoginItem& loginItem;
     SimulatedSystemSettings& systemSettings;
+    SimulatedSystemFacts& systemFacts;
 };
 
 } // namespace tessarine::testing

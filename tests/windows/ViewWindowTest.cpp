@@ -91,6 +91,38 @@ TEST_F(ViewWindowTest, TakesAnotherFixedSizeWhenItIsCentredAgain) {
     EXPECT_EQ(window.window().size(), QSize(400, 300));
 }
 
+TEST_F(ViewWindowTest, ChangesItsHeightBelowAnEdgeThatStays) {
+    ViewWindow window(description(WindowFeature::closable), *engine);
+    window.centre({300, 200});
+    const QPoint corner = window.window().position();
+    window.showAndMakeKey();
+    window.changeHeight(350, 20);
+    EXPECT_EQ(window.window().height(), 200);
+    ASSERT_TRUE(testing::turnsUntil([&] { return window.window().height() == 350; }));
+    EXPECT_EQ(window.window().size(), QSize(300, 350));
+    EXPECT_EQ(window.window().position(), corner);
+    EXPECT_EQ(window.window().minimumSize(), QSize(300, 350));
+    EXPECT_EQ(window.window().maximumSize(), QSize(300, 350));
+}
+
+TEST_F(ViewWindowTest, ChangesItsHeightAtOnceWithoutTimeAndWhileItIsHidden) {
+    ViewWindow window(description(), *engine);
+    window.centre({300, 200});
+    window.changeHeight(350, 1000);
+    EXPECT_EQ(window.window().height(), 350);
+    window.showAndMakeKey();
+    window.changeHeight(250, 0);
+    EXPECT_EQ(window.window().height(), 250);
+    EXPECT_EQ(window.window().minimumSize(), QSize(200, 100));
+}
+
+TEST_F(ViewWindowTest, BecomesNoHigherThanTheScreen) {
+    ViewWindow window(description(), *engine);
+    window.centre({300, 200});
+    window.changeHeight(100000, 0);
+    EXPECT_EQ(window.window().height(), QGuiApplication::primaryScreen()->availableSize().height());
+}
+
 TEST_F(ViewWindowTest, HasTheButtonsThatItWasGiven) {
     const ViewWindow closable(description(WindowFeature::closable), *engine);
     EXPECT_TRUE(closable.window().flags().testFlag(Qt::WindowCloseButtonHint));

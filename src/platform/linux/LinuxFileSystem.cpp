@@ -21,6 +21,11 @@ QString LinuxFileSystem::expandingTilde(const QString& path) const {
     return path;
 }
 
+QString LinuxFileSystem::abbreviatingWithTilde(const QString& path) const {
+    const QString home = QDir::homePath();
+    return path.startsWith(home + u'/') ? u'~' + path.sliced(home.size()) : path;
+}
+
 bool LinuxFileSystem::grantsReading(const QString& path) const {
     return access(QFile::encodeName(path).constData(), R_OK) == 0 || errno == ENOENT ||
            errno == ENOTDIR;

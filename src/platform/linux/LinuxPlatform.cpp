@@ -4,6 +4,7 @@
 #include "platform/linux/InotifyWatcher.h"
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxSingleInstance.h"
+#include "platform/linux/LinuxSystemFacts.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/applications/LinuxLoginItem.h"
 #include "platform/linux/applications/LinuxSystemSettings.h"
@@ -40,6 +41,7 @@ std::unique_ptr<Platform> makePlatform() {
     platform->loginItem = std::make_unique<LinuxLoginItem>();
     platform->systemSettings =
         std::make_unique<LinuxSystemSettings>(LinuxSystemSettings::currentDesktops());
+    platform->systemFacts = std::make_unique<LinuxSystemFacts>();
     return platform;
 }
 

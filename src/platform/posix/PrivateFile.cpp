@@ -16,8 +16,8 @@ namespace tessarine {
 
 namespace {
 
-std::error_code writeAll(const Descriptor& file, const QByteArray& bytes) {
-    const char* next = bytes.constData();
+std::error_code writeAll(const Descriptor& file, QByteArrayView bytes) {
+    const char* next = bytes.data();
     auto left = static_cast<std::size_t>(bytes.size());
     while (left > 0) {
         const ssize_t written = write(file.number(), next, left);
@@ -79,6 +79,26 @@ std::error_code fill(Descriptor& file, const QByteArray& bytes) {
     return file.close();
 }
 
+std::error_code fillFrom(const ByteSource& next, Descriptor& file) {
+    narrow(file); // whatever the process masks
+    std::error_code error;
+    for (QByteArrayView part = next(error); !error && !part.isEmpty(); part = next(error))
+        error = writeAll(file, part);
+    return error ? error : file.close();
+}
+
+// No error where nothing is.
+std::error_code removeFileOrLink(const QByteArray& path) {
+    struct stat status {};
+    if (lstat(path.constData(), &status) != 0)
+        return errno == ENOENT ? std::error_code() : lastError();
+    if (S_ISDIR(status.st_mode))
+        return {EISDIR, std::generic_category()};
+    if (!S_ISREG(status.st_mode) && !S_ISLNK(status.st_mode))
+        return {EOPNOTSUPP, std::generic_category()};
+    return unlink(path.constData()) == 0 ? std::error_code() : lastError();
+}
+
 } // namespace
 
 std::error_code writePrivately(const QString& path, const QByteArray& bytes) {
@@ -108,6 +128,19 @@ std::error_code replacePrivately(const QString& path, const QByteArray& bytes) {
         error = lastError();
     if (error)
         unlink(temporary.constData());
+    return error;
+}
+
+std::error_code writeAnewPrivately(const QString& path, const ByteSource& next) {
+    const QByteArray name = QFile::encodeName(path);
+    if (const std::error_code refusal = removeFileOrLink(name))
+        return refusal;
+    Descriptor file(open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, ownerOnly));
+    if (!file.isOpen())
+        return lastError();
+    const std::error_code error = fillFrom(next, file);
+    if (error)
+        unlink(name.constData());
     return error;
 }
 

@@ -179,5 +179,13 @@ TEST_F(LinuxFileSystemTest, CanNotMakePrivateWhatBelongsToAnother) {
     EXPECT_EQ(status.st_mode & 07777, 0666U);
 }
 
+TEST_F(LinuxFileSystemTest, PutsATildeInThePlaceOfTheHomeFolder) {
+    const Variable home("HOME", "/home/ann");
+    const LinuxFileSystem files;
+    EXPECT_EQ(files.abbreviatingWithTilde(u"/home/ann/.local/x"_qs), u"~/.local/x"_qs);
+    EXPECT_EQ(files.abbreviatingWithTilde(u"/home/anna/x"_qs), u"/home/anna/x"_qs);
+    EXPECT_EQ(files.abbreviatingWithTilde(u"/srv/home/ann/x"_qs), u"/srv/home/ann/x"_qs);
+}
+
 } // namespace
 } // namespace tessarine

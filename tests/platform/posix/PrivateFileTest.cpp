@@ -345,5 +345,80 @@ TEST_P(OtherReaderTest, SeesNothingAtAnyMoment) {
 INSTANTIATE_TEST_SUITE_P(Each, OtherReaderTest, ::testing::Values(inPlace, atOnce),
                          [](const auto& test) { return std::string(test.param.name); });
 
+// A file written anew from what a source gives
+
+// Gives the parts one after the other, and then the error.
+ByteSource sourceOf(QList<QByteArray> parts, std::error_code last = {}) {
+    return [parts = std::move(parts), last,
+            next = qsizetype(0)](std::error_code& error) mutable -> QByteArrayView {
+        if (next < parts.size())
+            return parts[next++];
+        error = last;
+        return {};
+    };
+}
+
+class FileWrittenAnew : public ::testing::Test {
+protected:
+    QString path(const QString& name) const { return folder.filePath(name); }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(FileWrittenAnew, HoldsAllParts) {
+    EXPECT_FALSE(writeAnewPrivately(path(u"a"_qs), sourceOf({"one ", "two ", "three"})));
+    EXPECT_EQ(contentOf(path(u"a"_qs)), "one two three");
+    EXPECT_EQ(modeOf(path(u"a"_qs)), mode_t(0600));
+}
+
+TEST_F(FileWrittenAnew, IsPrivateBeforeItsFirstByte) {
+    const UmaskScope scope(0);
+    mode_t atFirst = 0;
+    EXPECT_FALSE(writeAnewPrivately(path(u"a"_qs), [&](std::error_code&) -> QByteArrayView {
+        atFirst = modeOf(path(u"a"_qs));
+        return {};
+    }));
+    EXPECT_EQ(atFirst, mode_t(0600));
+}
+
+TEST_F(FileWrittenAnew, IsAnotherThanTheOneThatWasThere) {
+    makeFile(path(u"a"_qs), "a longer content", 0666);
+    QFile reader(path(u"a"_qs));
+    ASSERT_TRUE(reader.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(writeAnewPrivately(path(u"a"_qs), sourceOf({"short"})));
+    EXPECT_EQ(contentOf(path(u"a"_qs)), "short");
+    EXPECT_EQ(reader.readAll(), "a longer content");
+    EXPECT_EQ(modeOf(path(u"a"_qs)), mode_t(0600));
+}
+
+TEST_F(FileWrittenAnew, TakesThePlaceOfALinkAlone) {
+    makeFile(path(u"target"_qs), "untouched", 0600);
+    ASSERT_TRUE(QFile::link(path(u"target"_qs), path(u"link"_qs)));
+    ASSERT_TRUE(QFile::link(path(u"nowhere"_qs), path(u"dangling"_qs)));
+    EXPECT_FALSE(writeAnewPrivately(path(u"link"_qs), sourceOf({"x"})));
+    EXPECT_FALSE(writeAnewPrivately(path(u"dangling"_qs), sourceOf({"y"})));
+    EXPECT_EQ(contentOf(path(u"target"_qs)), "untouched");
+    EXPECT_EQ(contentOf(path(u"link"_qs)), "x");
+    EXPECT_EQ(contentOf(path(u"dangling"_qs)), "y");
+    EXPECT_FALSE(QFileInfo::exists(path(u"nowhere"_qs)));
+}
+
+TEST_F(FileWrittenAnew, IsGoneAfterAFailureHalfWay) {
+    makeFile(path(u"a"_qs), "old", 0600);
+    const auto failure = std::make_error_code(std::errc::io_error);
+    EXPECT_EQ(writeAnewPrivately(path(u"a"_qs), sourceOf({"half"}, failure)), failure);
+    EXPECT_EQ(entriesOf(folder.path()), QStringList());
+}
+
+TEST_F(FileWrittenAnew, RefusesWhatIsNoFile) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"folder"_qs));
+    ASSERT_EQ(mkfifo(QFile::encodeName(path(u"pipe"_qs)).constData(), 0600), 0);
+    EXPECT_EQ(writeAnewPrivately(path(u"folder"_qs), sourceOf({"x"})).value(), EISDIR);
+    EXPECT_EQ(writeAnewPrivately(path(u"pipe"_qs), sourceOf({"x"})).value(), EOPNOTSUPP);
+    EXPECT_EQ(writeAnewPrivately(u"/dev/null"_qs, sourceOf({"x"})).value(), EOPNOTSUPP);
+    EXPECT_EQ(writeAnewPrivately(path(u"no/where"_qs), sourceOf({"x"})).value(), ENOENT);
+    EXPECT_EQ(entriesOf(folder.path()).size(), 2);
+}
+
 } // namespace
 } // namespace tessarine

@@ -52,6 +52,7 @@ std::optional<QString> LinuxSavePanel::runModal(const Request& request) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setLabelText(QFileDialog::Accept, request.prompt);
+    dialog.setDefaultSuffix(request.extension);
     dialog.selectFile(request.name);
     if (QWindow* const window = QGuiApplication::focusWindow())
         standBefore(window, dialog);

@@ -107,7 +107,15 @@ protected:
             user(*dialog);
         });
         watch.start(5);
-        return panel_.runModal({u"Tessarine_2026-03-03.csv"_qs, u"Export CSV"_qs, u"Export"_qs});
+        return panel_.runModal(request_);
+    }
+
+    // What it gives for a name that the user types.
+    std::optional<QString> answerFor(const QString& name) {
+        return run([&](QFileDialog& dialog) {
+            dialog.findChild<QLineEdit*>(u"fileNameEdit"_qs)->setText(path(name));
+            dialog.findChild<QDialogButtonBox*>()->buttons().value(0)->click();
+        });
     }
 
     QString path(const QString& name) const { return folder_.filePath(name); }
@@ -115,6 +123,7 @@ protected:
     QTemporaryDir folder_;
     testing::SimulatedAppearance appearance_;
     LinuxSavePanel panel_{appearance_};
+    SavePanel::Request request_{u"Tessarine_2026-03-03.csv"_qs, u"Export CSV"_qs, u"Export"_qs};
 };
 
 TEST_F(SavePanelTest, ShowsWhatItWasAsked) {
@@ -139,6 +148,13 @@ TEST_F(SavePanelTest, GivesThePathThatTheUserChose) {
                   dialog.findChild<QDialogButtonBox*>()->buttons().value(0)->click();
               }),
               wanted);
+}
+
+TEST_F(SavePanelTest, GivesANameWithoutAnExtensionTheOneThatIsAskedFor) {
+    request_.extension = u"db"_qs;
+    EXPECT_EQ(answerFor(u"backup"_qs), path(u"backup.db"_qs));
+    EXPECT_EQ(answerFor(u"backup.db"_qs), path(u"backup.db"_qs));
+    EXPECT_EQ(answerFor(u"backup.old"_qs), path(u"backup.old"_qs));
 }
 
 TEST_F(SavePanelTest, GivesNothingWhenTheUserCancels) {
