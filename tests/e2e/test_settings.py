@@ -28,9 +28,9 @@ class SettingsTestCase(DesktopTestCase):
         return self.session.windows("--onlyvisible", "--name", "^Preferences$")
 
     def request(self):
-        """As from a first look: Open Hoard, then Preferences."""
+        """By the menu of the bell."""
         self.session.open_menu()
-        self.session.xdotool("key", "--delay", "150", "Down", "Down", "Return")
+        self.session.xdotool("key", "--delay", "150", "ctrl+comma")
 
     def open(self, tab=None):
         self.request()
