@@ -21,6 +21,8 @@ struct Palette {
     Q_PROPERTY(QColor tertiaryLabel MEMBER tertiaryLabel CONSTANT)
     Q_PROPERTY(QColor accent MEMBER accent CONSTANT)
     Q_PROPERTY(QColor focusRing MEMBER focusRing CONSTANT)
+    Q_PROPERTY(QColor blue MEMBER blue CONSTANT)
+    Q_PROPERTY(QColor yellow MEMBER yellow CONSTANT)
     Q_PROPERTY(QColor windowBackground MEMBER windowBackground CONSTANT)
     Q_PROPERTY(QColor controlBackground MEMBER controlBackground CONSTANT)
     Q_PROPERTY(QColor panelBackground MEMBER panelBackground CONSTANT)
@@ -56,6 +58,8 @@ public:
     QColor tertiaryLabel;
     QColor accent;
     QColor focusRing;
+    QColor blue; // whatever the accent is
+    QColor yellow;
 
     // Backgrounds
     QColor windowBackground;
