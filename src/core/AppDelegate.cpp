@@ -1,5 +1,6 @@
 #include "core/AppDelegate.h"
 
+#include "help/HelpWindow.h"
 #include "platform/DefaultsKeys.h"
 
 #include <QCoreApplication>
@@ -92,6 +93,14 @@ void AppDelegate::showUpdateNotice() {
     }
     updateNotice_->showAndMakeKey();
     views_.desktop.application->activate(updateNotice_->window());
+}
+
+void AppDelegate::showHelp() {
+    ViewWindow& help =
+        *makeHelpWindow({*views_.services.platform.scheduler, QString(), {}}, *views_.engine);
+    watchWindow(help.window());
+    help.showAndMakeKey();
+    views_.desktop.application->activate(help.window());
 }
 
 void AppDelegate::activate() {

@@ -35,6 +35,9 @@ public:
     // The system's updater, or what there is to say where it has none.
     void checkForUpdates();
 
+    // The manual, in a new window each time. A window that is closed goes.
+    void showHelp();
+
     // What another start of the program asks for: the windows that are open come to the front. One
     // that is hidden stays hidden.
     void activate();

@@ -31,6 +31,7 @@ LAYER_OF_FOLDERS = {
     "src/apps": "views",
     "src/browser": "views",
     "src/export": "views",
+    "src/help": "views",
     "src/settings": "views",
     "src/shell": "views",
     "src/core": "core",
