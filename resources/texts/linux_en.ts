@@ -309,7 +309,7 @@
     </message>
     <message id="help.macos.p.focus">
         <source>help.macos.p.focus</source>
-        <translation>Do Not Disturb keeps banners off the screen. Apps announce all the same, and Tessarine captures it.</translation>
+        <translation>Do Not Disturb keeps banners off the screen. Most apps announce all the same, and Tessarine captures it.</translation>
     </message>
     <message id="help.macos.p.timeMachine">
         <source>help.macos.p.timeMachine</source>

@@ -86,7 +86,7 @@ Rectangle {
             objectName: "pages"
             x: Metrics.spacingHuge
             y: Metrics.spacingHuge
-            width: Math.min(area.width - 2 * Metrics.spacingHuge, root.widestPage)
+            width: Math.max(0, Math.min(area.width - 2 * Metrics.spacingHuge, root.widestPage))
             spacing: Metrics.spacingHuge
 
             Repeater {

@@ -23,9 +23,22 @@ public:
     LanguageScope& operator=(const LanguageScope&) = delete;
 };
 
-using Look = std::tuple<HelpSection, const char*, const char*>; // section, appearance, language
+// While it lives, the language is one that is written from right to left.
+class MirroredScope {
+public:
+    explicit MirroredScope(bool isMirrored) {
+        if (isMirrored)
+            QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    }
+    ~MirroredScope() { QGuiApplication::setLayoutDirection(before_); }
+    MirroredScope(const MirroredScope&) = delete;
+    MirroredScope& operator=(const MirroredScope&) = delete;
 
-class HelpPicturesTest : public HelpFixture, public ::testing::WithParamInterface<Look> {
+private:
+    const Qt::LayoutDirection before_ = QGuiApplication::layoutDirection();
+};
+
+class PictureFixture : public HelpFixture {
 protected:
     // Texts that are not whole to be seen, by their content.
     QStringList cutTexts() const {
@@ -44,7 +57,17 @@ protected:
         const QQuickItem& pages = item(u"pages"_qs);
         return pages.mapRectToScene(QRectF(0, 0, pages.width(), pages.height()));
     }
+
+    void save(const QString& name) const {
+        const QString density = QString::number(quickWindow().effectiveDevicePixelRatio());
+        EXPECT_TRUE(savePicture(stillPicture(quickWindow()), QStringLiteral(PICTURES_FOLDER),
+                                u"help-%1@%2x.png"_qs.arg(name, density)));
+    }
 };
+
+using Look = std::tuple<HelpSection, const char*, const char*>; // section, appearance, language
+
+class HelpPicturesTest : public PictureFixture, public ::testing::WithParamInterface<Look> {};
 
 TEST_P(HelpPicturesTest, ShowsTheSectionWithoutCuttingIt) {
     const auto [section, look, languageName] = GetParam();
@@ -58,10 +81,8 @@ TEST_P(HelpPicturesTest, ShowsTheSectionWithoutCuttingIt) {
     EXPECT_EQ(textsOutside(*quickWindow().contentItem(), QRectF(0, 0, 760, 560)), QStringList());
     EXPECT_EQ(textsOutside(item(u"pages"_qs), pageRoom()), QStringList());
 
-    const QString density = QString::number(quickWindow().effectiveDevicePixelRatio());
-    const QString name = u"help-%1-%2-%3@%4x.png"_qs.arg(
-        rawValue(section), QLatin1StringView(languageName), QLatin1StringView(look), density);
-    EXPECT_TRUE(savePicture(stillPicture(quickWindow()), QStringLiteral(PICTURES_FOLDER), name));
+    save(u"%1-%2-%3"_qs.arg(rawValue(section), QLatin1StringView(languageName),
+                            QLatin1StringView(look)));
 }
 
 std::string helpLookName(const ::testing::TestParamInfo<Look>& info) {
@@ -74,6 +95,108 @@ INSTANTIATE_TEST_SUITE_P(Pictures, HelpPicturesTest,
                                             ::testing::Values("light", "dark"),
                                             ::testing::Values("en")),
                          helpLookName);
+
+INSTANTIATE_TEST_SUITE_P(LanguagePictures, HelpPicturesTest,
+                         ::testing::Combine(::testing::ValuesIn(allHelpSections),
+                                            ::testing::Values("light"),
+                                            ::testing::Values("it", "de", "fr")),
+                         helpLookName);
+
+class WholePagePicturesTest : public PictureFixture,
+                              public ::testing::WithParamInterface<HelpSection> {};
+
+TEST_P(WholePagePicturesTest, ShowsTheSectionToItsEnd) {
+    appearance.setReducesMotion(true);
+    open();
+    view().setSelectedSection(GetParam());
+    draw();
+    const int height = int(item(u"page"_qs).property("contentHeight").toDouble());
+    quickWindow().resize(760, height);
+    ASSERT_TRUE(turnsUntil([&] { return item(u"page"_qs).height() == height; }));
+    EXPECT_EQ(cutTexts(), QStringList());
+    save(u"whole-"_qs + rawValue(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sections, WholePagePicturesTest, ::testing::ValuesIn(allHelpSections),
+                         [](const auto& info) { return rawValue(info.param).toStdString(); });
+
+// What else the window may look like
+
+enum class Scene { Search, NothingFound, Agreement, Narrow, Mirrored };
+
+using SceneLook = std::tuple<Scene, const char*>;
+
+const char* helpSceneName(Scene scene) {
+    switch (scene) {
+    case Scene::Search:
+        return "search";
+    case Scene::NothingFound:
+        return "nothingFound";
+    case Scene::Agreement:
+        return "agreement";
+    case Scene::Narrow:
+        return "narrow";
+    case Scene::Mirrored:
+        return "mirrored";
+    }
+    return "";
+}
+
+class HelpScenePicturesTest : public PictureFixture,
+                              public ::testing::WithParamInterface<SceneLook> {
+protected:
+    void bringAbout(Scene scene) {
+        switch (scene) {
+        case Scene::Search:
+            view().setSearchText(u"pinned"_qs);
+            break;
+        case Scene::NothingFound:
+            view().setSearchText(u"xyzzy"_qs);
+            break;
+        case Scene::Agreement:
+            view().setSelectedSection(HelpSection::about);
+            draw();
+            click(item(u"reviewAgreement"_qs));
+            break;
+        case Scene::Narrow:
+            view().setSelectedSection(HelpSection::limitations);
+            quickWindow().resize(420, 300);
+            EXPECT_TRUE(turnsUntil([this] { return quickWindow().rootObject()->width() == 420; }));
+            break;
+        case Scene::Mirrored:
+            view().setSelectedSection(HelpSection::iphone);
+            draw();
+            bringIntoSight(item(u"nextStep"_qs));
+            break;
+        }
+    }
+};
+
+TEST_P(HelpScenePicturesTest, ShowsTheSceneWithoutCuttingIt) {
+    const auto [scene, look] = GetParam();
+    const MirroredScope mirrored(scene == Scene::Mirrored);
+    services.agreementText =
+        u"A sentence of an agreement, of which there are many. "_qs.repeated(80);
+    theme.applyAppearance(QLatin1StringView(look));
+    appearance.setReducesMotion(true);
+    open();
+    bringAbout(scene);
+    draw();
+    EXPECT_EQ(cutTexts(), QStringList());
+    EXPECT_EQ(textsOutside(*quickWindow().contentItem(), QRectF(QPointF(), quickWindow().size())),
+              QStringList());
+    save(u"%1-%2"_qs.arg(QLatin1StringView(helpSceneName(scene)), QLatin1StringView(look)));
+}
+
+INSTANTIATE_TEST_SUITE_P(ScenePictures, HelpScenePicturesTest,
+                         ::testing::Combine(::testing::Values(Scene::Search, Scene::NothingFound,
+                                                              Scene::Agreement, Scene::Narrow,
+                                                              Scene::Mirrored),
+                                            ::testing::Values("light", "dark")),
+                         [](const auto& info) {
+                             return std::string(helpSceneName(std::get<0>(info.param))) + "_" +
+                                    std::get<1>(info.param);
+                         });
 
 } // namespace
 } // namespace tessarine::testing
