@@ -52,7 +52,7 @@
     </message>
     <message id="contextMenu.deleteAllFromDate">
         <source>contextMenu.deleteAllFromDate</source>
-        <translation>Alles vom Tag %1 löschen</translation>
+        <translation>Alles vom %1 löschen</translation>
     </message>
     <message id="contextMenu.deleteThis">
         <source>contextMenu.deleteThis</source>
@@ -1684,8 +1684,8 @@
     <message id="toolbar.notifCount" numerus="yes">
         <source>toolbar.notifCount</source>
         <translation>
-            <numerusform>%Ln Benachrichtigung</numerusform>
-            <numerusform>%Ln Benachrichtigungen</numerusform>
+            <numerusform>%Ln Eintrag</numerusform>
+            <numerusform>%Ln Einträge</numerusform>
         </translation>
     </message>
     <message id="toolbar.notifCount.truncated">
@@ -1710,11 +1710,11 @@
     </message>
     <message id="toolbar.sort.newest">
         <source>toolbar.sort.newest</source>
-        <translation>Neueste zuerst</translation>
+        <translation>Neueste</translation>
     </message>
     <message id="toolbar.sort.oldest">
         <source>toolbar.sort.oldest</source>
-        <translation>Älteste zuerst</translation>
+        <translation>Älteste</translation>
     </message>
     <message id="updates.packageManager">
         <source>updates.packageManager</source>

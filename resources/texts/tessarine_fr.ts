@@ -1307,7 +1307,7 @@
     </message>
     <message id="help.selectDelete.p.deleting">
         <source>help.selectDelete.p.deleting</source>
-        <translation>« Supprimer la sélection » demande d’abord, « Tout supprimer » aussi. « Tout supprimer » vide toute la réserve, même les notifications épinglées et non chargées. Si une notification arrive pendant que vous sélectionnez, la sélection est perdue et rien n’est supprimé.</translation>
+        <translation>« Supprimer… » demande d’abord, « Tout supprimer » aussi. « Tout supprimer » vide toute la réserve, même les notifications épinglées et non chargées. Si une notification arrive pendant que vous sélectionnez, la sélection est perdue et rien n’est supprimé.</translation>
     </message>
     <message id="help.selectDelete.p.entering">
         <source>help.selectDelete.p.entering</source>
@@ -1627,7 +1627,7 @@
     </message>
     <message id="selection.deleteSelected">
         <source>selection.deleteSelected</source>
-        <translation>Supprimer la sélection…</translation>
+        <translation>Supprimer…</translation>
     </message>
     <message id="selection.deselectAll">
         <source>selection.deselectAll</source>
