@@ -40,6 +40,18 @@ private:
 
 class PictureFixture : public HelpFixture {
 protected:
+    // At double density the screen of the tests is smaller than the window would be.
+    void openAtItsSize() {
+        open();
+        resizeTo(QSize(760, 560));
+    }
+
+    void resizeTo(const QSize& size) const {
+        quickWindow().resize(size);
+        EXPECT_TRUE(turnsUntil([&] { return quickWindow().rootObject()->size() == size; }));
+        draw();
+    }
+
     // Texts that are not whole to be seen, by their content.
     QStringList cutTexts() const {
         QStringList cut;
@@ -74,7 +86,7 @@ TEST_P(HelpPicturesTest, ShowsTheSectionWithoutCuttingIt) {
     const LanguageScope language{QLatin1StringView(languageName)};
     theme.applyAppearance(QLatin1StringView(look));
     appearance.setReducesMotion(true);
-    open();
+    openAtItsSize();
     view().setSelectedSection(section);
     draw();
     EXPECT_EQ(cutTexts(), QStringList());
@@ -107,12 +119,11 @@ class WholePagePicturesTest : public PictureFixture,
 
 TEST_P(WholePagePicturesTest, ShowsTheSectionToItsEnd) {
     appearance.setReducesMotion(true);
-    open();
+    openAtItsSize();
     view().setSelectedSection(GetParam());
     draw();
     const int height = int(item(u"page"_qs).property("contentHeight").toDouble());
-    quickWindow().resize(760, height);
-    ASSERT_TRUE(turnsUntil([&] { return item(u"page"_qs).height() == height; }));
+    resizeTo(QSize(760, height));
     EXPECT_EQ(cutTexts(), QStringList());
     save(u"whole-"_qs + rawValue(GetParam()));
 }
@@ -160,8 +171,7 @@ protected:
             break;
         case Scene::Narrow:
             view().setSelectedSection(HelpSection::limitations);
-            quickWindow().resize(420, 300);
-            EXPECT_TRUE(turnsUntil([this] { return quickWindow().rootObject()->width() == 420; }));
+            resizeTo(QSize(420, 300));
             break;
         case Scene::Mirrored:
             view().setSelectedSection(HelpSection::iphone);
@@ -179,7 +189,7 @@ TEST_P(HelpScenePicturesTest, ShowsTheSceneWithoutCuttingIt) {
         u"A sentence of an agreement, of which there are many. "_qs.repeated(80);
     theme.applyAppearance(QLatin1StringView(look));
     appearance.setReducesMotion(true);
-    open();
+    openAtItsSize();
     bringAbout(scene);
     draw();
     EXPECT_EQ(cutTexts(), QStringList());

@@ -42,6 +42,7 @@ HelpPage {
             PlainLabel {
                 id: name
 
+                width: parent.width
                 text: "Tessarine"
                 font.pixelSize: Metrics.textTitle
                 font.weight: Font.DemiBold
@@ -52,6 +53,7 @@ HelpPage {
                 id: version
 
                 objectName: "version"
+                width: parent.width
                 text: "Version " + page.view.version
                 color: Theme.colours.secondaryLabel
                 font.pixelSize: Metrics.textHeadline
