@@ -400,6 +400,1230 @@
         <source>group.expand</source>
         <translation>Show %1</translation>
     </message>
+    <message id="help.about.eula.accepted">
+        <source>help.about.eula.accepted</source>
+        <translation>You accepted the agreement at the first start.</translation>
+    </message>
+    <message id="help.about.eula.reviewBtn">
+        <source>help.about.eula.reviewBtn</source>
+        <translation>Review Agreement</translation>
+    </message>
+    <message id="help.about.h.acknowledgements">
+        <source>help.about.h.acknowledgements</source>
+        <translation>Acknowledgements</translation>
+    </message>
+    <message id="help.about.h.eula">
+        <source>help.about.h.eula</source>
+        <translation>End-user agreement</translation>
+    </message>
+    <message id="help.about.sparkle.credit">
+        <source>help.about.sparkle.credit</source>
+        <translation>On macOS, the open-source library Sparkle brings Tessarine’s updates. Thanks to its authors.</translation>
+    </message>
+    <message id="help.about.title">
+        <source>help.about.title</source>
+        <translation>About</translation>
+    </message>
+    <message id="help.diagnostics.h.clear">
+        <source>help.diagnostics.h.clear</source>
+        <translation>Clearing and reports</translation>
+    </message>
+    <message id="help.diagnostics.h.filtering">
+        <source>help.diagnostics.h.filtering</source>
+        <translation>Filtering</translation>
+    </message>
+    <message id="help.diagnostics.h.liveLog">
+        <source>help.diagnostics.h.liveLog</source>
+        <translation>Live log</translation>
+    </message>
+    <message id="help.diagnostics.h.statusCards">
+        <source>help.diagnostics.h.statusCards</source>
+        <translation>Status</translation>
+    </message>
+    <message id="help.diagnostics.p.clear">
+        <source>help.diagnostics.p.clear</source>
+        <translation>The trash button empties the log; the hoard is not touched. A report for a bug can be copied or saved. A saved one names the app of a notification and leaves its content out, unless you switch that on; a copied one holds the log as it is.</translation>
+    </message>
+    <message id="help.diagnostics.p.filtering">
+        <source>help.diagnostics.p.filtering</source>
+        <translation>Click the name of a part to see only its lines, and again to see all. The search field looks into the messages and the names.</translation>
+    </message>
+    <message id="help.diagnostics.p.intro">
+        <source>help.diagnostics.p.intro</source>
+        <translation>This window shows Tessarine at work. Click the bell with Option held to open it. Its content is in memory only and is gone when Tessarine quits.</translation>
+    </message>
+    <message id="help.diagnostics.p.liveLog">
+        <source>help.diagnostics.p.liveLog</source>
+        <translation>Each line has a time, the part of the program that wrote it, a sign for its weight, and what happened. The newest line is on top; the last 200 are kept.</translation>
+    </message>
+    <message id="help.diagnostics.title">
+        <source>help.diagnostics.title</source>
+        <translation>Diagnostics</translation>
+    </message>
+    <message id="help.exporting.format.csv.desc">
+        <source>help.exporting.format.csv.desc</source>
+        <translation>One line for each notification: date, time, app, bundle ID, title and text. The separator is the semicolon, the encoding UTF-8.</translation>
+    </message>
+    <message id="help.exporting.format.csv.title">
+        <source>help.exporting.format.csv.title</source>
+        <translation>CSV</translation>
+    </message>
+    <message id="help.exporting.format.pdf.desc">
+        <source>help.exporting.format.pdf.desc</source>
+        <translation>A report to print or pass on, with a summary by app.</translation>
+    </message>
+    <message id="help.exporting.format.pdf.title">
+        <source>help.exporting.format.pdf.title</source>
+        <translation>PDF Report</translation>
+    </message>
+    <message id="help.exporting.format.xlsx.desc">
+        <source>help.exporting.format.xlsx.desc</source>
+        <translation>There is no format of its own for them: spreadsheet programs open the CSV file. A cell holds exactly what the notification said, even if it looks like a formula.</translation>
+    </message>
+    <message id="help.exporting.format.xlsx.title">
+        <source>help.exporting.format.xlsx.title</source>
+        <translation>Spreadsheets</translation>
+    </message>
+    <message id="help.exporting.h.formats">
+        <source>help.exporting.h.formats</source>
+        <translation>Formats</translation>
+    </message>
+    <message id="help.exporting.h.naming">
+        <source>help.exporting.h.naming</source>
+        <translation>Name and place</translation>
+    </message>
+    <message id="help.exporting.h.numbersExcel">
+        <source>help.exporting.h.numbersExcel</source>
+        <translation>Numbers and Excel</translation>
+    </message>
+    <message id="help.exporting.h.privacy">
+        <source>help.exporting.h.privacy</source>
+        <translation>Hidden content</translation>
+    </message>
+    <message id="help.exporting.p.intro">
+        <source>help.exporting.p.intro</source>
+        <translation>The export button above the list writes what is loaded into a file, in one of three formats: Text, CSV or PDF Report. Search, filter and selection don’t matter here. From the diagnostics window an export holds the first 500 notifications.</translation>
+    </message>
+    <message id="help.exporting.p.naming">
+        <source>help.exporting.p.naming</source>
+        <translation>The suggested name is Tessarine_ and today’s date, for example Tessarine_2026-03-03.csv. You choose the folder. Only your user account may read the file.</translation>
+    </message>
+    <message id="help.exporting.p.numbers">
+        <source>help.exporting.p.numbers</source>
+        <translation>Numbers opens the CSV file by a double-click. If Excel shows everything in one column, import the file as text and choose the semicolon as the separator.</translation>
+    </message>
+    <message id="help.exporting.p.privacy">
+        <source>help.exporting.p.privacy</source>
+        <translation>Titles and texts that Tessarine hides are written as “[hidden]”. While the content of all apps is hidden, a switch offers to include it, and asks once more.</translation>
+    </message>
+    <message id="help.exporting.title">
+        <source>help.exporting.title</source>
+        <translation>Exporting</translation>
+    </message>
+    <message id="help.find.none">
+        <source>help.find.none</source>
+        <translation>No matches</translation>
+    </message>
+    <message id="help.find.none.detail">
+        <source>help.find.none.detail</source>
+        <translation>No section of the help holds these words.</translation>
+    </message>
+    <message id="help.find.placeholder">
+        <source>help.find.placeholder</source>
+        <translation>Search Help</translation>
+    </message>
+    <message id="help.hoard.contextMenu.0">
+        <source>help.hoard.contextMenu.0</source>
+        <translation>Copy Text: puts title and text on the clipboard.</translation>
+    </message>
+    <message id="help.hoard.contextMenu.1">
+        <source>help.hoard.contextMenu.1</source>
+        <translation>Delete This Notification: at once, without a question.</translation>
+    </message>
+    <message id="help.hoard.contextMenu.2">
+        <source>help.hoard.contextMenu.2</source>
+        <translation>Delete All from this app: every notification with the same app name, also those that are not loaded. At once.</translation>
+    </message>
+    <message id="help.hoard.contextMenu.3">
+        <source>help.hoard.contextMenu.3</source>
+        <translation>Delete All from this day: also those that are not loaded. At once.</translation>
+    </message>
+    <message id="help.hoard.contextMenu.openInApp">
+        <source>help.hoard.contextMenu.openInApp</source>
+        <translation>Open: the same as a double-click.</translation>
+    </message>
+    <message id="help.hoard.contextMenu.pin">
+        <source>help.hoard.contextMenu.pin</source>
+        <translation>Pin, or Unpin: a pinned notification is always loaded. Pinning doesn’t protect it from deletion.</translation>
+    </message>
+    <message id="help.hoard.h.clicking">
+        <source>help.hoard.h.clicking</source>
+        <translation>What a double-click leads to</translation>
+    </message>
+    <message id="help.hoard.h.contextMenu">
+        <source>help.hoard.h.contextMenu</source>
+        <translation>The menu of a row</translation>
+    </message>
+    <message id="help.hoard.h.interactions">
+        <source>help.hoard.h.interactions</source>
+        <translation>Mouse and keyboard</translation>
+    </message>
+    <message id="help.hoard.h.rows">
+        <source>help.hoard.h.rows</source>
+        <translation>What a row shows</translation>
+    </message>
+    <message id="help.hoard.p.interaction.click">
+        <source>help.hoard.p.interaction.click</source>
+        <translation>Click: marks the row. If its content is hidden, the first click reveals it.</translation>
+    </message>
+    <message id="help.hoard.p.interaction.cmdC">
+        <source>help.hoard.p.interaction.cmdC</source>
+        <translation>Command-C: copies title and text of the marked notification.</translation>
+    </message>
+    <message id="help.hoard.p.interaction.doubleClick">
+        <source>help.hoard.p.interaction.doubleClick</source>
+        <translation>Double-click: opens the app that sent the notification.</translation>
+    </message>
+    <message id="help.hoard.p.interaction.esc">
+        <source>help.hoard.p.interaction.esc</source>
+        <translation>Escape: takes the mark away.</translation>
+    </message>
+    <message id="help.hoard.p.interaction.space">
+        <source>help.hoard.p.interaction.space</source>
+        <translation>Space: shows the marked notification in full, and closes that view again.</translation>
+    </message>
+    <message id="help.hoard.p.rows">
+        <source>help.hoard.p.rows</source>
+        <translation>Each row has the icon and name of the app, the title, the text and the time of a notification. A pin marks a pinned row, a lock one whose content is hidden. Pinned rows stay among the others at their own time; they are loaded first, however old they are.</translation>
+    </message>
+    <message id="help.hoard.title">
+        <source>help.hoard.title</source>
+        <translation>The Hoard</translation>
+    </message>
+    <message id="help.howItWorks.h.layersTogether">
+        <source>help.howItWorks.h.layersTogether</source>
+        <translation>What each way catches</translation>
+    </message>
+    <message id="help.howItWorks.h.localStorage">
+        <source>help.howItWorks.h.localStorage</source>
+        <translation>Where the hoard is</translation>
+    </message>
+    <message id="help.howItWorks.h.sleepWake">
+        <source>help.howItWorks.h.sleepWake</source>
+        <translation>Sleep and wake</translation>
+    </message>
+    <message id="help.howItWorks.h.threeLayers">
+        <source>help.howItWorks.h.threeLayers</source>
+        <translation>Three ways to a notification</translation>
+    </message>
+    <message id="help.howItWorks.layer.ax.desc">
+        <source>help.howItWorks.layer.ax.desc</source>
+        <translation>Through Accessibility, Tessarine reads each banner off the screen, at most once a second. This is the fastest way, and it needs no access to files.</translation>
+    </message>
+    <message id="help.howItWorks.layer.ax.title">
+        <source>help.howItWorks.layer.ax.title</source>
+        <translation>Banners</translation>
+    </message>
+    <message id="help.howItWorks.layer.legacy.desc">
+        <source>help.howItWorks.layer.legacy.desc</source>
+        <translation>Older versions of macOS kept notifications in another file. Where that file is there and can be read, Tessarine reads it at start and whenever it is written.</translation>
+    </message>
+    <message id="help.howItWorks.layer.legacy.title">
+        <source>help.howItWorks.layer.legacy.title</source>
+        <translation>The database of older systems</translation>
+    </message>
+    <message id="help.howItWorks.layer.usernoted.desc">
+        <source>help.howItWorks.layer.usernoted.desc</source>
+        <translation>With Full Disk Access, Tessarine reads the database in which macOS keeps recent notifications: at start, whenever it is written, and every 30 seconds. So it also finds what was never shown as a banner.</translation>
+    </message>
+    <message id="help.howItWorks.layer.usernoted.title">
+        <source>help.howItWorks.layer.usernoted.title</source>
+        <translation>The system’s database</translation>
+    </message>
+    <message id="help.howItWorks.p.sleep">
+        <source>help.howItWorks.p.sleep</source>
+        <translation>Before the computer sleeps, Tessarine stops watching banners. Two seconds after it wakes, it begins again, and the next look into the database brings what came meanwhile.</translation>
+    </message>
+    <message id="help.howItWorks.p.storage">
+        <source>help.howItWorks.p.storage</source>
+        <translation>Everything is in one file on your Mac, ~/Library/Application Support/Tessarine/hoard.db, which only your user account may read. Tessarine has no server and no account and sends your notifications to nobody.</translation>
+    </message>
+    <message id="help.howItWorks.p1">
+        <source>help.howItWorks.p1</source>
+        <translation>The system forgets notifications within days. Tessarine copies each one into an archive of its own, the hoard, where it stays until you delete it. It sits in the menu bar and works for as long as it runs.</translation>
+    </message>
+    <message id="help.howItWorks.title">
+        <source>help.howItWorks.title</source>
+        <translation>How It Works</translation>
+    </message>
+    <message id="help.iphone.h.howToEnable">
+        <source>help.iphone.h.howToEnable</source>
+        <translation>On the iPhone, for each app</translation>
+    </message>
+    <message id="help.iphone.h.iphoneSettings">
+        <source>help.iphone.h.iphoneSettings</source>
+        <translation>When nothing comes</translation>
+    </message>
+    <message id="help.iphone.h.nativeMac">
+        <source>help.iphone.h.nativeMac</source>
+        <translation>Apps on the Mac and on the iPhone</translation>
+    </message>
+    <message id="help.iphone.h.requirements">
+        <source>help.iphone.h.requirements</source>
+        <translation>What it needs</translation>
+    </message>
+    <message id="help.iphone.h.routing">
+        <source>help.iphone.h.routing</source>
+        <translation>Where they come from</translation>
+    </message>
+    <message id="help.iphone.h.solution">
+        <source>help.iphone.h.solution</source>
+        <translation>iPhone Mirroring</translation>
+    </message>
+    <message id="help.iphone.p.nativeMac">
+        <source>help.iphone.p.nativeMac</source>
+        <translation>Tessarine sees what this Mac shows. An app that runs on the Mac announces here, and is captured.</translation>
+    </message>
+    <message id="help.iphone.p.nativeMac2">
+        <source>help.iphone.p.nativeMac2</source>
+        <translation>What only the iPhone shows never reaches the Mac and can’t be captured.</translation>
+    </message>
+    <message id="help.iphone.p.routing">
+        <source>help.iphone.p.routing</source>
+        <translation>A mirrored notification has the name of the iPhone’s app. If that app is not on the Mac, a double-click can’t open it and says so.</translation>
+    </message>
+    <message id="help.iphone.p.solution">
+        <source>help.iphone.p.solution</source>
+        <translation>With iPhone Mirroring the Mac shows the notifications of the iPhone as its own. Tessarine then captures them like all others.</translation>
+    </message>
+    <message id="help.iphone.req.appleId.desc">
+        <source>help.iphone.req.appleId.desc</source>
+        <translation>Mac and iPhone are signed in to the same account, with two-factor authentication.</translation>
+    </message>
+    <message id="help.iphone.req.appleId.title">
+        <source>help.iphone.req.appleId.title</source>
+        <translation>The same Apple Account</translation>
+    </message>
+    <message id="help.iphone.req.ios18.desc">
+        <source>help.iphone.req.ios18.desc</source>
+        <translation>Older systems have no iPhone Mirroring.</translation>
+    </message>
+    <message id="help.iphone.req.ios18.title">
+        <source>help.iphone.req.ios18.title</source>
+        <translation>iOS 18 and macOS 15, or later</translation>
+    </message>
+    <message id="help.iphone.req.notifs.desc">
+        <source>help.iphone.req.notifs.desc</source>
+        <translation>System Settings › Notifications › Allow notifications from iPhone is on.</translation>
+    </message>
+    <message id="help.iphone.req.notifs.title">
+        <source>help.iphone.req.notifs.title</source>
+        <translation>Notifications from iPhone</translation>
+    </message>
+    <message id="help.iphone.req.wifi.desc">
+        <source>help.iphone.req.wifi.desc</source>
+        <translation>Both are on, on both devices, and the devices are near each other.</translation>
+    </message>
+    <message id="help.iphone.req.wifi.title">
+        <source>help.iphone.req.wifi.title</source>
+        <translation>Wi-Fi and Bluetooth</translation>
+    </message>
+    <message id="help.iphone.title">
+        <source>help.iphone.title</source>
+        <translation>iPhone</translation>
+    </message>
+    <message id="help.iphone.walk.app.label">
+        <source>help.iphone.walk.app.label</source>
+        <translation>Tap the app whose notifications you want.</translation>
+    </message>
+    <message id="help.iphone.walk.app.screen">
+        <source>help.iphone.walk.app.screen</source>
+        <translation>The app</translation>
+    </message>
+    <message id="help.iphone.walk.hoard.label">
+        <source>help.iphone.walk.hoard.label</source>
+        <translation>The next notification appears on the Mac and lands in the hoard.</translation>
+    </message>
+    <message id="help.iphone.walk.hoard.screen">
+        <source>help.iphone.walk.hoard.screen</source>
+        <translation>On the Mac</translation>
+    </message>
+    <message id="help.iphone.walk.next">
+        <source>help.iphone.walk.next</source>
+        <translation>Next step</translation>
+    </message>
+    <message id="help.iphone.walk.notifications.label">
+        <source>help.iphone.walk.notifications.label</source>
+        <translation>Tap Notifications.</translation>
+    </message>
+    <message id="help.iphone.walk.notifications.screen">
+        <source>help.iphone.walk.notifications.screen</source>
+        <translation>Notifications</translation>
+    </message>
+    <message id="help.iphone.walk.pause">
+        <source>help.iphone.walk.pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message id="help.iphone.walk.play">
+        <source>help.iphone.walk.play</source>
+        <translation>Play from the first step</translation>
+    </message>
+    <message id="help.iphone.walk.previous">
+        <source>help.iphone.walk.previous</source>
+        <translation>Previous step</translation>
+    </message>
+    <message id="help.iphone.walk.settings.label">
+        <source>help.iphone.walk.settings.label</source>
+        <translation>Open Settings on the iPhone.</translation>
+    </message>
+    <message id="help.iphone.walk.settings.screen">
+        <source>help.iphone.walk.settings.screen</source>
+        <translation>Settings</translation>
+    </message>
+    <message id="help.iphone.walk.showOnMac.label">
+        <source>help.iphone.walk.showOnMac.label</source>
+        <translation>Turn on Show on Mac.</translation>
+    </message>
+    <message id="help.iphone.walk.showOnMac.screen">
+        <source>help.iphone.walk.showOnMac.screen</source>
+        <translation>Show on Mac</translation>
+    </message>
+    <message id="help.lim.30entries.desc">
+        <source>help.lim.30entries.desc</source>
+        <translation>At start Tessarine takes all that the system’s database still has, back to 30 days at the first start. The system itself deletes early; often some 30 entries are left.</translation>
+    </message>
+    <message id="help.lim.30entries.title">
+        <source>help.lim.30entries.title</source>
+        <translation>The system keeps little</translation>
+    </message>
+    <message id="help.lim.30entries.workaround">
+        <source>help.lim.30entries.workaround</source>
+        <translation>Leave Tessarine running.</translation>
+    </message>
+    <message id="help.lim.appStore.desc">
+        <source>help.lim.appStore.desc</source>
+        <translation>Apps from the App Store may not watch others through Accessibility.</translation>
+    </message>
+    <message id="help.lim.appStore.title">
+        <source>help.lim.appStore.title</source>
+        <translation>Not in the App Store</translation>
+    </message>
+    <message id="help.lim.appStore.workaround">
+        <source>help.lim.appStore.workaround</source>
+        <translation>Get Tessarine and its updates from its makers.</translation>
+    </message>
+    <message id="help.lim.calendar.desc">
+        <source>help.lim.calendar.desc</source>
+        <translation>A reminder of a calendar stands at the time of its banner, not of the event. “Tomorrow at 9:30” stays in its text.</translation>
+    </message>
+    <message id="help.lim.calendar.title">
+        <source>help.lim.calendar.title</source>
+        <translation>Times of events</translation>
+    </message>
+    <message id="help.lim.calendar.workaround">
+        <source>help.lim.calendar.workaround</source>
+        <translation>Search for the day or the event in the text.</translation>
+    </message>
+    <message id="help.lim.exportPlain.desc">
+        <source>help.lim.exportPlain.desc</source>
+        <translation>No export has a password.</translation>
+    </message>
+    <message id="help.lim.exportPlain.title">
+        <source>help.lim.exportPlain.title</source>
+        <translation>Exports are plain files</translation>
+    </message>
+    <message id="help.lim.exportPlain.workaround">
+        <source>help.lim.exportPlain.workaround</source>
+        <translation>Keep exports on an encrypted disk, and delete those that you no longer need.</translation>
+    </message>
+    <message id="help.lim.focus.desc">
+        <source>help.lim.focus.desc</source>
+        <translation>While a Focus keeps banners back, the banner way sees nothing.</translation>
+    </message>
+    <message id="help.lim.focus.title">
+        <source>help.lim.focus.title</source>
+        <translation>Focus</translation>
+    </message>
+    <message id="help.lim.focus.workaround">
+        <source>help.lim.focus.workaround</source>
+        <translation>Grant Full Disk Access.</translation>
+    </message>
+    <message id="help.lim.iphoneOff.desc">
+        <source>help.lim.iphoneOff.desc</source>
+        <translation>An iPhone that is off or far away mirrors nothing.</translation>
+    </message>
+    <message id="help.lim.iphoneOff.title">
+        <source>help.lim.iphoneOff.title</source>
+        <translation>The iPhone must be on</translation>
+    </message>
+    <message id="help.lim.iphoneOff.workaround">
+        <source>help.lim.iphoneOff.workaround</source>
+        <translation>Keep it near the Mac, and charged.</translation>
+    </message>
+    <message id="help.lim.mirroringSetup.desc">
+        <source>help.lim.mirroringSetup.desc</source>
+        <translation>An app whose switch Show on Mac is off stays on the iPhone.</translation>
+    </message>
+    <message id="help.lim.mirroringSetup.title">
+        <source>help.lim.mirroringSetup.title</source>
+        <translation>Mirroring is set up app by app</translation>
+    </message>
+    <message id="help.lim.mirroringSetup.workaround">
+        <source>help.lim.mirroringSetup.workaround</source>
+        <translation>Turn the switch on in the iPhone’s settings.</translation>
+    </message>
+    <message id="help.lim.nativeMacApp.desc">
+        <source>help.lim.nativeMacApp.desc</source>
+        <translation>Notifications that only the iPhone shows are never captured.</translation>
+    </message>
+    <message id="help.lim.nativeMacApp.title">
+        <source>help.lim.nativeMacApp.title</source>
+        <translation>Only what reaches the Mac</translation>
+    </message>
+    <message id="help.lim.nativeMacApp.workaround">
+        <source>help.lim.nativeMacApp.workaround</source>
+        <translation>Use iPhone Mirroring, or the app’s version for the Mac.</translation>
+    </message>
+    <message id="help.lim.network.desc">
+        <source>help.lim.network.desc</source>
+        <translation>Without them nothing is mirrored, and Tessarine can’t know what is missing.</translation>
+    </message>
+    <message id="help.lim.network.title">
+        <source>help.lim.network.title</source>
+        <translation>Wi-Fi and Bluetooth</translation>
+    </message>
+    <message id="help.lim.network.workaround">
+        <source>help.lim.network.workaround</source>
+        <translation>Leave both on, on both devices.</translation>
+    </message>
+    <message id="help.lim.notRunning.desc">
+        <source>help.lim.notRunning.desc</source>
+        <translation>What comes while Tessarine is not running can be taken only from the system’s database, and only with Full Disk Access.</translation>
+    </message>
+    <message id="help.lim.notRunning.title">
+        <source>help.lim.notRunning.title</source>
+        <translation>Nothing is seen while it doesn’t run</translation>
+    </message>
+    <message id="help.lim.notRunning.workaround">
+        <source>help.lim.notRunning.workaround</source>
+        <translation>Launch Tessarine at login, and grant Full Disk Access.</translation>
+    </message>
+    <message id="help.lim.otpForever.desc">
+        <source>help.lim.otpForever.desc</source>
+        <translation>One-time codes are kept like all else, as long as you don’t choose otherwise. Even then they go only at a start.</translation>
+    </message>
+    <message id="help.lim.otpForever.title">
+        <source>help.lim.otpForever.title</source>
+        <translation>Codes stay</translation>
+    </message>
+    <message id="help.lim.otpForever.workaround">
+        <source>help.lim.otpForever.workaround</source>
+        <translation>Choose a time under Preferences › Privacy, and restart Tessarine now and then.</translation>
+    </message>
+    <message id="help.lim.plaintext.desc">
+        <source>help.lim.plaintext.desc</source>
+        <translation>Notifications are stored as they came, without encryption.</translation>
+    </message>
+    <message id="help.lim.plaintext.title">
+        <source>help.lim.plaintext.title</source>
+        <translation>The hoard is plain text</translation>
+    </message>
+    <message id="help.lim.plaintext.workaround">
+        <source>help.lim.plaintext.workaround</source>
+        <translation>Turn on FileVault.</translation>
+    </message>
+    <message id="help.lim.privacyGlobal.desc">
+        <source>help.lim.privacyGlobal.desc</source>
+        <translation>The switch for hidden content is for all apps.</translation>
+    </message>
+    <message id="help.lim.privacyGlobal.title">
+        <source>help.lim.privacyGlobal.title</source>
+        <translation>Hidden all or none</translation>
+    </message>
+    <message id="help.lim.privacyGlobal.workaround">
+        <source>help.lim.privacyGlobal.workaround</source>
+        <translation>Exclude an app whose notifications you don’t want to have kept at all.</translation>
+    </message>
+    <message id="help.lim.python.desc">
+        <source>help.lim.python.desc</source>
+        <translation>Tessarine can’t be driven by Python or other scripts.</translation>
+    </message>
+    <message id="help.lim.python.title">
+        <source>help.lim.python.title</source>
+        <translation>No commands for scripts</translation>
+    </message>
+    <message id="help.lim.python.workaround">
+        <source>help.lim.python.workaround</source>
+        <translation>Let scripts read an exported CSV file, or a backup, which is an SQLite database with the table notifications.</translation>
+    </message>
+    <message id="help.lim.sameAppleId.desc">
+        <source>help.lim.sameAppleId.desc</source>
+        <translation>Mac and iPhone of different accounts can’t be connected.</translation>
+    </message>
+    <message id="help.lim.sameAppleId.title">
+        <source>help.lim.sameAppleId.title</source>
+        <translation>One account</translation>
+    </message>
+    <message id="help.lim.sameAppleId.workaround">
+        <source>help.lim.sameAppleId.workaround</source>
+        <translation>Sign in to the same Apple Account on both.</translation>
+    </message>
+    <message id="help.lim.silent.desc">
+        <source>help.lim.silent.desc</source>
+        <translation>A notification without a banner is only in the system’s database.</translation>
+    </message>
+    <message id="help.lim.silent.title">
+        <source>help.lim.silent.title</source>
+        <translation>Silent notifications</translation>
+    </message>
+    <message id="help.lim.silent.workaround">
+        <source>help.lim.silent.workaround</source>
+        <translation>Grant Full Disk Access, or set the app’s alert style to Banners.</translation>
+    </message>
+    <message id="help.lim.tahoe.desc">
+        <source>help.lim.tahoe.desc</source>
+        <translation>Each macOS draws banners in its own way. If one draws them differently, texts may be missing or mixed up.</translation>
+    </message>
+    <message id="help.lim.tahoe.title">
+        <source>help.lim.tahoe.title</source>
+        <translation>macOS 26 and later</translation>
+    </message>
+    <message id="help.lim.tahoe.workaround">
+        <source>help.lim.tahoe.workaround</source>
+        <translation>Look into the diagnostics window after an update of the system.</translation>
+    </message>
+    <message id="help.lim.timestamps.desc">
+        <source>help.lim.timestamps.desc</source>
+        <translation>A banner shows an age such as “5m ago”, or nothing. Its time is worked out from that and may be a minute off. On a Mac that isn’t set to English it is the time at which the banner was seen.</translation>
+    </message>
+    <message id="help.lim.timestamps.title">
+        <source>help.lim.timestamps.title</source>
+        <translation>Times of banners</translation>
+    </message>
+    <message id="help.lim.timestamps.workaround">
+        <source>help.lim.timestamps.workaround</source>
+        <translation>With Full Disk Access there is a second row with the exact time.</translation>
+    </message>
+    <message id="help.lim.uiLimit.desc">
+        <source>help.lim.uiLimit.desc</source>
+        <translation>Search, filter and selection see only what is loaded. After each capture the list is the newest 500 again.</translation>
+    </message>
+    <message id="help.lim.uiLimit.title">
+        <source>help.lim.uiLimit.title</source>
+        <translation>The list begins with 500</translation>
+    </message>
+    <message id="help.lim.uiLimit.workaround">
+        <source>help.lim.uiLimit.workaround</source>
+        <translation>Press Load Older until the list reaches back far enough.</translation>
+    </message>
+    <message id="help.lim.usernoted.desc">
+        <source>help.lim.usernoted.desc</source>
+        <translation>A new version of macOS may change it. Then this way finds nothing until Tessarine knows the new form.</translation>
+    </message>
+    <message id="help.lim.usernoted.title">
+        <source>help.lim.usernoted.title</source>
+        <translation>The system’s database is not documented</translation>
+    </message>
+    <message id="help.lim.usernoted.workaround">
+        <source>help.lim.usernoted.workaround</source>
+        <translation>Banners are captured all the same.</translation>
+    </message>
+    <message id="help.lim.walBackup.desc">
+        <source>help.lim.walBackup.desc</source>
+        <translation>SQLite writes first into hoard.db-wal, beside the hoard. Whoever copies hoard.db alone, as Back Up in the preferences does, may miss what came last.</translation>
+    </message>
+    <message id="help.lim.walBackup.title">
+        <source>help.lim.walBackup.title</source>
+        <translation>A copied file may lack the newest rows</translation>
+    </message>
+    <message id="help.lim.walBackup.workaround">
+        <source>help.lim.walBackup.workaround</source>
+        <translation>Use Create Backup in the diagnostics window.</translation>
+    </message>
+    <message id="help.limitations.h.capture">
+        <source>help.limitations.h.capture</source>
+        <translation>Capture</translation>
+    </message>
+    <message id="help.limitations.h.hoard">
+        <source>help.limitations.h.hoard</source>
+        <translation>Hoard</translation>
+    </message>
+    <message id="help.limitations.h.iphone">
+        <source>help.limitations.h.iphone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message id="help.limitations.h.privacy">
+        <source>help.limitations.h.privacy</source>
+        <translation>Privacy</translation>
+    </message>
+    <message id="help.limitations.h.system">
+        <source>help.limitations.h.system</source>
+        <translation>System</translation>
+    </message>
+    <message id="help.limitations.p.disclaimer">
+        <source>help.limitations.p.disclaimer</source>
+        <translation>Tessarine reads what the system shows and keeps. It can’t promise to catch every notification.</translation>
+    </message>
+    <message id="help.limitations.p.eula">
+        <source>help.limitations.p.eula</source>
+        <translation>Don’t rely on it as the only record of something important. The agreement says more.</translation>
+    </message>
+    <message id="help.limitations.title">
+        <source>help.limitations.title</source>
+        <translation>Limitations</translation>
+    </message>
+    <message id="help.macos.h.accessibility">
+        <source>help.macos.h.accessibility</source>
+        <translation>Accessibility</translation>
+    </message>
+    <message id="help.macos.h.alertStyle">
+        <source>help.macos.h.alertStyle</source>
+        <translation>Alert style</translation>
+    </message>
+    <message id="help.macos.h.focus">
+        <source>help.macos.h.focus</source>
+        <translation>Focus</translation>
+    </message>
+    <message id="help.macos.h.timeMachine">
+        <source>help.macos.h.timeMachine</source>
+        <translation>Time Machine</translation>
+    </message>
+    <message id="help.macos.p.accessibility">
+        <source>help.macos.p.accessibility</source>
+        <translation>Tessarine needs this permission to read banners off the screen.</translation>
+    </message>
+    <message id="help.macos.p.accessibility2">
+        <source>help.macos.p.accessibility2</source>
+        <translation>Tessarine uses it to read notification banners and for nothing else. Once granted, it takes effect without a restart.</translation>
+    </message>
+    <message id="help.macos.p.alertReco">
+        <source>help.macos.p.alertReco</source>
+        <translation>Recommended: Banners or Alerts for every app that matters to you. They are captured even without Full Disk Access.</translation>
+    </message>
+    <message id="help.macos.p.alertStyle">
+        <source>help.macos.p.alertStyle</source>
+        <translation>System Settings › Notifications sets for each app how it announces. What this means for capture:</translation>
+    </message>
+    <message id="help.macos.p.focus">
+        <source>help.macos.p.focus</source>
+        <translation>While a Focus is on, macOS may show no banners. What it keeps back can then be found in the system’s database only, which needs Full Disk Access.</translation>
+    </message>
+    <message id="help.macos.p.timeMachine">
+        <source>help.macos.p.timeMachine</source>
+        <translation>The hoard is in your Library folder, so Time Machine copies it. A file that is in use may be copied in the middle of a change; a backup made with Tessarine is safer.</translation>
+    </message>
+    <message id="help.macos.title">
+        <source>help.macos.title</source>
+        <translation>macOS Settings</translation>
+    </message>
+    <message id="help.menuBar.h.badge">
+        <source>help.menuBar.h.badge</source>
+        <translation>The number beside the bell</translation>
+    </message>
+    <message id="help.menuBar.h.leftClick">
+        <source>help.menuBar.h.leftClick</source>
+        <translation>The menu</translation>
+    </message>
+    <message id="help.menuBar.h.optionClick">
+        <source>help.menuBar.h.optionClick</source>
+        <translation>Diagnostics</translation>
+    </message>
+    <message id="help.menuBar.p.badge">
+        <source>help.menuBar.p.badge</source>
+        <translation>It counts what came since you last opened the hoard, up to 99; above that it reads 99+. It counts the list of the newest 500, so with a full list it may stay behind.</translation>
+    </message>
+    <message id="help.menuBar.p.intro">
+        <source>help.menuBar.p.intro</source>
+        <translation>The bell in the menu bar is where Tessarine can always be found.</translation>
+    </message>
+    <message id="help.menuBar.p.optionClick">
+        <source>help.menuBar.p.optionClick</source>
+        <translation>Click the bell with Option held to open the diagnostics window.</translation>
+    </message>
+    <message id="help.menuBar.row.checkUpdates">
+        <source>help.menuBar.row.checkUpdates</source>
+        <translation>Check for Updates</translation>
+    </message>
+    <message id="help.menuBar.row.checkUpdates.action">
+        <source>help.menuBar.row.checkUpdates.action</source>
+        <translation>Looks for a newer version.</translation>
+    </message>
+    <message id="help.menuBar.row.help">
+        <source>help.menuBar.row.help</source>
+        <translation>Tessarine Help</translation>
+    </message>
+    <message id="help.menuBar.row.help.action">
+        <source>help.menuBar.row.help.action</source>
+        <translation>Opens a window like this one.</translation>
+    </message>
+    <message id="help.menuBar.row.launchAtLogin">
+        <source>help.menuBar.row.launchAtLogin</source>
+        <translation>Launch at Login</translation>
+    </message>
+    <message id="help.menuBar.row.launchAtLogin.action">
+        <source>help.menuBar.row.launchAtLogin.action</source>
+        <translation>Switches it on or off. A check mark shows that it is on.</translation>
+    </message>
+    <message id="help.menuBar.row.openHoard">
+        <source>help.menuBar.row.openHoard</source>
+        <translation>Open Hoard</translation>
+    </message>
+    <message id="help.menuBar.row.openHoard.action">
+        <source>help.menuBar.row.openHoard.action</source>
+        <translation>Shows the window with your notifications and clears the number.</translation>
+    </message>
+    <message id="help.menuBar.row.preferences">
+        <source>help.menuBar.row.preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="help.menuBar.row.preferences.action">
+        <source>help.menuBar.row.preferences.action</source>
+        <translation>Opens the settings.</translation>
+    </message>
+    <message id="help.menuBar.row.quit">
+        <source>help.menuBar.row.quit</source>
+        <translation>Quit Tessarine</translation>
+    </message>
+    <message id="help.menuBar.row.quit.action">
+        <source>help.menuBar.row.quit.action</source>
+        <translation>Ends the program, and with it the capture.</translation>
+    </message>
+    <message id="help.menuBar.row.welcomeGuide">
+        <source>help.menuBar.row.welcomeGuide</source>
+        <translation>Welcome Guide</translation>
+    </message>
+    <message id="help.menuBar.row.welcomeGuide.action">
+        <source>help.menuBar.row.welcomeGuide.action</source>
+        <translation>Shows the guide of the first start again.</translation>
+    </message>
+    <message id="help.menuBar.table.header.action">
+        <source>help.menuBar.table.header.action</source>
+        <translation>What it does</translation>
+    </message>
+    <message id="help.menuBar.table.header.item">
+        <source>help.menuBar.table.header.item</source>
+        <translation>Entry</translation>
+    </message>
+    <message id="help.menuBar.title">
+        <source>help.menuBar.title</source>
+        <translation>Menu Bar</translation>
+    </message>
+    <message id="help.page">
+        <source>help.page</source>
+        <translation>Page</translation>
+    </message>
+    <message id="help.prefs.excludeDelete.desc">
+        <source>help.prefs.excludeDelete.desc</source>
+        <translation>Also deletes what the hoard has under this app’s name.</translation>
+    </message>
+    <message id="help.prefs.excludeDelete.title">
+        <source>help.prefs.excludeDelete.title</source>
+        <translation>Exclude and Delete</translation>
+    </message>
+    <message id="help.prefs.excludeOnly.desc">
+        <source>help.prefs.excludeOnly.desc</source>
+        <translation>New notifications are not kept; what is in the hoard stays.</translation>
+    </message>
+    <message id="help.prefs.excludeOnly.title">
+        <source>help.prefs.excludeOnly.title</source>
+        <translation>Exclude Only</translation>
+    </message>
+    <message id="help.prefs.h.excludedApps">
+        <source>help.prefs.h.excludedApps</source>
+        <translation>Excluded apps</translation>
+    </message>
+    <message id="help.prefs.h.hoard">
+        <source>help.prefs.h.hoard</source>
+        <translation>The hoard’s file</translation>
+    </message>
+    <message id="help.prefs.h.privacy">
+        <source>help.prefs.h.privacy</source>
+        <translation>Privacy</translation>
+    </message>
+    <message id="help.prefs.h.retention">
+        <source>help.prefs.h.retention</source>
+        <translation>How long to keep notifications</translation>
+    </message>
+    <message id="help.prefs.h.startup">
+        <source>help.prefs.h.startup</source>
+        <translation>Startup</translation>
+    </message>
+    <message id="help.prefs.p.backup">
+        <source>help.prefs.p.backup</source>
+        <translation>Back Up copies the file to a place of your choice. The most recent notifications may be missing from the copy, and it is not encrypted. Create Backup in the diagnostics window first writes everything into the file.</translation>
+    </message>
+    <message id="help.prefs.p.excludedApps.intro">
+        <source>help.prefs.p.excludedApps.intro</source>
+        <translation>Notifications of an excluded app are not kept.</translation>
+    </message>
+    <message id="help.prefs.p.excludedApps.manage">
+        <source>help.prefs.p.excludedApps.manage</source>
+        <translation>General › Excluded apps › Manage lists every app that has a notification in the hoard. Turning one on asks what to do with what is there already:</translation>
+    </message>
+    <message id="help.prefs.p.excludedApps.note">
+        <source>help.prefs.p.excludedApps.note</source>
+        <translation>An app is known by its identifier. The banner way knows only the app’s name, so one app may be listed twice; exclude both.</translation>
+    </message>
+    <message id="help.prefs.p.hoard">
+        <source>help.prefs.p.hoard</source>
+        <translation>Storage shows how large the file is.</translation>
+    </message>
+    <message id="help.prefs.p.intro">
+        <source>help.prefs.p.intro</source>
+        <translation>Preferences are in the menu of the bell. A change is stored at once.</translation>
+    </message>
+    <message id="help.prefs.p.otp">
+        <source>help.prefs.p.otp</source>
+        <translation>Delete codes after 1, 4 or 24 hours deletes, at each start, notifications that may hold a one-time code.</translation>
+    </message>
+    <message id="help.prefs.p.privacyHide">
+        <source>help.prefs.p.privacyHide</source>
+        <translation>Hide content masks the titles and texts of all apps in the window and in exports. They are stored all the same.</translation>
+    </message>
+    <message id="help.prefs.p.retention">
+        <source>help.prefs.p.retention</source>
+        <translation>Storage › Keep notifications. What is too old is deleted the next time Tessarine starts, pinned notifications too.</translation>
+    </message>
+    <message id="help.prefs.p.startup">
+        <source>help.prefs.p.startup</source>
+        <translation>Launch at login starts Tessarine when you log in. It can keep only what comes while it runs, or what the system still has.</translation>
+    </message>
+    <message id="help.prefs.p.startup2">
+        <source>help.prefs.p.startup2</source>
+        <translation>Until that is switched on, Tessarine asks after its start whether to. “Don’t Ask Again” ends that.</translation>
+    </message>
+    <message id="help.prefs.p.startup3">
+        <source>help.prefs.p.startup3</source>
+        <translation>It starts without a window. You see nothing but its bell in the menu bar.</translation>
+    </message>
+    <message id="help.prefs.p.welcomeGuide">
+        <source>help.prefs.p.welcomeGuide</source>
+        <translation>The privacy notice and the welcome guide can be read again here.</translation>
+    </message>
+    <message id="help.prefs.title">
+        <source>help.prefs.title</source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="help.privacy.btn.reviewNotice">
+        <source>help.privacy.btn.reviewNotice</source>
+        <translation>Review Privacy Notice</translation>
+    </message>
+    <message id="help.privacy.h.displayFilter">
+        <source>help.privacy.h.displayFilter</source>
+        <translation>A mask, not a lock</translation>
+    </message>
+    <message id="help.privacy.h.doesNotDo">
+        <source>help.privacy.h.doesNotDo</source>
+        <translation>What it doesn’t do</translation>
+    </message>
+    <message id="help.privacy.h.exports">
+        <source>help.privacy.h.exports</source>
+        <translation>Exports</translation>
+    </message>
+    <message id="help.privacy.h.notice">
+        <source>help.privacy.h.notice</source>
+        <translation>Privacy notice</translation>
+    </message>
+    <message id="help.privacy.h.otp">
+        <source>help.privacy.h.otp</source>
+        <translation>One-time codes</translation>
+    </message>
+    <message id="help.privacy.h.protecting">
+        <source>help.privacy.h.protecting</source>
+        <translation>Protecting your hoard</translation>
+    </message>
+    <message id="help.privacy.lim.noEncrypt.desc">
+        <source>help.privacy.lim.noEncrypt.desc</source>
+        <translation>Whoever can read your user’s files can read the hoard, with or without Tessarine.</translation>
+    </message>
+    <message id="help.privacy.lim.noEncrypt.title">
+        <source>help.privacy.lim.noEncrypt.title</source>
+        <translation>The hoard is not encrypted</translation>
+    </message>
+    <message id="help.privacy.lim.noEncrypt.workaround">
+        <source>help.privacy.lim.noEncrypt.workaround</source>
+        <translation>Turn on FileVault, and lock the screen when you leave.</translation>
+    </message>
+    <message id="help.privacy.lim.noPerApp.desc">
+        <source>help.privacy.lim.noPerApp.desc</source>
+        <translation>The preferences hide all apps or none.</translation>
+    </message>
+    <message id="help.privacy.lim.noPerApp.title">
+        <source>help.privacy.lim.noPerApp.title</source>
+        <translation>No switch for single apps</translation>
+    </message>
+    <message id="help.privacy.lim.noPerApp.workaround">
+        <source>help.privacy.lim.noPerApp.workaround</source>
+        <translation>Put the bundle IDs of the apps into the list privacyApps of the defaults domain com.zorvek.Tessarine while Tessarine is not running.</translation>
+    </message>
+    <message id="help.privacy.p.displayFilter1">
+        <source>help.privacy.p.displayFilter1</source>
+        <translation>Hide content is for eyes that look over your shoulder. Rows show bars instead of words. A click reveals a row until the list changes; the preview, selection mode and the search see the real content.</translation>
+    </message>
+    <message id="help.privacy.p.displayFilter2">
+        <source>help.privacy.p.displayFilter2</source>
+        <translation>To hide the content of all apps:</translation>
+    </message>
+    <message id="help.privacy.p.exports">
+        <source>help.privacy.p.exports</source>
+        <translation>What is hidden is hidden in exports too, unless you include it for that export.</translation>
+    </message>
+    <message id="help.privacy.p.exports2">
+        <source>help.privacy.p.exports2</source>
+        <translation>Exported files are not encrypted. Whoever gets one can read it.</translation>
+    </message>
+    <message id="help.privacy.p.notice">
+        <source>help.privacy.p.notice</source>
+        <translation>The notice that you saw at the first start says what is stored and what is not.</translation>
+    </message>
+    <message id="help.privacy.p.otp1">
+        <source>help.privacy.p.otp1</source>
+        <translation>Codes for logging in arrive as notifications, and the hoard would keep them. If you wish, Tessarine deletes them by itself.</translation>
+    </message>
+    <message id="help.privacy.p.otp2">
+        <source>help.privacy.p.otp2</source>
+        <translation>It deletes what may be a code: four digits in a row, or words that such messages use in English, Italian, German or French. That also takes notifications with a year or a price, and pinned ones.</translation>
+    </message>
+    <message id="help.privacy.p.otp3">
+        <source>help.privacy.p.otp3</source>
+        <translation>This happens once, when Tessarine starts. A code that comes later stays until the next start.</translation>
+    </message>
+    <message id="help.privacy.protect.exports.desc">
+        <source>help.privacy.protect.exports.desc</source>
+        <translation>An exported file stays until you delete it.</translation>
+    </message>
+    <message id="help.privacy.protect.exports.title">
+        <source>help.privacy.protect.exports.title</source>
+        <translation>Delete exports</translation>
+    </message>
+    <message id="help.privacy.protect.filevault.desc">
+        <source>help.privacy.protect.filevault.desc</source>
+        <translation>FileVault keeps the hoard unreadable while the Mac is off.</translation>
+    </message>
+    <message id="help.privacy.protect.filevault.title">
+        <source>help.privacy.protect.filevault.title</source>
+        <translation>Encrypt the disk</translation>
+    </message>
+    <message id="help.privacy.protect.noCloud.desc">
+        <source>help.privacy.protect.noCloud.desc</source>
+        <translation>Don’t put the hoard, its backups or exports where a service copies them.</translation>
+    </message>
+    <message id="help.privacy.protect.noCloud.title">
+        <source>help.privacy.protect.noCloud.title</source>
+        <translation>No cloud folder</translation>
+    </message>
+    <message id="help.privacy.protect.retention.desc">
+        <source>help.privacy.protect.retention.desc</source>
+        <translation>What is deleted after some time can’t be read by anybody later.</translation>
+    </message>
+    <message id="help.privacy.protect.retention.title">
+        <source>help.privacy.protect.retention.title</source>
+        <translation>Keep less</translation>
+    </message>
+    <message id="help.privacy.step.1">
+        <source>help.privacy.step.1</source>
+        <translation>Open Preferences from the menu of the bell.</translation>
+    </message>
+    <message id="help.privacy.step.2">
+        <source>help.privacy.step.2</source>
+        <translation>Choose Privacy.</translation>
+    </message>
+    <message id="help.privacy.step.3">
+        <source>help.privacy.step.3</source>
+        <translation>Turn on Hide content.</translation>
+    </message>
+    <message id="help.privacy.step.4">
+        <source>help.privacy.step.4</source>
+        <translation>Close the window. All rows are masked at once.</translation>
+    </message>
+    <message id="help.privacy.title">
+        <source>help.privacy.title</source>
+        <translation>Privacy</translation>
+    </message>
+    <message id="help.search.h.appFilter">
+        <source>help.search.h.appFilter</source>
+        <translation>App</translation>
+    </message>
+    <message id="help.search.h.groupModes">
+        <source>help.search.h.groupModes</source>
+        <translation>Groups</translation>
+    </message>
+    <message id="help.search.h.resultCount">
+        <source>help.search.h.resultCount</source>
+        <translation>The number at the side</translation>
+    </message>
+    <message id="help.search.h.searchBar">
+        <source>help.search.h.searchBar</source>
+        <translation>Search</translation>
+    </message>
+    <message id="help.search.h.sortModes">
+        <source>help.search.h.sortModes</source>
+        <translation>Order</translation>
+    </message>
+    <message id="help.search.p.appFilter">
+        <source>help.search.p.appFilter</source>
+        <translation>The App menu limits the list to one app. It offers every app that has a loaded notification. Search and filter work together.</translation>
+    </message>
+    <message id="help.search.p.groupCollapse">
+        <source>help.search.p.groupCollapse</source>
+        <translation>Click the arrow of a group to close or open it. Another grouping opens all groups again.</translation>
+    </message>
+    <message id="help.search.p.resultCount">
+        <source>help.search.p.resultCount</source>
+        <translation>It counts the notifications that the list shows. If the hoard holds more than is loaded, it reads “shown of all”.</translation>
+    </message>
+    <message id="help.search.p.searchBar">
+        <source>help.search.p.searchBar</source>
+        <translation>Type any part of a title, a text or an app’s name. Upper and lower case are the same; accents count. The search goes through the loaded notifications, first the newest 500. Load Older at the end of the list adds 500 more. Hidden content is searched too.</translation>
+    </message>
+    <message id="help.search.title">
+        <source>help.search.title</source>
+        <translation>Search &amp; Filter</translation>
+    </message>
+    <message id="help.sections">
+        <source>help.sections</source>
+        <translation>Sections</translation>
+    </message>
+    <message id="help.selectDelete.h.datePresets">
+        <source>help.selectDelete.h.datePresets</source>
+        <translation>Ranges of dates</translation>
+    </message>
+    <message id="help.selectDelete.h.deleting">
+        <source>help.selectDelete.h.deleting</source>
+        <translation>Deleting</translation>
+    </message>
+    <message id="help.selectDelete.h.entering">
+        <source>help.selectDelete.h.entering</source>
+        <translation>Selection mode</translation>
+    </message>
+    <message id="help.selectDelete.h.selecting">
+        <source>help.selectDelete.h.selecting</source>
+        <translation>Ways to select</translation>
+    </message>
+    <message id="help.selectDelete.p.deleting">
+        <source>help.selectDelete.p.deleting</source>
+        <translation>Delete Selected asks before it deletes, and so does Delete All. Delete All empties the whole hoard, pinned notifications and those that are not loaded too. If a new notification arrives while you select, the selection is lost and nothing is deleted.</translation>
+    </message>
+    <message id="help.selectDelete.p.entering">
+        <source>help.selectDelete.p.entering</source>
+        <translation>Click the trash button above the list. Each row then shows a circle, and hidden content is shown until you leave with Cancel.</translation>
+    </message>
+    <message id="help.selectDelete.row.byApp.desc">
+        <source>help.selectDelete.row.byApp.desc</source>
+        <translation>Adds all shown notifications of an app.</translation>
+    </message>
+    <message id="help.selectDelete.row.byApp.title">
+        <source>help.selectDelete.row.byApp.title</source>
+        <translation>App</translation>
+    </message>
+    <message id="help.selectDelete.row.byDate.desc">
+        <source>help.selectDelete.row.byDate.desc</source>
+        <translation>Adds all shown notifications of a range of dates. Several choices add up.</translation>
+    </message>
+    <message id="help.selectDelete.row.byDate.title">
+        <source>help.selectDelete.row.byDate.title</source>
+        <translation>Date</translation>
+    </message>
+    <message id="help.selectDelete.row.selectAll.desc">
+        <source>help.selectDelete.row.selectAll.desc</source>
+        <translation>Selects everything that the list shows. Pressed again, it selects nothing.</translation>
+    </message>
+    <message id="help.selectDelete.row.selectAll.title">
+        <source>help.selectDelete.row.selectAll.title</source>
+        <translation>Select All</translation>
+    </message>
+    <message id="help.selectDelete.row.tap.desc">
+        <source>help.selectDelete.row.tap.desc</source>
+        <translation>Selects it, or takes it out again.</translation>
+    </message>
+    <message id="help.selectDelete.row.tap.title">
+        <source>help.selectDelete.row.tap.title</source>
+        <translation>Click a row</translation>
+    </message>
+    <message id="help.selectDelete.title">
+        <source>help.selectDelete.title</source>
+        <translation>Select &amp; Delete</translation>
+    </message>
+    <message id="help.selectDelete.warning">
+        <source>help.selectDelete.warning</source>
+        <translation>Deleted notifications can’t be brought back.</translation>
+    </message>
+    <message id="help.tips.backup.desc">
+        <source>help.tips.backup.desc</source>
+        <translation>Create Backup in the diagnostics window writes a complete copy of the hoard.</translation>
+    </message>
+    <message id="help.tips.backup.title">
+        <source>help.tips.backup.title</source>
+        <translation>Make a backup</translation>
+    </message>
+    <message id="help.tips.byDate.desc">
+        <source>help.tips.byDate.desc</source>
+        <translation>In selection mode, Date selects the last month with two clicks.</translation>
+    </message>
+    <message id="help.tips.byDate.title">
+        <source>help.tips.byDate.title</source>
+        <translation>Tidy up by date</translation>
+    </message>
+    <message id="help.tips.csv.desc">
+        <source>help.tips.csv.desc</source>
+        <translation>Any program that reads tables can count and sort what you export.</translation>
+    </message>
+    <message id="help.tips.csv.title">
+        <source>help.tips.csv.title</source>
+        <translation>Look further with CSV</translation>
+    </message>
+    <message id="help.tips.diagnostics.desc">
+        <source>help.tips.diagnostics.desc</source>
+        <translation>The diagnostics window shows what is captured at the moment, and what stands in the way.</translation>
+    </message>
+    <message id="help.tips.diagnostics.title">
+        <source>help.tips.diagnostics.title</source>
+        <translation>When something is missing</translation>
+    </message>
+    <message id="help.tips.launchAtLogin.desc">
+        <source>help.tips.launchAtLogin.desc</source>
+        <translation>The surest way to miss little: Tessarine is there before the first notification.</translation>
+    </message>
+    <message id="help.tips.launchAtLogin.title">
+        <source>help.tips.launchAtLogin.title</source>
+        <translation>Launch at login</translation>
+    </message>
+    <message id="help.tips.mirroring.desc">
+        <source>help.tips.mirroring.desc</source>
+        <translation>With iPhone Mirroring its notifications come into the hoard too.</translation>
+    </message>
+    <message id="help.tips.mirroring.title">
+        <source>help.tips.mirroring.title</source>
+        <translation>Bring the iPhone in</translation>
+    </message>
+    <message id="help.tips.notifStyles.desc">
+        <source>help.tips.notifStyles.desc</source>
+        <translation>A banner is captured at once, and with no further permission.</translation>
+    </message>
+    <message id="help.tips.notifStyles.title">
+        <source>help.tips.notifStyles.title</source>
+        <translation>Let apps show banners</translation>
+    </message>
+    <message id="help.tips.retention.desc">
+        <source>help.tips.retention.desc</source>
+        <translation>Notifications are small. Short periods delete what you may look for later.</translation>
+    </message>
+    <message id="help.tips.retention.title">
+        <source>help.tips.retention.title</source>
+        <translation>Keep for ever</translation>
+    </message>
+    <message id="help.tips.title">
+        <source>help.tips.title</source>
+        <translation>Tips</translation>
+    </message>
+    <message id="help.tips.xlsx.desc">
+        <source>help.tips.xlsx.desc</source>
+        <translation>Choose the semicolon as the separator and UTF-8 as the encoding if you are asked.</translation>
+    </message>
+    <message id="help.tips.xlsx.title">
+        <source>help.tips.xlsx.title</source>
+        <translation>CSV in a spreadsheet</translation>
+    </message>
     <message id="hoard.empty.noAccess">
         <source>hoard.empty.noAccess</source>
         <translation>Tessarine can’t see any: it has no access to the session bus, over which notifications come.</translation>
@@ -475,6 +1699,10 @@
     <message id="menu.fullDiskAccess">
         <source>menu.fullDiskAccess</source>
         <translation>Full Disk Access…</translation>
+    </message>
+    <message id="menu.help.title">
+        <source>menu.help.title</source>
+        <translation>Tessarine Help</translation>
     </message>
     <message id="menu.launchAtLogin">
         <source>menu.launchAtLogin</source>

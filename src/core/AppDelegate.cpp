@@ -1,9 +1,12 @@
 #include "core/AppDelegate.h"
 
 #include "diagnosticsview/DiagnosticsWindow.h"
+#include "help/HelpWindow.h"
+#include "onboarding/Agreement.h"
 #include "platform/DefaultsKeys.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -65,6 +68,7 @@ MenuBarController::Actions AppDelegate::menuActions() {
     actions.openHoard = [this] { showMainWindow(); };
     actions.openPreferences = afterConsent([this] { showPreferences(); });
     actions.openDiagnostics = afterConsent([this] { showDiagnostics(); });
+    actions.openHelp = [this] { showHelp(); };
     actions.openWelcomeGuide =
         afterConsent([this] { onboardingFlow_.showOnboarding(OnboardingFlow::Guide::later, 0); });
     actions.openFullDiskAccess =
@@ -163,6 +167,16 @@ std::unique_ptr<PreferencesWindow> AppDelegate::makePreferencesWindow() {
             {[this] { onboardingFlow_.showPrivacyNotice(); },
              [this] { onboardingFlow_.showOnboarding(OnboardingFlow::Guide::later, 0); }}},
         *views_.engine);
+}
+
+void AppDelegate::showHelp() {
+    ViewWindow& help = *makeHelpWindow(
+        {*views_.services.platform.scheduler, agreementText(QLocale().uiLanguages()),
+         alive_.guard([this] { onboardingFlow_.showPrivacyNotice(); })},
+        *views_.engine);
+    watch(help.window());
+    help.showAndMakeKey();
+    views_.desktop.application->activate(help.window());
 }
 
 void AppDelegate::activate() {

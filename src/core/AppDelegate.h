@@ -45,6 +45,9 @@ public:
     // the launch steps.
     void showPreferences();
 
+    // The manual, in a new window each time. A window that is closed goes.
+    void showHelp();
+
     // What another start of the program asks for: the windows that are open come to the front. One
     // that is hidden stays hidden.
     void activate();

@@ -56,11 +56,11 @@ Rectangle {
             visible: pages.page === OnboardingView.Page.welcome
         }
 
-        Loader {
+        AgreementPage {
+            objectName: "agreementPage"
             anchors.fill: parent
-            active: guide.view.isModal
+            view: guide.view
             visible: pages.page === OnboardingView.Page.agreement
-            sourceComponent: agreementPage
         }
 
         AccessibilityPage {
@@ -125,13 +125,4 @@ Rectangle {
 
     Keys.onReturnPressed: forwardButton.press()
     Keys.onEnterPressed: forwardButton.press()
-
-    Component {
-        id: agreementPage
-
-        AgreementPage {
-            objectName: "agreementPage"
-            view: guide.view
-        }
-    }
 }

@@ -81,6 +81,8 @@ void MenuBarController::fillMenu(QMenu& menu) const {
     menu.addSeparator();
     menu.addAction(qtTrId("menu.openHoard"), QKeySequence(Qt::CTRL | Qt::Key_O), this,
                    actions_.openHoard);
+    menu.addAction(qtTrId("menu.help.title"), QKeySequence(Qt::CTRL | Qt::Key_Question), this,
+                   actions_.openHelp);
     menu.addAction(qtTrId("menu.welcome.title"), this, actions_.openWelcomeGuide);
     menu.addAction(qtTrId("menu.preferences.title"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
                    actions_.openPreferences);

@@ -27,6 +27,7 @@ public:
     // What the entries of the menu do, and the click with Option.
     struct Actions {
         Action openHoard;
+        Action openHelp;
         Action openWelcomeGuide;
         Action openPreferences;
         Action openFullDiskAccess;

@@ -214,6 +214,36 @@ TEST_F(AppDelegateTest, SaysWhichVersionRunsAndHowNewOnesCome) {
     }
 }
 
+TEST_F(AppDelegateTest, OpensAWindowOfTheHelpAtEachRequest) {
+    launch();
+    delegate->showHelp();
+    delegate->showHelp();
+    const std::vector<ViewWindow*> windows = ViewWindow::allVisible();
+    ASSERT_EQ(windows.size(), 2U);
+    for (ViewWindow* help : windows) {
+        EXPECT_EQ(help->window().title(), u"Tessarine Help"_qs);
+        EXPECT_EQ(help->window().size(), QSize(760, 560));
+    }
+    EXPECT_EQ(desktop.application.activated.size(), 2U);
+    for (ViewWindow* help : windows)
+        help->window().close();
+    EXPECT_THAT(ViewWindow::allVisible(), IsEmpty());
+}
+
+TEST_F(AppDelegateTest, LetsAClosedWindowOfTheHelpGoAndGivesItsMemoryBack) {
+    services->preferences.setLaunchLoginPromptSuppressed(true);
+    launch();
+    delegate->showHelp();
+    const QPointer<ViewWindow> help = ViewWindow::allVisible().front();
+    help->window().close();
+    EXPECT_TRUE(testing::turnsUntil([&] {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return help.isNull();
+    }));
+    system.scheduler.advance(3);
+    EXPECT_EQ(desktop.application.memoryReturns, 1);
+}
+
 class UpdatePicturesTest : public AppDelegateTest,
                            public ::testing::WithParamInterface<const char*> {};
 

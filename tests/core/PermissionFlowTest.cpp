@@ -219,7 +219,7 @@ TEST_F(PermissionFlowTest, AScreenReaderCanNameWhatIsAsked) {
 }
 
 TEST_F(PermissionFlowTest, AskedAHundredTimesItLeavesNothing) {
-    const auto objects = [this] {
+    const auto objects = [] {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return QGuiApplication::allWindows().size();
     };

@@ -32,6 +32,7 @@ LAYER_OF_FOLDERS = {
     "src/browser": "views",
     "src/diagnosticsview": "views",
     "src/export": "views",
+    "src/help": "views",
     "src/settings": "views",
     "src/onboarding": "views",
     "src/shell": "views",

@@ -26,6 +26,7 @@ protected:
     void launch() {
         MenuBarController::Actions actions;
         actions.openHoard = [this] { ++opened_; };
+        actions.openHelp = [this] { ++helps_; };
         actions.openWelcomeGuide = [this] { ++guides_; };
         actions.openPreferences = [this] { ++preferences_; };
         actions.openFullDiskAccess = [this] { ++fdaPrompts_; };
@@ -46,6 +47,7 @@ protected:
     testing::SimulatedStatusItem item_;
     std::optional<MenuBarController> controller_;
     int opened_ = 0;
+    int helps_ = 0;
     int guides_ = 0;
     int fdaPrompts_ = 0;
     bool lacksFda_ = false;
@@ -184,9 +186,9 @@ TEST_F(MenuBarTest, TheMenuHasItsItemsInTheirOrder) {
     launch();
     const StatusMenu menu(item_);
     EXPECT_EQ(menu.texts(),
-              QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"Welcome Guide…"_qs,
-                           u"Preferences…"_qs, u"-"_qs, u"Launch at Login"_qs, u"-"_qs,
-                           u"Check for Updates…"_qs, u"-"_qs, u"Quit Tessarine"_qs}));
+              QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"Tessarine Help"_qs,
+                           u"Welcome Guide…"_qs, u"Preferences…"_qs, u"-"_qs, u"Launch at Login"_qs,
+                           u"-"_qs, u"Check for Updates…"_qs, u"-"_qs, u"Quit Tessarine"_qs}));
     EXPECT_FALSE(menu.entry(u"Tessarine"_qs)->isEnabled());
     EXPECT_EQ(menu.entry(u"Open Hoard"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
     EXPECT_EQ(menu.entry(u"Preferences…"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Comma));
@@ -217,6 +219,8 @@ TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
     const StatusMenu menu(item_);
     menu.entry(u"Open Hoard"_qs)->trigger();
     EXPECT_EQ(opened_, 1);
+    menu.entry(u"Tessarine Help"_qs)->trigger();
+    EXPECT_EQ(helps_, 1);
     menu.entry(u"Welcome Guide…"_qs)->trigger();
     EXPECT_EQ(guides_, 1);
     menu.entry(u"Preferences…"_qs)->trigger();

@@ -156,7 +156,8 @@ TEST_P(PaletteTest, SelectedTextCanBeRead) {
 
 TEST_P(PaletteTest, SymbolsRingsAndSwitchesCanBeSeen) {
     for (const QColor& background : backgrounds_)
-        for (const QColor& shape : {colours_.tertiaryLabel, colours_.accent, colours_.focusRing})
+        for (const QColor& shape : {colours_.tertiaryLabel, colours_.accent, colours_.focusRing,
+                                    colours_.blue, colours_.yellow})
             EXPECT_GE(contrast(shape, background), shape_) << shape.name().toStdString();
     EXPECT_GE(contrast(colours_.switchThumb, colours_.switchOff), shape_);
     EXPECT_GE(contrast(colours_.switchThumb, colours_.accentFill), shape_);
