@@ -37,14 +37,6 @@ ViewWindow::Description noticeDescription(PrivacyNoticeView& view) {
             WindowFeature::closable};
 }
 
-void dismiss(QPointer<ViewWindow>& window) {
-    if (!window)
-        return;
-    window->disconnect(); // its going is no user's wish
-    window->dismiss();
-    window.clear();
-}
-
 } // namespace
 
 OnboardingFlow::OnboardingFlow(ViewServices& views, Actions actions)
@@ -67,7 +59,7 @@ OnboardingView::Services OnboardingFlow::viewServices() {
 }
 
 void OnboardingFlow::showOnboarding(Guide guide, int startAtStep) {
-    dismiss(onboardingWindow_);
+    ViewWindow::dismiss(onboardingWindow_);
     auto* const view = new OnboardingView(guide == Guide::firstRun, startAtStep, viewServices(),
                                           [this, guide] { complete(guide); });
     onboardingWindow_ = new ViewWindow(guideDescription(*view), *views_.engine);
@@ -88,7 +80,7 @@ void OnboardingFlow::complete(Guide guide) {
         preferences.setHasSeenOnboarding(true);
         preferences.setHasSeenPrivacyNotice(true);
     }
-    dismiss(onboardingWindow_);
+    ViewWindow::dismiss(onboardingWindow_);
     if (guide == Guide::firstRun)
         actions_.finishStartup();
 }
@@ -106,8 +98,9 @@ void OnboardingFlow::windowWillClose() {
 }
 
 void OnboardingFlow::showPrivacyNotice() {
-    dismiss(privacyNoticeWindow_);
-    auto* const view = new PrivacyNoticeView(false, [this] { dismiss(privacyNoticeWindow_); });
+    ViewWindow::dismiss(privacyNoticeWindow_);
+    auto* const view =
+        new PrivacyNoticeView(false, [this] { ViewWindow::dismiss(privacyNoticeWindow_); });
     privacyNoticeWindow_ = new ViewWindow(noticeDescription(*view), *views_.engine);
     view->setParent(privacyNoticeWindow_);
     privacyNoticeWindow_->releaseWhenClosed();

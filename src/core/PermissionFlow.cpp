@@ -36,12 +36,6 @@ ViewWindow::Description fdaDescription(FullDiskAccessView& view) {
             smallestFda};
 }
 
-void dismiss(QPointer<ViewWindow>& window) {
-    if (window)
-        window->dismiss();
-    window.clear();
-}
-
 } // namespace
 
 PermissionFlow::PermissionFlow(ViewServices& views, const LaunchAgentManager& launchAgent,
@@ -94,15 +88,15 @@ void PermissionFlow::showLaunchAtLoginPrompt() {
     auto* const prompt = new LaunchAtLoginPromptView(
         [this] {
             launchAgent_.registerMainApp();
-            dismiss(launchPromptWindow_);
+            ViewWindow::dismiss(launchPromptWindow_);
         },
         [this] {
             launchAtLoginPromptDismissedThisSession_ = true;
-            dismiss(launchPromptWindow_);
+            ViewWindow::dismiss(launchPromptWindow_);
         },
         [this] {
             views_.services.preferences.setLaunchLoginPromptSuppressed(true);
-            dismiss(launchPromptWindow_);
+            ViewWindow::dismiss(launchPromptWindow_);
         });
     launchPromptWindow_ = new ViewWindow(promptDescription(*prompt), *views_.engine);
     prompt->setParent(launchPromptWindow_); // goes after the view that shows it
@@ -128,7 +122,7 @@ void PermissionFlow::scheduleFullDiskAccessPrompt() {
 }
 
 void PermissionFlow::showFullDiskAccessPrompt() {
-    dismiss(permissionWindow_);
+    ViewWindow::dismiss(permissionWindow_);
     Platform& platform = views_.services.platform;
     const auto later = [this](void (PermissionFlow::*action)()) {
         return [this, action] {
@@ -154,14 +148,14 @@ void PermissionFlow::showFullDiskAccessPromptAgain() {
 }
 
 void PermissionFlow::onFullDiskAccessEnabled() {
-    dismiss(permissionWindow_);
+    ViewWindow::dismiss(permissionWindow_);
     runPermissionChecks();
 }
 
 void PermissionFlow::onFullDiskAccessSkipped() {
     views_.services.platform.userDefaults->setBoolean(defaultsKeys::fdaSkipped, true);
     fdaPromptDismissedThisSession_ = true;
-    dismiss(permissionWindow_);
+    ViewWindow::dismiss(permissionWindow_);
     scheduleLaunchAtLoginPrompt();
 }
 

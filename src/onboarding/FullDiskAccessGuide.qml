@@ -100,6 +100,7 @@ Rectangle {
 
         InstructionsPicture {
             objectName: "fda_instructions"
+            visible: guide.view.showsPicture
             width: Math.min(520, parent.width)
         }
 

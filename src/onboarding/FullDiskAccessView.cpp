@@ -15,6 +15,10 @@ bool FullDiskAccessView::offersSettings() const {
     return services_.settings.offers(settingsPages::fullDiskAccess);
 }
 
+bool FullDiskAccessView::showsPicture() const {
+    return services_.settings.listsPrograms();
+}
+
 bool FullDiskAccessView::isGranted() const {
     return services_.fileSystem.grantsReading(services_.fdaPath);
 }

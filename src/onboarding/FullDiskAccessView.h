@@ -21,6 +21,7 @@ class FullDiskAccessView : public QObject {
     QML_UNCREATABLE("The window of the permission brings it")
     Q_PROPERTY(bool showNotActiveWarning READ showNotActiveWarning NOTIFY changed)
     Q_PROPERTY(bool offersSettings READ offersSettings CONSTANT)
+    Q_PROPERTY(bool showsPicture READ showsPicture CONSTANT)
 
 public:
     static constexpr double pollInterval = 1.0; // seconds
@@ -39,6 +40,7 @@ public:
 
     bool showNotActiveWarning() const { return showNotActiveWarning_; }
     bool offersSettings() const;
+    bool showsPicture() const; // of the system's list of programs, where there is one
 
     Q_INVOKABLE void appear();       // the view is on the screen
     Q_INVOKABLE void claimEnabled(); // the user says that it is done

@@ -25,6 +25,9 @@ public:
     // Whether the system has such a page.
     virtual bool offers(const QString& page) const = 0;
 
+    // Whether such a page is a list of programs, each with a switch.
+    virtual bool listsPrograms() const = 0;
+
     // Shows the page. Returns before it is there; false where there is none, or nothing could be
     // started.
     virtual bool open(const QString& page) = 0;

@@ -176,9 +176,13 @@ void ViewWindow::releaseWhenClosed() {
     isReleasedWhenClosed_ = true;
 }
 
-void ViewWindow::dismiss() {
-    window_->hide();
-    deleteLater();
+void ViewWindow::dismiss(QPointer<ViewWindow>& window) {
+    if (!window)
+        return;
+    window->disconnect();
+    window->window_->hide();
+    window->deleteLater();
+    window.clear();
 }
 
 void ViewWindow::showAndMakeKey() {

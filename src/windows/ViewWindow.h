@@ -3,6 +3,7 @@
 #include <QFlags>
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 #include <QSize>
 #include <QString>
 #include <QTimer>
@@ -60,9 +61,10 @@ public:
     // Destroys the window, with this object, once it is closed. For one that is made with new.
     void releaseWhenClosed();
 
-    // Hides the window and destroys it, with this object, a moment later: so what stands in it may
-    // ask for that. For one that is made with new.
-    void dismiss();
+    // Hides the window, tells nobody of it, and destroys it a moment later, so that what stands in
+    // it may ask for that. The pointer is null then; a null one is fine. For a window made with
+    // new.
+    static void dismiss(QPointer<ViewWindow>& window);
 
     // Shows the window in front of the program's others and asks for the keyboard.
     void showAndMakeKey();

@@ -119,6 +119,12 @@ TEST_F(FullDiskAccessViewTest, OpensTheSystemsPageWhereItHasOne) {
     EXPECT_FALSE(view.offersSettings());
 }
 
+TEST_F(FullDiskAccessViewTest, PicturesTheListOfProgramsWhereTheSystemHasOne) {
+    EXPECT_TRUE(open().showsPicture());
+    system_.systemSettings.hasLists = false;
+    EXPECT_FALSE(open().showsPicture());
+}
+
 TEST_F(FullDiskAccessViewTest, NothingTicksOnceItIsGone) {
     for (int phase = 0; phase < 200; ++phase) {
         open();

@@ -135,12 +135,14 @@ private:
 class SimulatedSystemSettings : public SystemSettings {
 public:
     bool offers(const QString& page) const override { return pages.contains(page); }
+    bool listsPrograms() const override { return hasLists; }
     bool open(const QString& page) override {
         opened << page;
         return canStart && pages.contains(page);
     }
 
     std::set<QString> pages{settingsPages::accessibility, settingsPages::fullDiskAccess};
+    bool hasLists = true;
     bool canStart = true;
     QStringList opened;
 };

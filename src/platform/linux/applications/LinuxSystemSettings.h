@@ -18,6 +18,7 @@ public:
     static QStringList currentDesktops();
 
     bool offers(const QString& page) const override;
+    bool listsPrograms() const override { return false; }
     bool open(const QString& page) override;
 
 private:
