@@ -4,10 +4,10 @@
 #include "platform/ApplicationIcons.h"
 #include "platform/FileViewer.h"
 #include "platform/SavePanel.h"
+#include "platform/SoftwareUpdater.h"
 #include "platform/StatusItem.h"
 #include "platform/Symbols.h"
 #include "platform/SystemAppearance.h"
-#include "platform/Updater.h"
 
 #include <memory>
 
@@ -23,7 +23,7 @@ struct Desktop {
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<SavePanel> savePanel;
     std::unique_ptr<FileViewer> fileViewer;
-    std::unique_ptr<Updater> updater;
+    std::unique_ptr<SoftwareUpdater> updater;
 };
 
 // Makes the ports of the system that the program was built for. Needs a QApplication, and is called

@@ -107,7 +107,7 @@ void ExcludedAppsView::cancel() {
 }
 
 std::optional<DistinctApp> ExcludedAppsView::excludePending() {
-    const std::optional<DistinctApp> app = std::exchange(pendingExclude_, std::nullopt);
+    std::optional<DistinctApp> app = std::exchange(pendingExclude_, std::nullopt);
     if (app) {
         std::set<QString> excluded = preferences_.excludedBundleIds();
         excluded.insert(app->bundleId);

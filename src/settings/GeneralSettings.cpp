@@ -34,7 +34,7 @@ int GeneralSettings::appearanceIndex() const {
 }
 
 void GeneralSettings::chooseAppearance(int index) {
-    const QString mode = appearanceChoices.at(index);
+    const QString& mode = appearanceChoices.at(index);
     preferences_.setAppearanceMode(mode);
     scheduler_.onMain([apply = applyAppearance_, mode] { apply(mode); });
 }

@@ -110,7 +110,7 @@ public:
     int memoryReturns = 0;
 };
 
-class SimulatedUpdater : public Updater {
+class SimulatedSoftwareUpdater : public SoftwareUpdater {
 public:
     bool checkForUpdates() override {
         ++checks;
@@ -134,7 +134,7 @@ struct SimulatedDesktop {
     SimulatedStatusItem& statusItem;
     SimulatedSavePanel& savePanel;
     SimulatedFileViewer& fileViewer;
-    SimulatedUpdater& updater;
+    SimulatedSoftwareUpdater& updater;
 };
 
 inline SimulatedDesktop::SimulatedDesktop(std::unique_ptr<Symbols> symbols)
@@ -145,13 +145,13 @@ inline SimulatedDesktop::SimulatedDesktop(std::unique_ptr<Symbols> symbols)
               std::make_unique<SimulatedStatusItem>(),
               std::make_unique<SimulatedSavePanel>(),
               std::make_unique<SimulatedFileViewer>(),
-              std::make_unique<SimulatedUpdater>()}
+              std::make_unique<SimulatedSoftwareUpdater>()}
     , icons(static_cast<SimulatedApplicationIcons&>(*desktop.applicationIcons))
     , appearance(static_cast<SimulatedAppearance&>(*desktop.appearance))
     , application(static_cast<SimulatedApplicationControl&>(*desktop.application))
     , statusItem(static_cast<SimulatedStatusItem&>(*desktop.statusItem))
     , savePanel(static_cast<SimulatedSavePanel&>(*desktop.savePanel))
     , fileViewer(static_cast<SimulatedFileViewer&>(*desktop.fileViewer))
-    , updater(static_cast<SimulatedUpdater&>(*desktop.updater)) {}
+    , updater(static_cast<SimulatedSoftwareUpdater&>(*desktop.updater)) {}
 
 } // namespace tessarine::testing

@@ -50,7 +50,7 @@ QStringList LinuxSystemSettings::commandFor(const QString& page) const {
         for (const Page& known : pages()) {
             if (known.address != page || desktop != QLatin1String(known.desktop))
                 continue;
-            const QStringList command = QString::fromLatin1(known.command).split(u' ');
+            QStringList command = QString::fromLatin1(known.command).split(u' ');
             if (!QStandardPaths::findExecutable(command.front()).isEmpty())
                 return command;
         }

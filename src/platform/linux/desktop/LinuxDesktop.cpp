@@ -32,7 +32,7 @@ std::unique_ptr<Desktop> makeDesktop() {
         std::make_unique<LinuxStatusItem>(*desktop->symbols, *desktop->appearance);
     desktop->savePanel = std::make_unique<LinuxSavePanel>(*desktop->appearance);
     desktop->fileViewer = std::make_unique<LinuxFileViewer>(QDBusConnection::sessionBus());
-    desktop->updater = std::make_unique<LinuxUpdater>();
+    desktop->updater = std::make_unique<LinuxSoftwareUpdater>();
     return desktop;
 }
 

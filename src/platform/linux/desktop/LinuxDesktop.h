@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/ApplicationControl.h"
-#include "platform/Updater.h"
+#include "platform/SoftwareUpdater.h"
 
 namespace tessarine {
 
@@ -17,7 +17,7 @@ public:
 };
 
 // Here the package manager brings new versions.
-class LinuxUpdater : public Updater {
+class LinuxSoftwareUpdater : public SoftwareUpdater {
 public:
     bool checkForUpdates() override { return false; }
 };

@@ -16,9 +16,11 @@ using namespace Qt::StringLiterals;
 
 // Programs in a folder of the test's own, which is the only one that is searched.
 class LinuxSystemSettingsTest : public ::testing::Test {
+public:
+    ~LinuxSystemSettingsTest() override { qputenv("PATH", path_); }
+
 protected:
     LinuxSystemSettingsTest() { qputenv("PATH", QFile::encodeName(folder_.path())); }
-    ~LinuxSystemSettingsTest() override { qputenv("PATH", path_); }
 
     // One that writes its arguments into a file.
     void install(const QString& name) {
