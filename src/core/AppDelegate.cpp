@@ -128,8 +128,7 @@ void AppDelegate::showUpdateNotice() {
         updateNotice_->centre(QSizeF(root.implicitWidth(), root.implicitHeight()).toSize());
         watch(updateNotice_->window());
     }
-    updateNotice_->showAndMakeKey();
-    views_.desktop.application->activate(updateNotice_->window());
+    views_.bringToFront(*updateNotice_);
 }
 
 void AppDelegate::showDiagnostics() {
@@ -137,8 +136,7 @@ void AppDelegate::showDiagnostics() {
     ViewWindow& window = diagnosticsWindow(views_.diagnostics(), *views_.engine);
     if (isNew)
         watch(window.window());
-    window.showAndMakeKey();
-    views_.desktop.application->activate(window.window());
+    views_.bringToFront(window);
 }
 
 void AppDelegate::showPreferences() {
@@ -175,8 +173,7 @@ void AppDelegate::showHelp() {
          alive_.guard([this] { onboardingFlow_.showPrivacyNotice(); })},
         *views_.engine);
     watch(help.window());
-    help.showAndMakeKey();
-    views_.desktop.application->activate(help.window());
+    views_.bringToFront(help);
 }
 
 void AppDelegate::activate() {

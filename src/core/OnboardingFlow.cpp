@@ -70,7 +70,7 @@ void OnboardingFlow::showOnboarding(Guide guide, int startAtStep) {
     else
         onboardingWindow_->releaseWhenClosed();
     onboardingWindow_->centre(guideSize);
-    bringToFront(*onboardingWindow_);
+    views_.bringToFront(*onboardingWindow_);
 }
 
 void OnboardingFlow::complete(Guide guide) {
@@ -105,18 +105,13 @@ void OnboardingFlow::showPrivacyNotice() {
     view->setParent(privacyNoticeWindow_);
     privacyNoticeWindow_->releaseWhenClosed();
     privacyNoticeWindow_->centre(noticeSize);
-    bringToFront(*privacyNoticeWindow_);
+    views_.bringToFront(*privacyNoticeWindow_);
 }
 
 bool OnboardingFlow::raiseOnboarding() {
     if (onboardingWindow_)
-        bringToFront(*onboardingWindow_);
+        views_.bringToFront(*onboardingWindow_);
     return onboardingWindow_;
-}
-
-void OnboardingFlow::bringToFront(ViewWindow& window) {
-    window.showAndMakeKey();
-    views_.desktop.application->activate(window.window());
 }
 
 } // namespace tessarine

@@ -46,7 +46,6 @@ private:
     OnboardingView::Services viewServices();
     void complete(Guide guide);
     void windowWillClose();
-    void bringToFront(ViewWindow& window);
 
     ViewServices& views_;
     Actions actions_;

@@ -101,7 +101,7 @@ void PermissionFlow::showLaunchAtLoginPrompt() {
     launchPromptWindow_ = new ViewWindow(promptDescription(*prompt), *views_.engine);
     prompt->setParent(launchPromptWindow_); // goes after the view that shows it
     launchPromptWindow_->centre(promptSize);
-    bringToFront(*launchPromptWindow_);
+    views_.bringToFront(*launchPromptWindow_);
 }
 
 // Files
@@ -137,7 +137,7 @@ void PermissionFlow::showFullDiskAccessPrompt() {
     permissionWindow_ = new ViewWindow(fdaDescription(*view), *views_.engine);
     view->setParent(permissionWindow_);
     permissionWindow_->centre(fdaSize);
-    bringToFront(*permissionWindow_);
+    views_.bringToFront(*permissionWindow_);
     view->appear();
 }
 
@@ -157,11 +157,6 @@ void PermissionFlow::onFullDiskAccessSkipped() {
     fdaPromptDismissedThisSession_ = true;
     ViewWindow::dismiss(permissionWindow_);
     scheduleLaunchAtLoginPrompt();
-}
-
-void PermissionFlow::bringToFront(ViewWindow& window) {
-    window.showAndMakeKey();
-    views_.desktop.application->activate(window.window());
 }
 
 } // namespace tessarine

@@ -56,7 +56,6 @@ private:
     void scheduleFullDiskAccessPrompt();
     void onFullDiskAccessEnabled();
     void onFullDiskAccessSkipped();
-    void bringToFront(ViewWindow& window);
     QString fdaPath() const;
 
     ViewServices& views_;

@@ -4,6 +4,7 @@
 #include "windows/ViewEngine.h"
 
 #include <QQmlEngine>
+#include <QQuickView>
 
 namespace tessarine {
 
@@ -21,6 +22,11 @@ ViewServices::ViewServices(Services& services, Desktop& desktop, SetPasteboard s
 }
 
 ViewServices::~ViewServices() = default;
+
+void ViewServices::bringToFront(ViewWindow& window) const {
+    window.showAndMakeKey();
+    desktop.application->activate(window.window());
+}
 
 ContentView::Services ViewServices::browser() {
     return {services.listener,

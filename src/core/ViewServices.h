@@ -7,6 +7,7 @@
 #include "export/ExportManager.h"
 #include "platform/Desktop.h"
 #include "theme/Theme.h"
+#include "windows/ViewWindow.h"
 
 #include <QString>
 
@@ -26,6 +27,9 @@ struct ViewServices {
     ViewServices(const ViewServices&) = delete;
     ViewServices& operator=(const ViewServices&) = delete;
     ~ViewServices();
+
+    // Shows the window in front of all others, those of other programs too.
+    void bringToFront(ViewWindow& window) const;
 
     // What the browser works with.
     ContentView::Services browser();
