@@ -223,5 +223,10 @@ FocusScope {
         function onDerivationChanged() {
             root.showBeginning();
         }
+
+        // Rows that a frame makes leave marks that ask for one more frame.
+        function onListChanged() {
+            listView.forceLayout();
+        }
     }
 }
