@@ -1,5 +1,6 @@
 """Desktops that Debian ships, each started without a screen in a session of its own."""
 
+import json
 import os
 import pathlib
 import pwd
@@ -10,6 +11,7 @@ import time
 import dbus
 
 from session import Display, Session, wait_until
+from windows import Windows
 
 LIBRARIES = "/usr/lib/x86_64-linux-gnu"
 TRAY = "org.kde.StatusNotifierWatcher"
@@ -141,6 +143,15 @@ class Surroundings(Session):
         """The title of the window that has the keyboard, nothing where nobody tells."""
         return self.call("xdotool", "getactivewindow", "getwindowname").strip()
 
+    def owner_of(self, title):
+        """Who drew the window with this title, by the name that the desktop knows it by; nothing
+        while there is none. It gets the keyboard."""
+        for window in self.windows("--onlyvisible", "--name", f"^{title}"):
+            self.xdotool("windowactivate", window)
+            found = self.call("xprop", "-id", window, "WM_CLASS")
+            return found.split('"')[-2] if '"' in found else ""
+        return ""
+
     def front_window(self):
         """Another program's window, which takes the keyboard."""
         other = self.run("xmessage", "-geometry", "1200x650+20+20", "In front")
@@ -232,6 +243,11 @@ class Wayland(Surroundings):
     def active_window(self):
         return ""
 
+    def owner_of(self, title):
+        """The compositor gives it the keyboard, and a screen reader tells whose it is."""
+        return next((element.application for element in Windows(self).elements()
+                     if element.name.startswith(title) and element.application != "Tessarine"), "")
+
     def front_window(self):
         return None
 
@@ -274,14 +290,23 @@ class Sway(Wayland):
         self.environment["SWAYSOCK"] = str(next(self.runtime.glob("sway-ipc*.sock")))
         self.run(*self.daemon)
 
+    def nodes(self):
+        def below(node):
+            yield node
+            for child in [*node.get("nodes", []), *node.get("floating_nodes", [])]:
+                yield from below(child)
+
+        return below(json.loads(self.call("swaymsg", "-t", "get_tree") or "{}"))
+
     def active_window(self):
-        return self.call("sh", "-c", "swaymsg -t get_tree | python3 -c '"
-                         "import json, sys\n"
-                         "def find(node):\n"
-                         "    if node.get(\"focused\"): print(node.get(\"name\"))\n"
-                         "    for kind in (\"nodes\", \"floating_nodes\"):\n"
-                         "        for child in node.get(kind, []): find(child)\n"
-                         "find(json.load(sys.stdin))'").strip()
+        return next((node["name"] for node in self.nodes() if node.get("focused")), "")
+
+    def owner_of(self, title):
+        for node in self.nodes():
+            if (node.get("name") or "").startswith(title):
+                self.call("swaymsg", f"[con_id={node['id']}] focus")
+                return node.get("app_id") or "nameless"
+        return ""
 
 
 class SwayMako(Sway):
@@ -365,6 +390,13 @@ class Gnome(Wayland):
                       ".get_text(St.ClipboardType.CLIPBOARD, (c, text) => global.pasted = text)")
         time.sleep(0.5)
         return self.evaluate("global.pasted").strip('"').replace("\\n", "\n")
+
+    def owner_of(self, title):
+        return self.evaluate(
+            "const found = global.get_window_actors().map(actor => actor.meta_window)"
+            f".find(window => window.get_title()?.startsWith('{title}'));"
+            " found?.activate(global.get_current_time());"
+            " found ? found.get_wm_class() || 'nameless' : ''").strip('"')
 
     def active_window(self):
         return self.evaluate("global.display.focus_window?.get_title() ?? ''").strip('"')

@@ -26,6 +26,7 @@ from surroundings import DESKTOPS, become_user_for  # noqa: E402
 from windows import Windows  # noqa: E402
 
 MENU = ["Open Hoard", "Launch at Login", "Preferences…", "Quit Tessarine"]
+DIALOG = "Export CSV"
 LATE = "after the daemon died"
 
 
@@ -101,13 +102,12 @@ class Trial:
     def dialog(self):
         self.windows.press_button("Export notifications")
         self.windows.press_button("Export as ")
-        who = self.windows.wait_for_dialog()
+        owner = wait_until(lambda: self.surroundings.owner_of(DIALOG), "a dialog", 30)
         time.sleep(1)
         self.surroundings.picture("dialog")
         self.surroundings.press("Escape")
-        self.windows.wait_for_no_dialog()
-        self.surroundings.press("Escape")
-        return who
+        wait_until(lambda: not self.surroundings.owner_of(DIALOG), "no dialog", 30)
+        return owner
 
     def front(self):
         other = self.surroundings.front_window()

@@ -83,15 +83,3 @@ class Windows:
 
     def first_row(self):
         return wait_until(lambda: self.ours("list item"), "a row", 20)[0]
-
-    def dialogs(self):
-        """Those that ask for a file, whoever's they are."""
-        return [element for element in self.elements()
-                if element.role in ("file chooser", "dialog", "frame")
-                and element.name in ("Export PDF", "Export CSV", "Export Text")]
-
-    def wait_for_dialog(self):
-        return wait_until(self.dialogs, "a dialog", 30)[0].application
-
-    def wait_for_no_dialog(self):
-        wait_until(lambda: not self.dialogs(), "no dialog", 30)

@@ -30,7 +30,8 @@ std::unique_ptr<Desktop> makeDesktop() {
     desktop->application = std::make_unique<LinuxApplicationControl>();
     desktop->statusItem =
         std::make_unique<LinuxStatusItem>(*desktop->symbols, *desktop->appearance);
-    desktop->savePanel = std::make_unique<LinuxSavePanel>(*desktop->appearance);
+    desktop->savePanel =
+        std::make_unique<LinuxSavePanel>(*desktop->appearance, QDBusConnection::sessionBus());
     desktop->fileViewer = std::make_unique<LinuxFileViewer>(QDBusConnection::sessionBus());
     desktop->updater = std::make_unique<LinuxSoftwareUpdater>();
     return desktop;

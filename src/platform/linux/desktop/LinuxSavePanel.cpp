@@ -1,6 +1,7 @@
 #include "platform/linux/desktop/LinuxSavePanel.h"
 
 #include "platform/SystemAppearance.h"
+#include "platform/linux/desktop/PortalSaveDialog.h"
 #include "platform/linux/desktop/WidgetPalette.h"
 
 #include <QDir>
@@ -38,14 +39,47 @@ void standBefore(QWindow* window, QFileDialog& dialog) {
 
 } // namespace
 
-LinuxSavePanel::LinuxSavePanel(const SystemAppearance& appearance)
-    : appearance_(appearance) {}
+LinuxSavePanel::LinuxSavePanel(const SystemAppearance& appearance, const QDBusConnection& bus)
+    : appearance_(appearance)
+    , bus_(bus) {}
 
 std::optional<QString> LinuxSavePanel::runModal(const Request& request) {
     if (folder_.isEmpty() || !QDir(folder_).exists())
         folder_ = firstFolder();
+    const std::optional<QString> path = askBySystem(request);
+    if (path)
+        folder_ = QFileInfo(*path).absolutePath();
+    return path;
+}
+
+// A name that gets its extension here may be a file's that the portal has not asked about: the user
+// sees it in a further dialog.
+std::optional<QString> LinuxSavePanel::askBySystem(const Request& request) {
+    PortalSaveDialog dialog(bus_, request);
+    switch (dialog.run(QGuiApplication::focusWindow(), folder_)) {
+    case PortalSaveDialog::Outcome::Unavailable:
+        return askByQt(request);
+    case PortalSaveDialog::Outcome::Cancelled:
+        return std::nullopt;
+    case PortalSaveDialog::Outcome::Chosen:
+        break;
+    }
+    const QFileInfo chosen(dialog.path());
+    if (request.extension.isEmpty() || !chosen.suffix().isEmpty())
+        return dialog.path();
+    const QString extended = dialog.path() + QLatin1Char('.') + request.extension;
+    if (!QFileInfo::exists(extended))
+        return extended;
+    folder_ = chosen.absolutePath();
+    Request again = request;
+    again.name = QFileInfo(extended).fileName();
+    return askBySystem(again);
+}
+
+std::optional<QString> LinuxSavePanel::askByQt(const Request& request) const {
     FileIcons icons;
     QFileDialog dialog(nullptr, request.title);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setIconProvider(&icons);
     dialog.setDirectory(folder_);
     dialog.setPalette(widgetPalette(appearance_.prefersDark()));
@@ -58,10 +92,7 @@ std::optional<QString> LinuxSavePanel::runModal(const Request& request) {
         standBefore(window, dialog);
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
     const QString path = dialog.selectedFiles().value(0);
-    if (!isAccepted || path.isEmpty())
-        return std::nullopt;
-    folder_ = QFileInfo(path).absolutePath();
-    return path;
+    return isAccepted && !path.isEmpty() ? std::optional(path) : std::nullopt;
 }
 
 } // namespace tessarine

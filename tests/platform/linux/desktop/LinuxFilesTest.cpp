@@ -122,7 +122,7 @@ protected:
 
     QTemporaryDir folder_;
     testing::SimulatedAppearance appearance_;
-    LinuxSavePanel panel_{appearance_};
+    LinuxSavePanel panel_{appearance_, QDBusConnection(QStringLiteral("no bus"))};
     SavePanel::Request request_{u"Tessarine_2026-03-03.csv"_qs, u"Export CSV"_qs, u"Export"_qs};
 };
 
