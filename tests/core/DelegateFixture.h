@@ -24,9 +24,9 @@ namespace tessarine::testing {
 class DelegateFixture : public ::testing::Test {
 public:
     ~DelegateFixture() override {
-        delegate.reset();
         for (ViewWindow* open : ViewWindow::allVisible())
             open->window().close();
+        delegate.reset();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
