@@ -405,7 +405,7 @@
     </message>
     <message id="onboarding.ax.openSettings.hint">
         <source>onboarding.ax.openSettings.hint</source>
-        <translation>Cette page remarque d’elle-même que le bus laisse Tessarine écouter.</translation>
+        <translation>Cette page s’aperçoit d’elle-même que le bus laisse Tessarine écouter.</translation>
     </message>
     <message id="onboarding.ax.subtitle">
         <source>onboarding.ax.subtitle</source>
@@ -433,7 +433,7 @@
     </message>
     <message id="perm.fda.enabled">
         <source>perm.fda.enabled</source>
-        <translation>C’est autorisé</translation>
+        <translation>Je l’ai autorisé</translation>
     </message>
     <message id="perm.fda.howto.header">
         <source>perm.fda.howto.header</source>

@@ -84,7 +84,7 @@
     </message>
     <message id="datePopover.footer">
         <source>datePopover.footer</source>
-        <translation>Mehreres zählt zusammen: Jede Wahl fügt ihre Benachrichtigungen der Auswahl hinzu.</translation>
+        <translation>Du kannst mehreres wählen: Jede Wahl fügt ihre Benachrichtigungen der Auswahl hinzu.</translation>
     </message>
     <message id="datePopover.noData">
         <source>datePopover.noData</source>
@@ -1518,7 +1518,7 @@
     </message>
     <message id="help.selectDelete.row.byDate.desc">
         <source>help.selectDelete.row.byDate.desc</source>
-        <translation>Fügt alle gezeigten Benachrichtigungen eines Zeitraums hinzu. Mehreres zählt zusammen.</translation>
+        <translation>Fügt alle gezeigten Benachrichtigungen eines Zeitraums hinzu. Du kannst mehrere Zeiträume wählen.</translation>
     </message>
     <message id="help.selectDelete.row.byDate.title">
         <source>help.selectDelete.row.byDate.title</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message id="onboarding.btn.continueWithout">
         <source>onboarding.btn.continueWithout</source>
-        <translation>Ohne weiter</translation>
+        <translation>Ohne Zugang fortfahren</translation>
     </message>
     <message id="onboarding.btn.done">
         <source>onboarding.btn.done</source>
@@ -1821,7 +1821,7 @@
     </message>
     <message id="onboarding.feature1.text">
         <source>onboarding.feature1.text</source>
-        <translation>Tessarine bewahrt jede Benachrichtigung auf, wenn sie kommt, auch solche, die du nie gesehen hast.</translation>
+        <translation>Tessarine bewahrt jede Benachrichtigung auf, sobald sie kommt, auch solche, die du nie gesehen hast.</translation>
     </message>
     <message id="onboarding.feature1.title">
         <source>onboarding.feature1.title</source>
@@ -2548,7 +2548,7 @@
     </message>
     <message id="updates.packageManager">
         <source>updates.packageManager</source>
-        <translation>Neue Versionen kommen mit den Aktualisierungen deines Systems, durch die Paketverwaltung, die Tessarine installiert hat. Das Programm selbst fragt nie das Netz.</translation>
+        <translation>Neue Versionen kommen mit den Aktualisierungen deines Systems, durch die Paketverwaltung, die Tessarine installiert hat. Das Programm selbst greift nie auf das Netz zu.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

@@ -1666,7 +1666,7 @@
     </message>
     <message id="launchAtLogin.btn.enable">
         <source>launchAtLogin.btn.enable</source>
-        <translation>Ouvrir à la session</translation>
+        <translation>Ouvrir avec la session</translation>
     </message>
     <message id="launchAtLogin.btn.notNow">
         <source>launchAtLogin.btn.notNow</source>
@@ -1674,7 +1674,7 @@
     </message>
     <message id="launchAtLogin.info.changeLater">
         <source>launchAtLogin.info.changeLater</source>
-        <translation>Vous pouvez le changer à tout moment dans le menu de la cloche.</translation>
+        <translation>Vous pouvez changer cela à tout moment dans le menu de la cloche.</translation>
     </message>
     <message id="launchAtLogin.info.missedNotifs">
         <source>launchAtLogin.info.missedNotifs</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message id="onboarding.ax.openSettings.hint">
         <source>onboarding.ax.openSettings.hint</source>
-        <translation>Cette page remarque d’elle-même que l’autorisation est là.</translation>
+        <translation>Cette page s’aperçoit d’elle-même que l’autorisation est là.</translation>
     </message>
     <message id="onboarding.ax.subtitle">
         <source>onboarding.ax.subtitle</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message id="onboarding.btn.continueWithout">
         <source>onboarding.btn.continueWithout</source>
-        <translation>Continuer sans</translation>
+        <translation>Continuer sans accès</translation>
     </message>
     <message id="onboarding.btn.done">
         <source>onboarding.btn.done</source>
@@ -2238,7 +2238,7 @@
     </message>
     <message id="prefs.storage.retention.foreverNote">
         <source>prefs.storage.retention.foreverNote</source>
-        <translation>Rien n’est jamais supprimé à cause de son âge.</translation>
+        <translation>Rien n’est jamais supprimé en raison de son ancienneté.</translation>
     </message>
     <message id="prefs.storage.retention.otherDays" numerus="yes">
         <source>prefs.storage.retention.otherDays</source>
@@ -2249,7 +2249,7 @@
     </message>
     <message id="prefs.storage.retention.shortWarning">
         <source>prefs.storage.retention.shortWarning</source>
-        <translation>Les notifications partent après peu de temps, même épinglées.</translation>
+        <translation>Les notifications disparaissent après peu de temps, même épinglées.</translation>
     </message>
     <message id="prefs.storage.section.hoard">
         <source>prefs.storage.section.hoard</source>
@@ -2548,7 +2548,7 @@
     </message>
     <message id="updates.packageManager">
         <source>updates.packageManager</source>
-        <translation>Les nouvelles versions arrivent avec les mises à jour de votre système, par le gestionnaire de paquets qui a installé Tessarine. Le programme lui-même n’interroge jamais le réseau.</translation>
+        <translation>Les nouvelles versions arrivent avec les mises à jour de votre système, par le gestionnaire de paquets qui a installé Tessarine. Le programme lui-même ne se connecte jamais au réseau.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

@@ -1793,7 +1793,7 @@
     </message>
     <message id="onboarding.btn.continueWithout">
         <source>onboarding.btn.continueWithout</source>
-        <translation>Continua senza</translation>
+        <translation>Continua senza accesso</translation>
     </message>
     <message id="onboarding.btn.done">
         <source>onboarding.btn.done</source>
@@ -2548,7 +2548,7 @@
     </message>
     <message id="updates.packageManager">
         <source>updates.packageManager</source>
-        <translation>Le nuove versioni arrivano con gli aggiornamenti del sistema, dal gestore di pacchetti che ha installato Tessarine. Il programma stesso non interroga mai la rete.</translation>
+        <translation>Le nuove versioni arrivano con gli aggiornamenti del sistema, dal gestore di pacchetti che ha installato Tessarine. Il programma stesso non si collega mai alla rete.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

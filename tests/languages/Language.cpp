@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QTranslator>
 
@@ -132,6 +133,7 @@ struct LanguageScope::State {
             madeUp = std::make_unique<MadeUpTranslator>(reversed);
         if (madeUp)
             QCoreApplication::installTranslator(madeUp.get());
+        QLocale::setDefault(QLocale(QLatin1StringView(kindOf(language).dates)));
         if (language == Language::mirrored)
             QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     }
@@ -139,6 +141,7 @@ struct LanguageScope::State {
     ~State() {
         if (madeUp)
             QCoreApplication::removeTranslator(madeUp.get());
+        QLocale::setDefault(localeBefore);
         QGuiApplication::setLayoutDirection(before);
         installTexts({u"en"_qs});
     }
@@ -147,6 +150,7 @@ struct LanguageScope::State {
 
     DateLocaleScope dates;
     std::unique_ptr<QTranslator> madeUp; // null: the language is one of the program's
+    const QLocale localeBefore;
     Qt::LayoutDirection before = QGuiApplication::layoutDirection();
 };
 

@@ -200,7 +200,7 @@ Scenes preferencesScenes() {
         {"storageMenu",
          [](WindowStage& stage) {
              stage.openTab(PrefTab::storage);
-             stage.click(u"keepFor"_qs);
+             stage.openMenuOf(u"keepFor"_qs);
          }},
         {"backupWarning",
          [](WindowStage& stage) {
@@ -222,7 +222,7 @@ Scenes preferencesScenes() {
         {"privacyMenu",
          [](WindowStage& stage) {
              openCodes<1>(stage);
-             stage.click(u"otpAutoDelete"_qs);
+             stage.openMenuOf(u"otpAutoDelete"_qs);
          }},
         {"permissions", [](WindowStage& stage) { stage.openTab(PrefTab::permissions); }},
         {"permissionsWithout",

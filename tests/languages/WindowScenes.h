@@ -42,6 +42,7 @@ public:
     }
 
     void click(const QString& name, Qt::MouseButton button = Qt::LeftButton);
+    void openMenuOf(const QString& name); // of a row of settings
     void clickFirstRow(Qt::MouseButton button);
     void scrollToTheEnd(const QString& name);
     void resize(int width, int height);

@@ -40,6 +40,10 @@ void WindowStage::click(const QString& name, Qt::MouseButton button) {
     clickOn(item(name), button);
 }
 
+void WindowStage::openMenuOf(const QString& name) {
+    QMetaObject::invokeMethod(&item(name), "open");
+}
+
 void WindowStage::clickFirstRow(Qt::MouseButton button) {
     QQuickItem* row = nullptr;
     QMetaObject::invokeMethod(&item(u"list"_qs), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, row),
