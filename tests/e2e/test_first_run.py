@@ -166,7 +166,9 @@ class WayThrough(FirstRunTestCase):
         self.window.shows("heading", self.texts["onboarding.welcome.title"])
         self.go_on("onboarding.btn.continue")
         self.window.shows("heading", self.texts["onboarding.eula.title"])
-        self.read_and_tick("onboarding.eula.agree")
+        self.read()
+        self.window.hides("label", self.texts["onboarding.eula.scrollHint"])
+        self.tick("onboarding.eula.agree")
         self.assertFalse(self.accepted())
         self.go_on("onboarding.btn.agreeAndContinue")
         wait_until(self.accepted, "the consent")
@@ -190,14 +192,13 @@ class ByMouse(WayThrough):
     def go_on(self, text):
         self.window.click("push button", self.texts[text])
 
-    def read_and_tick(self, text):
-        box = ("check box", self.texts[text])
-        self.window.xdotool("mousemove", "--window", self.guide(), "290", "300")
-        wait_until(lambda: self.wheel_down() or self.window.reads("place", *box), "the end")
-        self.window.click(*box)
+    def read(self):
+        self.window.shows("label", self.texts["onboarding.eula.scrollHint"])
+        self.window.xdotool("mousemove", "--window", self.guide(), "290", "300",
+                            "click", "--repeat", "100", "--delay", "5", "5")
 
-    def wheel_down(self):
-        self.window.xdotool("click", "--repeat", "60", "--delay", "5", "5")
+    def tick(self, text):
+        self.window.click("check box", self.texts[text])
 
 
 class ByKeyboard(WayThrough):
@@ -210,8 +211,11 @@ class ByKeyboard(WayThrough):
     def go_on(self, text):
         self.press("Return")
 
-    def read_and_tick(self, text):
-        self.press("Tab", "End", "Tab", "space", "Tab")
+    def read(self):
+        self.press("Tab", "End")
+
+    def tick(self, text):
+        self.press("Tab", "space", "Tab")
 
 
 class ByScreenReader(WayThrough):
@@ -224,8 +228,10 @@ class ByScreenReader(WayThrough):
     def go_on(self, text):
         self.window.act("push button", self.texts[text])
 
-    def read_and_tick(self, text):
+    def read(self):
         self.press("Tab", "End")  # through the text that is read out
+
+    def tick(self, text):
         self.window.act("check box", self.texts[text])
 
 
