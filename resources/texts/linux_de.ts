@@ -5,7 +5,7 @@
     <name></name>
     <message id="help.about.sparkle.credit">
         <source>help.about.sparkle.credit</source>
-        <translation>Auf macOS dankt Tessarine der freien Bibliothek Sparkle seine Updates. Diese Ausgabe für Linux enthält sie nicht.</translation>
+        <translation>Auf macOS verdankt Tessarine seine Updates der freien Bibliothek Sparkle. Diese Ausgabe für Linux enthält sie nicht.</translation>
     </message>
     <message id="help.diagnostics.p.intro">
         <source>help.diagnostics.p.intro</source>

@@ -454,7 +454,7 @@
     </message>
     <message id="help.diagnostics.p.liveLog">
         <source>help.diagnostics.p.liveLog</source>
-        <translation>Jede Zeile hat eine Zeit, den Teil des Programms, der sie schrieb, ein Zeichen für ihr Gewicht und das, was geschah. Die neueste steht oben; die letzten 200 bleiben.</translation>
+        <translation>Jede Zeile hat eine Zeit, den Teil des Programms, der sie schrieb, ein Zeichen für ihre Wichtigkeit und das, was geschah. Die neueste steht oben; die letzten 200 bleiben.</translation>
     </message>
     <message id="help.diagnostics.title">
         <source>help.diagnostics.title</source>
@@ -834,7 +834,7 @@
     </message>
     <message id="help.lim.exportPlain.workaround">
         <source>help.lim.exportPlain.workaround</source>
-        <translation>Halte Exporte auf einer verschlüsselten Festplatte und lösche, was du nicht mehr brauchst.</translation>
+        <translation>Bewahre Exporte auf einer verschlüsselten Festplatte auf und lösche, was du nicht mehr brauchst.</translation>
     </message>
     <message id="help.lim.focus.desc">
         <source>help.lim.focus.desc</source>
@@ -1570,7 +1570,7 @@
     </message>
     <message id="help.tips.csv.title">
         <source>help.tips.csv.title</source>
-        <translation>Mit CSV weitersehen</translation>
+        <translation>Mit CSV weiterarbeiten</translation>
     </message>
     <message id="help.tips.diagnostics.desc">
         <source>help.tips.diagnostics.desc</source>
@@ -2238,7 +2238,7 @@
     </message>
     <message id="prefs.storage.retention.foreverNote">
         <source>prefs.storage.retention.foreverNote</source>
-        <translation>Nichts wird je wegen seines Alters gelöscht.</translation>
+        <translation>Nichts wird seines Alters wegen gelöscht.</translation>
     </message>
     <message id="prefs.storage.retention.otherDays" numerus="yes">
         <source>prefs.storage.retention.otherDays</source>
@@ -2336,7 +2336,7 @@
     </message>
     <message id="privacy.block3.text">
         <source>privacy.block3.text</source>
-        <translation>Die Datei ist Klartext. Wer dein Konto benutzen oder deine Festplatte lesen kann, kann sie lesen. Verschlüssle deine Festplatte, wenn dir das Sorgen macht. Inhalte zu verbergen ändert, was gezeigt wird, und nicht, was gespeichert ist.</translation>
+        <translation>Die Datei ist Klartext. Wer dein Konto benutzen oder deine Festplatte lesen kann, kann sie lesen. Verschlüssele deine Festplatte, wenn dir das Sorgen macht. Inhalte zu verbergen ändert, was gezeigt wird, und nicht, was gespeichert ist.</translation>
     </message>
     <message id="privacy.block3.title">
         <source>privacy.block3.title</source>
@@ -2548,7 +2548,7 @@
     </message>
     <message id="updates.packageManager">
         <source>updates.packageManager</source>
-        <translation>Neue Versionen kommen mit den Aktualisierungen deines Systems, durch die Paketverwaltung, die Tessarine installiert hat. Das Programm selbst greift nie auf das Netz zu.</translation>
+        <translation>Neue Versionen kommen mit den Aktualisierungen deines Systems, über die Paketverwaltung, die Tessarine installiert hat. Das Programm selbst greift nie auf das Netz zu.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

@@ -454,7 +454,7 @@
     </message>
     <message id="help.diagnostics.p.liveLog">
         <source>help.diagnostics.p.liveLog</source>
-        <translation>Ogni riga ha un’ora, la parte del programma che l’ha scritta, un segno per il suo peso e ciò che è accaduto. La più recente è in alto; si conservano le ultime 200.</translation>
+        <translation>Ogni riga ha un’ora, la parte del programma che l’ha scritta, un segno per la sua importanza e ciò che è accaduto. La più recente è in alto; si conservano le ultime 200.</translation>
     </message>
     <message id="help.diagnostics.title">
         <source>help.diagnostics.title</source>
@@ -1570,7 +1570,7 @@
     </message>
     <message id="help.tips.csv.title">
         <source>help.tips.csv.title</source>
-        <translation>Guarda oltre con CSV</translation>
+        <translation>Vai oltre con CSV</translation>
     </message>
     <message id="help.tips.diagnostics.desc">
         <source>help.tips.diagnostics.desc</source>
