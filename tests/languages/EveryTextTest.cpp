@@ -6,6 +6,7 @@
 #include "support/WindowPicture.h"
 
 #include <QGuiApplication>
+#include <QMenu>
 
 #include <gmock/gmock.h>
 
@@ -67,6 +68,34 @@ TEST_P(EveryTextTest, IsWholeAndInItsPlace) {
     EXPECT_EQ(faultsOf(texts), QStringList());
     savePictures(window);
 }
+
+// The menu of the status item, which Qt draws: each entry is as wide as its text.
+
+class StatusMenuTest : public ::testing::WithParamInterface<Language>,
+                       InLanguage,
+                       public WindowStage {
+protected:
+    StatusMenuTest()
+        : InLanguage(GetParam()) {}
+};
+
+TEST_P(StatusMenuTest, HasRoomForEachOfItsEntries) {
+    QMenu menu;
+    desktop.statusItem.menuBuilder(menu);
+    menu.ensurePolished();
+    const QSize size = menu.sizeHint();
+    for (QAction* action : menu.actions()) {
+        const QRect place = menu.actionGeometry(action);
+        EXPECT_LE(menu.fontMetrics().horizontalAdvance(action->text()), place.width());
+        EXPECT_LE(place.right(), size.width());
+    }
+    EXPECT_LT(size.width(), 480);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, StatusMenuTest,
+                         ::testing::Values(Language::english, Language::german, Language::italian,
+                                           Language::french, Language::longer, Language::mirrored),
+                         [](const auto& info) { return std::string(nameOf(info.param)); });
 
 // Mirroring: the same texts in the order of the other direction, each at the place across.
 
