@@ -5,7 +5,7 @@
     <name></name>
     <message id="help.about.sparkle.credit">
         <source>help.about.sparkle.credit</source>
-        <translation>Auf macOS dankt Tessarine der freien Bibliothek Sparkle seine Updates. Diese Ausgabe für Linux enthält sie nicht.</translation>
+        <translation>Auf macOS verdankt Tessarine seine Updates der freien Bibliothek Sparkle. Diese Ausgabe für Linux enthält sie nicht.</translation>
     </message>
     <message id="help.diagnostics.p.intro">
         <source>help.diagnostics.p.intro</source>
@@ -429,11 +429,11 @@
     </message>
     <message id="onboarding.feature4.title">
         <source>onboarding.feature4.title</source>
-        <translation>Wer sie auch zeichnet</translation>
+        <translation>Gleich, wer sie zeigt</translation>
     </message>
     <message id="perm.fda.enabled">
         <source>perm.fda.enabled</source>
-        <translation>Ist erlaubt</translation>
+        <translation>Ich habe ihn erlaubt</translation>
     </message>
     <message id="perm.fda.howto.header">
         <source>perm.fda.howto.header</source>
@@ -493,7 +493,7 @@
     </message>
     <message id="perm.fda.without.row2">
         <source>perm.fda.without.row2</source>
-        <translation>Was in dieser Datenbank ist, bleibt dem Hort fern.</translation>
+        <translation>Was in dieser Datenbank ist, kommt nicht in den Hort.</translation>
     </message>
     <message id="window.title.fda">
         <source>window.title.fda</source>

@@ -5,7 +5,7 @@
     <name></name>
     <message id="help.about.sparkle.credit">
         <source>help.about.sparkle.credit</source>
-        <translation>Tessarine sur macOS remercie la bibliothèque libre Sparkle pour ses mises à jour. Cette édition pour Linux ne la contient pas.</translation>
+        <translation>Sur macOS, Tessarine doit ses mises à jour à la bibliothèque libre Sparkle. Cette édition pour Linux ne la contient pas.</translation>
     </message>
     <message id="help.diagnostics.p.intro">
         <source>help.diagnostics.p.intro</source>
@@ -49,7 +49,7 @@
     </message>
     <message id="help.howItWorks.layer.usernoted.desc">
         <source>help.howItWorks.layer.usernoted.desc</source>
-        <translation>Linux ne tient pas de telle base. S’il s’en trouve une d’un Mac à ~/Library/Group Containers/group.com.apple.usernoted/db2/db dans votre dossier personnel, Tessarine la lit à l’ouverture, à chaque écriture et toutes les 30 secondes.</translation>
+        <translation>Linux ne tient pas de telle base. S’il s’en trouve une, venue d’un Mac, à ~/Library/Group Containers/group.com.apple.usernoted/db2/db dans votre dossier personnel, Tessarine la lit à l’ouverture, à chaque écriture et toutes les 30 secondes.</translation>
     </message>
     <message id="help.howItWorks.layer.usernoted.title">
         <source>help.howItWorks.layer.usernoted.title</source>
@@ -81,7 +81,7 @@
     </message>
     <message id="help.iphone.h.requirements">
         <source>help.iphone.h.requirements</source>
-        <translation>Ce qu’il faut à Recopie de l’iPhone sur un Mac</translation>
+        <translation>Ce que demande la Recopie de l’iPhone sur un Mac</translation>
     </message>
     <message id="help.iphone.h.solution">
         <source>help.iphone.h.solution</source>
@@ -101,7 +101,7 @@
     </message>
     <message id="help.iphone.p.solution">
         <source>help.iphone.p.solution</source>
-        <translation>Un programme comme KDE Connect peut annoncer sur cet ordinateur les notifications d’un téléphone Android. Tessarine les capture alors comme toutes les autres. Linux n’a pas Recopie de l’iPhone ; le reste de cette page parle d’un Mac.</translation>
+        <translation>Un programme comme KDE Connect peut annoncer sur cet ordinateur les notifications d’un téléphone Android. Tessarine les capture alors comme toutes les autres. Linux n’a pas la Recopie de l’iPhone ; le reste de cette page parle d’un Mac.</translation>
     </message>
     <message id="help.iphone.title">
         <source>help.iphone.title</source>
@@ -149,7 +149,7 @@
     </message>
     <message id="help.lim.iphoneOff.desc">
         <source>help.lim.iphoneOff.desc</source>
-        <translation>D’un téléphone éteint ou éloigné, rien ne vient.</translation>
+        <translation>Rien ne vient d’un téléphone éteint ou éloigné.</translation>
     </message>
     <message id="help.lim.iphoneOff.title">
         <source>help.lim.iphoneOff.title</source>
@@ -405,7 +405,7 @@
     </message>
     <message id="onboarding.ax.openSettings.hint">
         <source>onboarding.ax.openSettings.hint</source>
-        <translation>Cette page remarque d’elle-même que le bus laisse Tessarine écouter.</translation>
+        <translation>Cette page s’aperçoit d’elle-même que le bus laisse Tessarine écouter.</translation>
     </message>
     <message id="onboarding.ax.subtitle">
         <source>onboarding.ax.subtitle</source>
@@ -433,7 +433,7 @@
     </message>
     <message id="perm.fda.enabled">
         <source>perm.fda.enabled</source>
-        <translation>C’est autorisé</translation>
+        <translation>Je l’ai autorisé</translation>
     </message>
     <message id="perm.fda.howto.header">
         <source>perm.fda.howto.header</source>

@@ -5,7 +5,7 @@
     <name></name>
     <message id="help.about.sparkle.credit">
         <source>help.about.sparkle.credit</source>
-        <translation>Tessarine su macOS ringrazia la libreria open source Sparkle per gli aggiornamenti. Questa edizione per Linux non la contiene.</translation>
+        <translation>Su macOS Tessarine deve i suoi aggiornamenti alla libreria open source Sparkle. Questa edizione per Linux non la contiene.</translation>
     </message>
     <message id="help.diagnostics.p.intro">
         <source>help.diagnostics.p.intro</source>
@@ -109,7 +109,7 @@
     </message>
     <message id="help.lim.30entries.desc">
         <source>help.lim.30entries.desc</source>
-        <translation>L’elenco di notifiche del desktop stesso non si può leggere. La raccolta comincia con il primo avvio di Tessarine.</translation>
+        <translation>L’elenco che il desktop tiene per sé non si può leggere. La raccolta comincia con il primo avvio di Tessarine.</translation>
     </message>
     <message id="help.lim.30entries.title">
         <source>help.lim.30entries.title</source>
@@ -365,7 +365,7 @@
     </message>
     <message id="help.tips.mirroring.title">
         <source>help.tips.mirroring.title</source>
-        <translation>Porta dentro il telefono</translation>
+        <translation>Anche dal telefono</translation>
     </message>
     <message id="help.tips.notifStyles.desc">
         <source>help.tips.notifStyles.desc</source>
@@ -393,7 +393,7 @@
     </message>
     <message id="onboarding.ax.noPermissionWarning">
         <source>onboarding.ax.noPermissionWarning</source>
-        <translation>Senza, nessuna notifica può essere conservata.</translation>
+        <translation>Senza accesso, nessuna notifica può essere conservata.</translation>
     </message>
     <message id="onboarding.ax.notGranted">
         <source>onboarding.ax.notGranted</source>

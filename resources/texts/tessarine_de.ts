@@ -84,7 +84,7 @@
     </message>
     <message id="datePopover.footer">
         <source>datePopover.footer</source>
-        <translation>Mehreres zählt zusammen: Jede Wahl fügt ihre Benachrichtigungen der Auswahl hinzu.</translation>
+        <translation>Du kannst mehreres wählen: Jede Wahl fügt ihre Benachrichtigungen der Auswahl hinzu.</translation>
     </message>
     <message id="datePopover.noData">
         <source>datePopover.noData</source>
@@ -454,7 +454,7 @@
     </message>
     <message id="help.diagnostics.p.liveLog">
         <source>help.diagnostics.p.liveLog</source>
-        <translation>Jede Zeile hat eine Zeit, den Teil des Programms, der sie schrieb, ein Zeichen für ihr Gewicht und das, was geschah. Die neueste steht oben; die letzten 200 bleiben.</translation>
+        <translation>Jede Zeile hat eine Zeit, den Teil des Programms, der sie schrieb, ein Zeichen für ihre Wichtigkeit und das, was geschah. Die neueste steht oben; die letzten 200 bleiben.</translation>
     </message>
     <message id="help.diagnostics.title">
         <source>help.diagnostics.title</source>
@@ -834,7 +834,7 @@
     </message>
     <message id="help.lim.exportPlain.workaround">
         <source>help.lim.exportPlain.workaround</source>
-        <translation>Halte Exporte auf einer verschlüsselten Festplatte und lösche, was du nicht mehr brauchst.</translation>
+        <translation>Bewahre Exporte auf einer verschlüsselten Festplatte auf und lösche, was du nicht mehr brauchst.</translation>
     </message>
     <message id="help.lim.focus.desc">
         <source>help.lim.focus.desc</source>
@@ -1518,7 +1518,7 @@
     </message>
     <message id="help.selectDelete.row.byDate.desc">
         <source>help.selectDelete.row.byDate.desc</source>
-        <translation>Fügt alle gezeigten Benachrichtigungen eines Zeitraums hinzu. Mehreres zählt zusammen.</translation>
+        <translation>Fügt alle gezeigten Benachrichtigungen eines Zeitraums hinzu. Du kannst mehrere Zeiträume wählen.</translation>
     </message>
     <message id="help.selectDelete.row.byDate.title">
         <source>help.selectDelete.row.byDate.title</source>
@@ -1570,7 +1570,7 @@
     </message>
     <message id="help.tips.csv.title">
         <source>help.tips.csv.title</source>
-        <translation>Mit CSV weitersehen</translation>
+        <translation>Mit CSV weiterarbeiten</translation>
     </message>
     <message id="help.tips.diagnostics.desc">
         <source>help.tips.diagnostics.desc</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message id="onboarding.btn.continueWithout">
         <source>onboarding.btn.continueWithout</source>
-        <translation>Ohne weiter</translation>
+        <translation>Ohne Zugang fortfahren</translation>
     </message>
     <message id="onboarding.btn.done">
         <source>onboarding.btn.done</source>
@@ -1821,7 +1821,7 @@
     </message>
     <message id="onboarding.feature1.text">
         <source>onboarding.feature1.text</source>
-        <translation>Tessarine bewahrt jede Benachrichtigung auf, wenn sie kommt, auch solche, die du nie gesehen hast.</translation>
+        <translation>Tessarine bewahrt jede Benachrichtigung auf, sobald sie kommt, auch solche, die du nie gesehen hast.</translation>
     </message>
     <message id="onboarding.feature1.title">
         <source>onboarding.feature1.title</source>
@@ -2238,7 +2238,7 @@
     </message>
     <message id="prefs.storage.retention.foreverNote">
         <source>prefs.storage.retention.foreverNote</source>
-        <translation>Nichts wird je wegen seines Alters gelöscht.</translation>
+        <translation>Nichts wird seines Alters wegen gelöscht.</translation>
     </message>
     <message id="prefs.storage.retention.otherDays" numerus="yes">
         <source>prefs.storage.retention.otherDays</source>
@@ -2336,7 +2336,7 @@
     </message>
     <message id="privacy.block3.text">
         <source>privacy.block3.text</source>
-        <translation>Die Datei ist Klartext. Wer dein Konto benutzen oder deine Festplatte lesen kann, kann sie lesen. Verschlüssle deine Festplatte, wenn dir das Sorgen macht. Inhalte zu verbergen ändert, was gezeigt wird, und nicht, was gespeichert ist.</translation>
+        <translation>Die Datei ist Klartext. Wer dein Konto benutzen oder deine Festplatte lesen kann, kann sie lesen. Verschlüssele deine Festplatte, wenn dir das Sorgen macht. Inhalte zu verbergen ändert, was gezeigt wird, und nicht, was gespeichert ist.</translation>
     </message>
     <message id="privacy.block3.title">
         <source>privacy.block3.title</source>
@@ -2548,7 +2548,7 @@
     </message>
     <message id="updates.packageManager">
         <source>updates.packageManager</source>
-        <translation>Neue Versionen kommen mit den Aktualisierungen deines Systems, durch die Paketverwaltung, die Tessarine installiert hat. Das Programm selbst fragt nie das Netz.</translation>
+        <translation>Neue Versionen kommen mit den Aktualisierungen deines Systems, über die Paketverwaltung, die Tessarine installiert hat. Das Programm selbst greift nie auf das Netz zu.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

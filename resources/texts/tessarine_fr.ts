@@ -426,7 +426,7 @@
     </message>
     <message id="help.diagnostics.h.clear">
         <source>help.diagnostics.h.clear</source>
-        <translation>Effacer et rapporter</translation>
+        <translation>Effacer, faire un rapport</translation>
     </message>
     <message id="help.diagnostics.h.filtering">
         <source>help.diagnostics.h.filtering</source>
@@ -454,7 +454,7 @@
     </message>
     <message id="help.diagnostics.p.liveLog">
         <source>help.diagnostics.p.liveLog</source>
-        <translation>Chaque ligne a une heure, la partie du programme qui l’a écrite, un signe pour son poids et ce qui s’est passé. La plus récente est en haut ; les 200 dernières restent.</translation>
+        <translation>Chaque ligne a une heure, la partie du programme qui l’a écrite, un signe pour son importance et ce qui s’est passé. La plus récente est en haut ; les 200 dernières restent.</translation>
     </message>
     <message id="help.diagnostics.title">
         <source>help.diagnostics.title</source>
@@ -706,7 +706,7 @@
     </message>
     <message id="help.iphone.req.ios18.desc">
         <source>help.iphone.req.ios18.desc</source>
-        <translation>Les systèmes plus anciens n’ont pas Recopie de l’iPhone.</translation>
+        <translation>Les systèmes plus anciens n’ont pas la Recopie de l’iPhone.</translation>
     </message>
     <message id="help.iphone.req.ios18.title">
         <source>help.iphone.req.ios18.title</source>
@@ -910,7 +910,7 @@
     </message>
     <message id="help.lim.otpForever.desc">
         <source>help.lim.otpForever.desc</source>
-        <translation>Les codes à usage unique sont conservés comme tout le reste, sauf si vous choisissez autre chose. Même alors, ils ne partent qu’à une ouverture.</translation>
+        <translation>Les codes à usage unique sont conservés comme tout le reste, sauf si vous choisissez autre chose. Même alors, ils ne sont supprimés qu’à une ouverture.</translation>
     </message>
     <message id="help.lim.otpForever.title">
         <source>help.lim.otpForever.title</source>
@@ -1034,7 +1034,7 @@
     </message>
     <message id="help.lim.walBackup.title">
         <source>help.lim.walBackup.title</source>
-        <translation>Il peut manquer les dernières lignes à un fichier copié</translation>
+        <translation>Les dernières lignes peuvent manquer dans un fichier copié</translation>
     </message>
     <message id="help.lim.walBackup.workaround">
         <source>help.lim.walBackup.workaround</source>
@@ -1202,7 +1202,7 @@
     </message>
     <message id="help.menuBar.table.header.item">
         <source>help.menuBar.table.header.item</source>
-        <translation>Article</translation>
+        <translation>Commande</translation>
     </message>
     <message id="help.menuBar.title">
         <source>help.menuBar.title</source>
@@ -1334,7 +1334,7 @@
     </message>
     <message id="help.privacy.lim.noEncrypt.desc">
         <source>help.privacy.lim.noEncrypt.desc</source>
-        <translation>Qui peut lire les fichiers de votre compte peut lire la réserve, avec ou sans Tessarine.</translation>
+        <translation>Quiconque peut lire les fichiers de votre compte peut lire la réserve, avec ou sans Tessarine.</translation>
     </message>
     <message id="help.privacy.lim.noEncrypt.title">
         <source>help.privacy.lim.noEncrypt.title</source>
@@ -1358,7 +1358,7 @@
     </message>
     <message id="help.privacy.p.displayFilter1">
         <source>help.privacy.p.displayFilter1</source>
-        <translation>« Masquer le contenu » est pour les regards par-dessus votre épaule. Les lignes montrent des barres au lieu de mots. Un clic dévoile une ligne jusqu’à ce que la liste change ; l’aperçu, le mode de sélection et la recherche voient le vrai contenu.</translation>
+        <translation>« Masquer le contenu » protège des regards par-dessus votre épaule. Les lignes montrent des barres au lieu de mots. Un clic dévoile une ligne jusqu’à ce que la liste change ; l’aperçu, le mode de sélection et la recherche voient le vrai contenu.</translation>
     </message>
     <message id="help.privacy.p.displayFilter2">
         <source>help.privacy.p.displayFilter2</source>
@@ -1370,7 +1370,7 @@
     </message>
     <message id="help.privacy.p.exports2">
         <source>help.privacy.p.exports2</source>
-        <translation>Les fichiers exportés ne sont pas chiffrés. Qui en reçoit un peut le lire.</translation>
+        <translation>Les fichiers exportés ne sont pas chiffrés. Quiconque en reçoit un peut le lire.</translation>
     </message>
     <message id="help.privacy.p.notice">
         <source>help.privacy.p.notice</source>
@@ -1414,7 +1414,7 @@
     </message>
     <message id="help.privacy.protect.retention.desc">
         <source>help.privacy.protect.retention.desc</source>
-        <translation>Ce qui est supprimé au bout d’un temps, personne ne peut plus le lire.</translation>
+        <translation>Ce qui est supprimé au bout d’un certain temps, personne ne peut plus le lire.</translation>
     </message>
     <message id="help.privacy.protect.retention.title">
         <source>help.privacy.protect.retention.title</source>
@@ -1582,7 +1582,7 @@
     </message>
     <message id="help.tips.launchAtLogin.desc">
         <source>help.tips.launchAtLogin.desc</source>
-        <translation>Le plus sûr pour manquer peu : Tessarine est là avant la première notification.</translation>
+        <translation>Le plus sûr pour ne presque rien manquer : Tessarine est là avant la première notification.</translation>
     </message>
     <message id="help.tips.launchAtLogin.title">
         <source>help.tips.launchAtLogin.title</source>
@@ -1666,7 +1666,7 @@
     </message>
     <message id="launchAtLogin.btn.enable">
         <source>launchAtLogin.btn.enable</source>
-        <translation>Ouvrir à la session</translation>
+        <translation>Ouvrir avec la session</translation>
     </message>
     <message id="launchAtLogin.btn.notNow">
         <source>launchAtLogin.btn.notNow</source>
@@ -1674,7 +1674,7 @@
     </message>
     <message id="launchAtLogin.info.changeLater">
         <source>launchAtLogin.info.changeLater</source>
-        <translation>Vous pouvez le changer à tout moment dans le menu de la cloche.</translation>
+        <translation>Vous pouvez changer cela à tout moment dans le menu de la cloche.</translation>
     </message>
     <message id="launchAtLogin.info.missedNotifs">
         <source>launchAtLogin.info.missedNotifs</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message id="onboarding.ax.openSettings.hint">
         <source>onboarding.ax.openSettings.hint</source>
-        <translation>Cette page remarque d’elle-même que l’autorisation est là.</translation>
+        <translation>Cette page s’aperçoit d’elle-même que l’autorisation est là.</translation>
     </message>
     <message id="onboarding.ax.subtitle">
         <source>onboarding.ax.subtitle</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message id="onboarding.btn.continueWithout">
         <source>onboarding.btn.continueWithout</source>
-        <translation>Continuer sans</translation>
+        <translation>Continuer sans accès</translation>
     </message>
     <message id="onboarding.btn.done">
         <source>onboarding.btn.done</source>
@@ -2238,7 +2238,7 @@
     </message>
     <message id="prefs.storage.retention.foreverNote">
         <source>prefs.storage.retention.foreverNote</source>
-        <translation>Rien n’est jamais supprimé à cause de son âge.</translation>
+        <translation>Rien n’est jamais supprimé en raison de son ancienneté.</translation>
     </message>
     <message id="prefs.storage.retention.otherDays" numerus="yes">
         <source>prefs.storage.retention.otherDays</source>
@@ -2249,7 +2249,7 @@
     </message>
     <message id="prefs.storage.retention.shortWarning">
         <source>prefs.storage.retention.shortWarning</source>
-        <translation>Les notifications partent après peu de temps, même épinglées.</translation>
+        <translation>Les notifications disparaissent après peu de temps, même épinglées.</translation>
     </message>
     <message id="prefs.storage.section.hoard">
         <source>prefs.storage.section.hoard</source>
@@ -2548,7 +2548,7 @@
     </message>
     <message id="updates.packageManager">
         <source>updates.packageManager</source>
-        <translation>Les nouvelles versions arrivent avec les mises à jour de votre système, par le gestionnaire de paquets qui a installé Tessarine. Le programme lui-même n’interroge jamais le réseau.</translation>
+        <translation>Les nouvelles versions arrivent avec les mises à jour de votre système, par le gestionnaire de paquets qui a installé Tessarine. Le programme lui-même ne se connecte jamais au réseau.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

@@ -454,7 +454,7 @@
     </message>
     <message id="help.diagnostics.p.liveLog">
         <source>help.diagnostics.p.liveLog</source>
-        <translation>Ogni riga ha un’ora, la parte del programma che l’ha scritta, un segno per il suo peso e ciò che è accaduto. La più recente è in alto; si conservano le ultime 200.</translation>
+        <translation>Ogni riga ha un’ora, la parte del programma che l’ha scritta, un segno per la sua importanza e ciò che è accaduto. La più recente è in alto; si conservano le ultime 200.</translation>
     </message>
     <message id="help.diagnostics.title">
         <source>help.diagnostics.title</source>
@@ -1570,7 +1570,7 @@
     </message>
     <message id="help.tips.csv.title">
         <source>help.tips.csv.title</source>
-        <translation>Guarda oltre con CSV</translation>
+        <translation>Vai oltre con CSV</translation>
     </message>
     <message id="help.tips.diagnostics.desc">
         <source>help.tips.diagnostics.desc</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message id="onboarding.btn.continueWithout">
         <source>onboarding.btn.continueWithout</source>
-        <translation>Continua senza</translation>
+        <translation>Continua senza accesso</translation>
     </message>
     <message id="onboarding.btn.done">
         <source>onboarding.btn.done</source>
@@ -2548,7 +2548,7 @@
     </message>
     <message id="updates.packageManager">
         <source>updates.packageManager</source>
-        <translation>Le nuove versioni arrivano con gli aggiornamenti del sistema, dal gestore di pacchetti che ha installato Tessarine. Il programma stesso non interroga mai la rete.</translation>
+        <translation>Le nuove versioni arrivano con gli aggiornamenti del sistema, dal gestore di pacchetti che ha installato Tessarine. Il programma stesso non si collega mai alla rete.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

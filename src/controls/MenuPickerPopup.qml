@@ -20,6 +20,7 @@ T.Popup {
 
     signal chosen(int index)
 
+    x: Application.layoutDirection === Qt.RightToLeft && parent ? parent.width - width : 0
     implicitWidth: Math.max(narrowest, Math.min(widest, textRoom + leftPadding + rightPadding))
     implicitHeight: Math.min(tallest, implicitContentHeight + topPadding + bottomPadding)
     padding: Metrics.spacingSmall

@@ -3,9 +3,13 @@ import Tessarine.Theme
 
 // A short text, most often a number, on a small rounded ground.
 Rectangle {
+    id: root
+
     property alias text: label.text
 
-    implicitWidth: Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 2 * label.anchors.margins)
+    readonly property int padding: Metrics.spacingSmall + 2
+
+    implicitWidth: Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 2 * padding)
     implicitHeight: Math.ceil(label.implicitHeight) + Metrics.spacingTiny
     radius: height / 2
     color: Theme.colours.tagFill
@@ -16,7 +20,8 @@ Rectangle {
         id: label
 
         anchors.fill: parent
-        anchors.margins: Metrics.spacingSmall + 2
+        anchors.leftMargin: root.padding
+        anchors.rightMargin: root.padding
         font.family: Theme.tabularFamily
         font.pixelSize: Metrics.textTiny
         color: Theme.colours.secondaryLabel

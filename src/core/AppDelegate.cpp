@@ -7,15 +7,12 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
 
 namespace tessarine {
 
 namespace {
-
-constexpr double memoryDelay = 2.0; // seconds from the closing of the window
 
 // The root of the window for updates says how large it is.
 ViewWindow::Description updateNotice() {
@@ -37,10 +34,6 @@ AppDelegate::AppDelegate(ViewServices& views)
                               [] { QCoreApplication::quit(); }}) {}
 
 AppDelegate::~AppDelegate() {
-    // Going, a window hides, which asks the guard whether this object lives.
-    updateNotice_.reset();
-    preferencesWindow_.reset();
-    mainWindow_.reset();
     delete ViewWindow::titled(diagnosticsTitle());
 }
 
@@ -59,7 +52,6 @@ void AppDelegate::applicationDidFinishLaunching() {
     menuBarController_ = std::make_unique<MenuBarController>(
         *views_.desktop.statusItem, services.listener, defaults, *launchAgent_, menuActions());
     mainWindow_ = std::make_unique<MainWindow>(views_.browser(), defaults, *views_.engine);
-    watch(*mainWindow_->window());
     launchFlow_.beginLaunchFlow();
 }
 
@@ -89,30 +81,13 @@ MenuBarController::Action AppDelegate::afterConsent(MenuBarController::Action ac
     };
 }
 
-// Once the renderer has let go of what it had for the window, on its thread and on this one.
-void AppDelegate::watch(const QWindow& window) {
-    QObject::connect(&window, &QWindow::visibleChanged, &window, [this](bool visible) {
-        if (visible)
-            return;
-        views_.services.platform.scheduler->onMainAfter(memoryDelay,
-                                                        alive_.guard([this] { giveMemoryBack(); }));
-    });
-}
-
-void AppDelegate::giveMemoryBack() {
-    if (!ViewWindow::allVisible().empty())
-        return;
-    views_.engine->collectGarbage();
-    views_.desktop.application->returnFreeMemory();
-}
-
 void AppDelegate::showMainWindow() {
     if (!views_.services.preferences.hasAcceptedEULA()) {
         onboardingFlow_.raiseOnboarding();
         return;
     }
     mainWindow_->showAndMakeKey();
-    views_.desktop.application->activate(*mainWindow_->window());
+    views_.bringToFront(*mainWindow_->window());
     menuBarController_->markAllSeen();
 }
 
@@ -126,26 +101,19 @@ void AppDelegate::showUpdateNotice() {
         updateNotice_ = std::make_unique<ViewWindow>(updateNotice(), *views_.engine);
         const QQuickItem& root = updateNotice_->root();
         updateNotice_->centre(QSizeF(root.implicitWidth(), root.implicitHeight()).toSize());
-        watch(updateNotice_->window());
     }
     views_.bringToFront(*updateNotice_);
 }
 
 void AppDelegate::showDiagnostics() {
-    const bool isNew = !ViewWindow::titled(diagnosticsTitle());
-    ViewWindow& window = diagnosticsWindow(views_.diagnostics(), *views_.engine);
-    if (isNew)
-        watch(window.window());
-    views_.bringToFront(window);
+    views_.bringToFront(diagnosticsWindow(views_.diagnostics(), *views_.engine));
 }
 
 void AppDelegate::showPreferences() {
-    if (!preferencesWindow_) {
+    if (!preferencesWindow_)
         preferencesWindow_ = makePreferencesWindow();
-        watch(*preferencesWindow_->window());
-    }
     preferencesWindow_->showAndMakeKey();
-    views_.desktop.application->activate(*preferencesWindow_->window());
+    views_.bringToFront(*preferencesWindow_->window());
 }
 
 std::unique_ptr<PreferencesWindow> AppDelegate::makePreferencesWindow() {
@@ -172,7 +140,6 @@ void AppDelegate::showHelp() {
         {*views_.services.platform.scheduler, agreementText(QLocale().uiLanguages()),
          alive_.guard([this] { onboardingFlow_.showPrivacyNotice(); })},
         *views_.engine);
-    watch(help.window());
     views_.bringToFront(help);
 }
 

@@ -13,8 +13,6 @@
 
 #include <memory>
 
-class QWindow;
-
 namespace tessarine {
 
 // The program's spine: owns the status item and the windows, and runs the launch steps in their
@@ -72,8 +70,6 @@ private:
     MenuBarController::Action afterConsent(MenuBarController::Action action);
     void showUpdateNotice();
     std::unique_ptr<PreferencesWindow> makePreferencesWindow();
-    void watch(const QWindow& window);
-    void giveMemoryBack();
 
     ViewServices& views_;
     LaunchFlow launchFlow_;

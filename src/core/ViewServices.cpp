@@ -17,15 +17,21 @@ ViewServices::ViewServices(Services& services, Desktop& desktop, SetPasteboard s
                                     {*services.platform.workspace, *services.platform.fileSystem,
                                      *desktop.applicationIcons, *desktop.symbols}))
     , exports({services.preferences, *services.platform.scheduler, *desktop.savePanel})
-    , engine(makeViewEngine(theme, *desktop.symbols)) {
+    , engine(makeViewEngine(theme, *desktop.symbols))
+    , memory(*services.platform.scheduler, *desktop.application, *engine) {
     installAppIcons(*engine, icons);
 }
 
 ViewServices::~ViewServices() = default;
 
-void ViewServices::bringToFront(ViewWindow& window) const {
+void ViewServices::bringToFront(ViewWindow& window) {
     window.showAndMakeKey();
-    desktop.application->activate(window.window());
+    bringToFront(window.window());
+}
+
+void ViewServices::bringToFront(QWindow& shown) {
+    memory.watch(shown);
+    desktop.application->activate(shown);
 }
 
 ContentView::Services ViewServices::browser() {

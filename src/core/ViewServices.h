@@ -2,6 +2,7 @@
 
 #include "apps/AppIconResolver.h"
 #include "browser/ContentView.h"
+#include "core/MemoryReturn.h"
 #include "core/Services.h"
 #include "diagnosticsview/DiagnosticsView.h"
 #include "export/ExportManager.h"
@@ -15,6 +16,7 @@
 #include <memory>
 
 class QQmlEngine;
+class QWindow;
 
 namespace tessarine {
 
@@ -28,8 +30,12 @@ struct ViewServices {
     ViewServices& operator=(const ViewServices&) = delete;
     ~ViewServices();
 
-    // Shows the window in front of all others, those of other programs too.
-    void bringToFront(ViewWindow& window) const;
+    // Shows the window in front of all others, those of other programs too. Some time after the
+    // last such window was closed, what they have used is given back.
+    void bringToFront(ViewWindow& window);
+
+    // The same for a window that is shown already.
+    void bringToFront(QWindow& shown);
 
     // What the browser works with.
     ContentView::Services browser();
@@ -44,6 +50,7 @@ struct ViewServices {
     std::shared_ptr<AppIconResolver> icons;
     ExportManager exports;
     std::unique_ptr<QQmlEngine> engine;
+    MemoryReturn memory;
 
 private:
     using MakeExportSheet = DatabaseSectionView::MakeExportSheet;

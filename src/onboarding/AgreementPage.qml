@@ -64,6 +64,7 @@ Item {
 
         CheckBox {
             objectName: "agree"
+            anchors.left: parent.left
             width: Math.min(implicitWidth, parent.width)
             text: qsTrId("onboarding.eula.agree")
             textWeight: Font.Medium

@@ -4,6 +4,8 @@
 #include "shared/DayKey.h"
 #include "store/HoardStore.h"
 
+#include <utility>
+
 namespace tessarine {
 
 namespace {
@@ -23,13 +25,13 @@ void HoardBackup::request() {
 }
 
 void HoardBackup::setShowWarning(bool shown) {
-    showWarning_ = shown;
-    Q_EMIT changed();
+    if (std::exchange(showWarning_, shown) != shown)
+        Q_EMIT changed();
 }
 
 void HoardBackup::setShowError(bool shown) {
-    showError_ = shown;
-    Q_EMIT changed();
+    if (std::exchange(showError_, shown) != shown)
+        Q_EMIT changed();
 }
 
 QString HoardBackup::suggestedName() const {
@@ -70,7 +72,8 @@ void HoardBackup::copyTo(const QString& path) {
 void HoardBackup::finish(const std::optional<QString>& failure) {
     isRunning_ = false;
     error_ = failure.value_or(QString());
-    setShowError(failure.has_value());
+    showError_ = failure.has_value();
+    Q_EMIT changed();
 }
 
 } // namespace tessarine

@@ -76,6 +76,7 @@ Item {
         }
 
         Row {
+            width: parent.width
             topPadding: Metrics.spacingSmall
             spacing: Metrics.spacingMedium
 

@@ -1,16 +1,12 @@
-#include "core/AppDelegate.h"
-
+#include "core/DelegateFixture.h"
 #include "diagnosticsview/DiagnosticsWindow.h"
 #include "support/EventLoop.h"
-#include "support/SimulatedDesktop.h"
-#include "support/SimulatedPlatform.h"
 #include "support/WindowPicture.h"
 
 #include <QFile>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickView>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -22,43 +18,9 @@ using namespace Qt::StringLiterals;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class AppDelegateTest : public ::testing::Test {
+class AppDelegateTest : public testing::DelegateFixture {
 protected:
-    // The program as a new process builds it, up to the launch.
-    AppDelegateTest() {
-        system.defaults.setBoolean(u"NSQuitAlwaysKeepsWindows"_qs, true);
-        system.defaults.setText(u"appearanceMode"_qs, u"dark"_qs);
-        system.defaults.setBoolean(u"hasAcceptedEULA"_qs, true);
-        system.defaults.setBoolean(u"fdaSkipped"_qs, true);
-        system.defaults.setBoolean(u"launchLoginPromptSuppressed"_qs, true);
-        system.accessibility.trusted = true;
-        services.emplace(system.platform);
-        views.emplace(*services, desktop.desktop, [](const QString&) {});
-        delegate.emplace(*views);
-    }
-
-    void launch() {
-        delegate->applicationDidFinishLaunching();
-        system.scheduler.settle();
-    }
-
-    // The menu of the status item, as a click opens it.
-    void chooseInStatusMenu(const QString& text) {
-        for (const StatusMenuItem& item : desktop.statusItem.menuBuilder()) {
-            if (item.title == text)
-                return item.action();
-        }
-        FAIL() << "no such entry";
-    }
-
     QWindow* window() const { return delegate->mainWindow()->window(); }
-
-    QTemporaryDir folder;
-    testing::SimulatedPlatform system{folder.path()};
-    testing::SimulatedDesktop desktop;
-    std::optional<Services> services;
-    std::optional<ViewServices> views;
-    std::optional<AppDelegate> delegate;
 };
 
 TEST_F(AppDelegateTest, DoesNothingBeforeTheApplicationRuns) {

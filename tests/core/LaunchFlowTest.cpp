@@ -62,6 +62,20 @@ TEST_F(LaunchFlowTest, DoesNothingButShowTheGuideBeforeTheUserHasAgreed) {
     EXPECT_FALSE(QFile::exists(services.hoard.path()));
 }
 
+TEST_F(LaunchFlowTest, DeletesNothingBeforeTheUserHasAgreedHoweverOldItIs) {
+    services.preferences.setRetentionDays(7);
+    services.preferences.setOtpRetentionHours(1);
+    store(u"old code 1234"_qs, 400 * day);
+    services.preferences.setHasAcceptedEULA(false);
+    flow.beginLaunchFlow();
+    system.scheduler.advance(60);
+    ASSERT_EQ(services.hoard.fetchRecent(10).size(), 1U);
+    services.preferences.setHasAcceptedEULA(true);
+    flow.finishStartup();
+    system.scheduler.settle();
+    EXPECT_EQ(services.hoard.fetchRecent(10).size(), 0U);
+}
+
 TEST_F(LaunchFlowTest, ChecksWhatTheProgramMayDoOnceItIsAtWork) {
     bool wasAtWork = false;
     LaunchFlow other{services, {{}, [&] { wasAtWork = services.listener->isStarted(); }}};

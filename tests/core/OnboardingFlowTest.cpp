@@ -95,6 +95,42 @@ TEST_F(OnboardingFlowTest, TheFirstStartGoesThroughByTheMouse) {
     EXPECT_EQ(quits, 0);
 }
 
+TEST_F(OnboardingFlowTest, OnlyALaterGuideHasACloseButtonAndBothCanBeResized) {
+    for (const Guide kind : {Guide::firstRun, Guide::later}) {
+        flow.showOnboarding(kind, 0);
+        EXPECT_EQ(guide().flags().testFlag(Qt::WindowCloseButtonHint), kind == Guide::later);
+        EXPECT_FALSE(guide().flags().testFlag(Qt::WindowMinimizeButtonHint));
+        EXPECT_EQ(guide().size(), QSize(580, 640));
+        EXPECT_EQ(guide().minimumSize(), QSize(560, 520));
+        EXPECT_GT(guide().maximumWidth(), 10000);
+    }
+}
+
+TEST_F(OnboardingFlowTest, ThePrivacyNoticeKeepsItsSizeAndIsMadeAnewEachTime) {
+    flow.showPrivacyNotice();
+    const QPointer<ViewWindow> first = flow.privacyNoticeWindow();
+    EXPECT_TRUE(first->window().flags().testFlag(Qt::WindowCloseButtonHint));
+    EXPECT_EQ(first->window().minimumSize(), QSize(520, 560));
+    EXPECT_EQ(first->window().maximumSize(), QSize(520, 560));
+    flow.showPrivacyNotice();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(first, nullptr);
+    EXPECT_EQ(ViewWindow::allVisible().size(), 1U);
+}
+
+TEST_F(OnboardingFlowTest, BackFromThePageAfterTheAgreementFindsTheBoxTickedAndNoWayFurtherBack) {
+    flow.showOnboarding(Guide::firstRun, 1);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&guide(), testing::patienceMs));
+    EXPECT_FALSE(part(u"back"_qs)->isVisible());
+    scrollToTheEnd();
+    click(u"agree"_qs);
+    click(u"forward"_qs);
+    click(u"back"_qs);
+    EXPECT_TRUE(part(u"agreementPage"_qs)->isVisible());
+    EXPECT_TRUE(part(u"agree"_qs)->property("checked").toBool());
+    EXPECT_FALSE(part(u"back"_qs)->isVisible());
+}
+
 TEST_F(OnboardingFlowTest, TheFirstStartGoesThroughByTheKeyboard) {
     flow.showOnboarding(Guide::firstRun, 0);
     press(Qt::Key_Return);

@@ -218,15 +218,16 @@ TEST_F(PermissionFlowTest, AScreenReaderCanNameWhatIsAsked) {
     EXPECT_EQ(spoken->text(QAccessible::Name), u"Start Tessarine when you log in?"_qs);
 }
 
-TEST_F(PermissionFlowTest, AskedAHundredTimesItLeavesNothing) {
+TEST_F(PermissionFlowTest, AskedTwoHundredTimesItLeavesNothing) {
     const auto objects = [] {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return QGuiApplication::allWindows().size();
     };
     const qsizetype before = objects();
-    for (int round = 0; round < 100; ++round) {
+    for (int round = 0; round < 200; ++round) {
         system.loginItem.nextFailure = u"no room"_qs;
         check();
+        scheduler.advance(0.005 * round);
         QMetaObject::invokeMethod(
             flow.launchPromptWindow()->root().findChild<QObject*>(u"enable"_qs), "clicked");
         ASSERT_EQ(flow.launchPromptWindow(), nullptr);
@@ -265,6 +266,8 @@ TEST_F(PermissionFlowTest, TheDatabaseIsAskedForBeforeTheLogin) {
     scheduler.advance(0.3);
     ASSERT_NE(flow.permissionWindow(), nullptr);
     EXPECT_EQ(flow.permissionWindow()->window().size(), QSize(500, 520));
+    EXPECT_EQ(flow.permissionWindow()->window().minimumSize(), QSize(480, 400));
+    EXPECT_EQ(flow.permissionWindow()->window().title(), qtTrId("window.title.fda"));
     EXPECT_EQ(flow.launchPromptWindow(), nullptr);
     scheduler.advance(0.31);
     EXPECT_NE(flow.launchPromptWindow(), nullptr);
@@ -327,6 +330,18 @@ TEST_F(PermissionFlowTest, TheWindowGoesWhenTheAccessIsThere) {
     scheduler.settle();
     EXPECT_EQ(flow.permissionWindow(), nullptr);
     EXPECT_FALSE(flow.lacksFullDiskAccess());
+}
+
+TEST_F(PermissionFlowTest, OnceTheAccessIsThereTheChecksGoOn) {
+    allowDatabase(false);
+    flow.showFullDiskAccessPrompt();
+    EXPECT_EQ(flow.launchPromptWindow(), nullptr);
+    allowDatabase(true);
+    clickIn(*flow.permissionWindow(), "enabled");
+    scheduler.settle();
+    EXPECT_EQ(flow.permissionWindow(), nullptr);
+    scheduler.advance(0.6);
+    EXPECT_NE(flow.launchPromptWindow(), nullptr);
 }
 
 TEST_F(PermissionFlowTest, AClaimThatIsNotSoShowsAWarning) {

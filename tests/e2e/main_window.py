@@ -72,5 +72,9 @@ class MainWindow:
         place = wait_until(lambda: self.reads("place", role, name).split(), f"{role} {name}")
         self.xdotool("mousemove", *place, "click", "1")
 
+    def act(self, role, name):
+        """Without a pointer or a key, as a screen reader does it for its user."""
+        wait_until(lambda: self.reads("act", role, name).strip() == "True", f"{role} {name} acts")
+
     def open(self):
         self.session.open_main_window()

@@ -2,6 +2,7 @@
 
     screen_reader.py list              every element that shows, a line each: role, TAB, name
     screen_reader.py place ROLE NAME   the middle of the element on the screen: x y
+    screen_reader.py act ROLE NAME     does what the element offers first, as pressing a button
     screen_reader.py focus             role, TAB, name of the element that has the keyboard
     screen_reader.py pulse SECONDS     how long answers took: median, longest and second longest
                                        in milliseconds
@@ -67,6 +68,9 @@ def main():
     role, name = sys.argv[2:]
     for element in showing():
         if element.getRoleName() == role and element.name == name:
+            if sys.argv[1] == "act":
+                print(element.queryAction().doAction(0))
+                return
             box = element.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
             print(box.x + box.width // 2, box.y + box.height // 2)
             return

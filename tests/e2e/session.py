@@ -240,6 +240,22 @@ class Session:
         return subprocess.run(["xdotool", *arguments], env=self.environment,
                               capture_output=True, text=True).stdout
 
+    def place(self, window):
+        """Where it stands on the screen, as ImageMagick says it: width x height + left + top."""
+        shown = self.xdotool("getwindowgeometry", "--shell", window).split()
+        values = dict(line.split("=") for line in shown)
+        return f"{values['WIDTH']}x{values['HEIGHT']}+{values['X']}+{values['Y']}"
+
+    def brightness(self, place):
+        """Of this part of the screen, from 0 for black to 1 for white, in a picture taken now."""
+        return float(self.tool("import", "-silent", "-window", "root", "-crop", place,
+                               "-colorspace", "Gray", "-format", "%[fx:mean]", "info:-"))
+
+    def tool(self, *command):
+        """What another program prints that looks at the session."""
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True,
+                              check=True, timeout=PATIENCE).stdout
+
     def visible_window(self, heights, title=None):
         """The program's window on the screen whose height is one of these. Titles alone don't tell
         its windows apart: the status panel has the main window's."""

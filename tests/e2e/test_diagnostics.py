@@ -1,5 +1,7 @@
 """The diagnostics window of the running program: what it tells, and the files it makes."""
 
+import os
+import platform
 import sqlite3
 import unittest
 
@@ -90,6 +92,18 @@ class Diagnostics(DesktopTestCase):
         self.assertIn("] [AX      ] Notification from [Mail]\n", text)
         self.assertNotIn("Anna", text)
         self.assertNotIn("minutes", text)
+
+    def test_a_copied_report_is_what_other_programs_paste(self):
+        self.open()
+        self.window.click("push button", "Copy Report")
+        self.logged("Report copied to the clipboard")
+        text = self.session.tool("xclip", "-selection", "clipboard", "-target", "UTF8_STRING", "-out")
+        self.assertTrue(text.startswith("=== Tessarine Diagnostics Report ===\nGenerated: "))
+        distribution = platform.freedesktop_os_release()["PRETTY_NAME"]
+        self.assertIn(f"\nSystem: {distribution} (Linux {os.uname().release})\n", text)
+        self.assertIn("\nRecords:  1\n", text)
+        self.assertIn(f"\nPath:     {self.session.hoard}\n", text)
+        self.assertIn("Notification from [Mail]", text)
 
 
 if __name__ == "__main__":

@@ -92,6 +92,17 @@ class General(SettingsTestCase):
             self.window.click("radio button", button)
             self.wait_for_setting("appearanceMode", mode)
 
+    def test_every_open_window_is_dark_on_the_screen_as_soon_as_that_is_chosen(self):
+        behind = self.session.open_main_window()
+        self.open()
+        places = [self.session.place(window) for window in (behind, self.visible()[0])]
+        self.window.click("radio button", "Light")
+        for place in places:
+            wait_until(lambda: self.session.brightness(place) > 0.8, f"light at {place}")
+        self.window.click("radio button", "Dark")
+        for place in places:
+            wait_until(lambda: self.session.brightness(place) < 0.3, f"darkness at {place}")
+
     def test_launch_at_login(self):
         entry = self.session.config / AUTOSTART
         self.open()

@@ -9,6 +9,12 @@ Item {
 
     required property BrowserList list
 
+    readonly property real fullWidth: app.widthWithCaption + sort.widthWithCaption + group.widthWithCaption
+        + 2 * controls.spacing + Metrics.spacingMedium + Math.ceil(counter.implicitWidth)
+    readonly property bool captionsFit: fullWidth <= width
+    readonly property int narrowestSort: 120
+    readonly property int widestSort: 140
+
     implicitHeight: controls.height
 
     Row {
@@ -18,9 +24,15 @@ Item {
         spacing: Metrics.spacingWide
 
         CaptionedControl {
+            id: app
+
             caption: qsTrId("toolbar.app.label")
+            captionFits: toolbar.captionsFit
+            controlWidth: appPicker.width
 
             MenuPicker {
+                id: appPicker
+
                 objectName: "appPicker"
                 width: 160
                 accessibleName: qsTrId("toolbar.app.label")
@@ -32,11 +44,17 @@ Item {
         }
 
         CaptionedControl {
+            id: sort
+
             caption: qsTrId("toolbar.sort.label")
+            captionFits: toolbar.captionsFit
+            controlWidth: sortPicker.width
 
             MenuPicker {
+                id: sortPicker
+
                 objectName: "sortPicker"
-                width: 120
+                width: Math.max(toolbar.narrowestSort, Math.min(toolbar.widestSort, implicitWidth))
                 accessibleName: qsTrId("toolbar.sort.label")
                 model: toolbar.list.sortLabels
                 currentIndex: toolbar.list.sortMode
@@ -45,9 +63,15 @@ Item {
         }
 
         CaptionedControl {
+            id: group
+
             caption: qsTrId("toolbar.group.label")
+            captionFits: toolbar.captionsFit
+            controlWidth: groupButtons.width
 
             SegmentedButtons {
+                id: groupButtons
+
                 objectName: "groupButtons"
                 accessibleName: qsTrId("toolbar.group.label")
                 model: toolbar.list.groupLabels
@@ -58,6 +82,8 @@ Item {
     }
 
     PlainLabel {
+        id: counter
+
         objectName: "counter"
         anchors.left: controls.right
         anchors.leftMargin: Metrics.spacingMedium
@@ -67,6 +93,8 @@ Item {
         text: toolbar.list.counterText
         font.pixelSize: Metrics.textSmall
         color: Theme.colours.secondaryLabel
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
         visible: toolbar.list.face !== BrowserList.Loading
         Accessible.role: Accessible.StaticText
         Accessible.name: text

@@ -24,6 +24,7 @@ Rectangle {
     Accessible.name: banner.title + " " + banner.subtitle
 
     Rectangle {
+        anchors.left: parent.left
         width: view.sideBar
         height: parent.height
         color: view.ink
@@ -32,7 +33,8 @@ Rectangle {
     Item {
         id: symbolRoom
 
-        x: view.horizontalPadding
+        anchors.left: parent.left
+        anchors.leftMargin: view.horizontalPadding
         width: view.symbolColumn
         height: parent.height
 

@@ -49,7 +49,8 @@ Sheet {
             AppIconTile {
                 id: icon
 
-                x: Metrics.sheetPadding
+                anchors.left: parent.left
+                anchors.leftMargin: Metrics.sheetPadding
                 y: Metrics.sheetPadding
                 width: sheet.headerIcon
                 height: sheet.headerIcon

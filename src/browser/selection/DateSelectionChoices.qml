@@ -18,6 +18,7 @@ Column {
     PlainLabel {
         width: parent.width
         leftPadding: Metrics.spacingSmall
+        rightPadding: Metrics.spacingSmall
         text: qsTrId("datePopover.title")
         font.pixelSize: Metrics.textHeadline
         font.weight: Font.DemiBold
@@ -61,6 +62,7 @@ Column {
     PlainLabel {
         width: parent.width
         leftPadding: Metrics.spacingSmall
+        rightPadding: Metrics.spacingSmall
         text: qsTrId("datePopover.noData")
         color: Theme.colours.secondaryLabel
         wrapMode: Text.Wrap

@@ -18,6 +18,8 @@ PopoverPanel {
     onClosed: dates.showDatePickerPopover = false
 
     contentItem: DateSelectionChoices {
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft // popups inherit it from nobody
+        LayoutMirroring.childrenInherit: true
         dates: popover.dates
     }
 }

@@ -13,6 +13,7 @@ Item {
     SymbolImage {
         id: image
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         symbol: content.symbol
         size: Metrics.symbolSize

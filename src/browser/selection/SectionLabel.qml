@@ -5,6 +5,7 @@ import Tessarine.Theme
 // A small heading inside a popover.
 PlainLabel {
     leftPadding: Metrics.spacingSmall
+    rightPadding: Metrics.spacingSmall
     topPadding: Metrics.spacingTiny
     font.pixelSize: Metrics.textSmall
     font.weight: Font.DemiBold

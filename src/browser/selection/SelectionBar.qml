@@ -42,7 +42,7 @@ Item {
             symbol: "square.grid.2x2"
             text: qsTrId("toolbar.group.byApp")
             toolTipText: qsTrId("selection.byApp.help")
-            onClicked: appMenu.popup(byApp, 0, byApp.height + Metrics.spacingSmall)
+            onClicked: appMenu.popupBelow(byApp)
 
             ContextMenu {
                 id: appMenu
@@ -100,6 +100,8 @@ Item {
         text: bar.selection.selectionText
         font.pixelSize: Metrics.textSmall
         color: Theme.colours.secondaryLabel
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }

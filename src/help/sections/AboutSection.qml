@@ -81,6 +81,7 @@ HelpPage {
 
     TextButton {
         objectName: "reviewAgreement"
+        anchors.left: parent.left
         text: qsTrId("help.about.eula.reviewBtn")
         enabled: page.view.agreementText
         onClicked: page.showEULA = true

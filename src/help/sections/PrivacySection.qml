@@ -101,6 +101,7 @@ HelpPage {
 
     TextButton {
         objectName: "reviewNotice"
+        anchors.left: parent.left
         text: qsTrId("help.privacy.btn.reviewNotice")
         enabled: page.view.canShowPrivacyNotice
         onClicked: page.view.showPrivacyNotice()

@@ -1,0 +1,36 @@
+#include "core/MemoryReturn.h"
+
+#include "platform/ApplicationControl.h"
+#include "platform/Scheduler.h"
+#include "windows/ViewWindow.h"
+
+#include <QQmlEngine>
+#include <QWindow>
+
+namespace tessarine {
+
+MemoryReturn::MemoryReturn(Scheduler& scheduler, ApplicationControl& application,
+                           QQmlEngine& engine)
+    : scheduler_(scheduler)
+    , application_(application)
+    , engine_(engine) {}
+
+void MemoryReturn::watch(const QWindow& window) {
+    connect(&window, &QWindow::visibleChanged, this, &MemoryReturn::onVisibleChanged,
+            Qt::UniqueConnection);
+}
+
+// Once the renderer has let go of what it had for the window, on its thread and on this one.
+void MemoryReturn::onVisibleChanged(bool visible) {
+    if (!visible)
+        scheduler_.onMainAfter(delay, alive_.guard([this] { giveBack(); }));
+}
+
+void MemoryReturn::giveBack() const {
+    if (!ViewWindow::allVisible().empty())
+        return;
+    engine_.collectGarbage();
+    application_.returnFreeMemory();
+}
+
+} // namespace tessarine

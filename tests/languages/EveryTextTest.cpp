@@ -1,0 +1,149 @@
+// Every text of every window, in every language: whole, inside its window, in its own place.
+
+#include "languages/Language.h"
+#include "languages/TextLayout.h"
+#include "languages/WindowScenes.h"
+#include "support/WindowPicture.h"
+
+#include <QGuiApplication>
+#include <QMenu>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <tuple>
+
+namespace tessarine::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::IsEmpty;
+
+using Spoken = std::tuple<WindowScene, Language>;
+
+std::string spokenName(const ::testing::TestParamInfo<Spoken>& info) {
+    std::string name = std::get<0>(info.param).name;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name + "_" + nameOf(std::get<1>(info.param));
+}
+
+// The language is there before the windows are.
+class InLanguage {
+protected:
+    explicit InLanguage(Language language)
+        : language_(language) {}
+
+private:
+    LanguageScope language_;
+};
+
+class EveryTextTest : public ::testing::WithParamInterface<Spoken>, InLanguage, public WindowStage {
+protected:
+    EveryTextTest()
+        : InLanguage(std::get<Language>(GetParam())) {}
+
+    // With a folder for pictures named in the environment, the window goes there, light and dark.
+    void savePictures(QQuickWindow& window) {
+        const QString target = qEnvironmentVariable("TESSARINE_LANGUAGE_PICTURES");
+        if (target.isEmpty())
+            return;
+        const auto [scene, language] = GetParam();
+        for (const QString& mode : {u"light"_qs, u"dark"_qs}) {
+            delegate->applyAppearance(mode);
+            EXPECT_TRUE(
+                savePicture(stillPicture(window), target,
+                            u"%1-%2-%3.png"_qs.arg(QLatin1StringView(scene.name),
+                                                   QLatin1StringView(nameOf(language)), mode)));
+        }
+    }
+};
+
+TEST_P(EveryTextTest, IsWholeAndInItsPlace) {
+    std::get<WindowScene>(GetParam()).bringAbout(*this);
+    QQuickWindow& window = shown();
+    const QList<ShownText> texts = shownTexts(window);
+    EXPECT_FALSE(texts.isEmpty());
+    EXPECT_EQ(faultsOf(texts), QStringList());
+    savePictures(window);
+}
+
+// The menu of the status item, which Qt draws: each entry is as wide as its text.
+
+class StatusMenuTest : public ::testing::WithParamInterface<Language>,
+                       InLanguage,
+                       public WindowStage {
+protected:
+    StatusMenuTest()
+        : InLanguage(GetParam()) {}
+};
+
+TEST_P(StatusMenuTest, HasRoomForEachOfItsEntries) {
+    QMenu menu;
+    desktop.statusItem.menuBuilder(menu);
+    menu.ensurePolished();
+    const QSize size = menu.sizeHint();
+    for (QAction* action : menu.actions()) {
+        const QRect place = menu.actionGeometry(action);
+        EXPECT_LE(menu.fontMetrics().horizontalAdvance(action->text()), place.width());
+        EXPECT_LE(place.right(), size.width());
+    }
+    EXPECT_LT(size.width(), 480);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, StatusMenuTest,
+                         ::testing::Values(Language::english, Language::german, Language::italian,
+                                           Language::french, Language::longer, Language::mirrored),
+                         [](const auto& info) { return std::string(nameOf(info.param)); });
+
+// Mirroring: the same texts in the order of the other direction, each at the place across.
+
+class StageOfItsOwn : public WindowStage {
+    void TestBody() override {}
+};
+
+QList<ShownText> textsOf(const WindowScene& scene, Qt::LayoutDirection direction) {
+    const LanguageScope language(Language::english);
+    QGuiApplication::setLayoutDirection(direction); // until the scope ends
+    StageOfItsOwn stage;
+    scene.bringAbout(stage);
+    return shownTexts(stage.shown());
+}
+
+class MirroredTextTest : public ::testing::TestWithParam<WindowScene> {};
+
+TEST_P(MirroredTextTest, StandsAcross) {
+    const QList<ShownText> expected = textsOf(GetParam(), Qt::LeftToRight);
+    const QList<ShownText> mirrored = textsOf(GetParam(), Qt::RightToLeft);
+    ASSERT_EQ(expected.size(), mirrored.size());
+    QStringList faults;
+    for (qsizetype i = 0; i < expected.size(); ++i) {
+        const QRectF place = expected[i].place;
+        const double across = expected[i].windowWidth - place.right();
+        const QRectF found = mirrored[i].place;
+        if (expected[i].goesItsOwnWay)
+            continue;
+        if (std::abs(found.left() - across) > 1.5 || std::abs(found.top() - place.top()) > 1.5)
+            faults
+                << u"%1: %2 instead of %3"_qs.arg(expected[i].text).arg(found.left()).arg(across);
+    }
+    EXPECT_EQ(faults, QStringList());
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, MirroredTextTest, ::testing::ValuesIn(windowScenes()),
+                         [](const auto& info) {
+                             std::string name = info.param.name;
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
+                         });
+
+INSTANTIATE_TEST_SUITE_P(
+    Languages, EveryTextTest,
+    ::testing::Combine(::testing::ValuesIn(windowScenes()),
+                       ::testing::Values(Language::english, Language::german, Language::italian,
+                                         Language::french, Language::longer, Language::mirrored)),
+    spokenName);
+
+} // namespace
+} // namespace tessarine::testing
