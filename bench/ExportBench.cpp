@@ -4,8 +4,8 @@
 // output.
 
 #include "bench/CairoReport.h"
-#include "bench/MemoryMeter.h"
 #include "bench/RatioReporter.h"
+#include "bench/linux/MemoryMeter.h"
 #include "export/ExportManager.h"
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"

@@ -1,7 +1,7 @@
 // The hoard's capture path and its list against the same statements through bare SQLite, on files
 // with the same schema, journal and durability.
 
-#include "platform/qt/SettingsDefaults.h"
+#include "platform/linux/LinuxUserDefaults.h"
 #include "store/HoardStore.h"
 #include "support/SimulatedPlatform.h"
 
@@ -56,7 +56,7 @@ struct Hoard {
 
     QTemporaryDir folder;
     testing::SimulatedFileSystem fileSystem;
-    SettingsDefaults defaults;
+    LinuxUserDefaults defaults;
     testing::ManualScheduler clock;
     HoardStore store;
     sqlite3* bare = nullptr;

@@ -4,12 +4,12 @@
 //
 // usage: bench_launch [ROWS] [PROCESSES]
 
+#include "bench/linux/ResidentMemory.h"
 #include "browser/MainWindow.h"
 #include "core/ViewServices.h"
 #include "windows/ViewEngine.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QProcess>
 #include <QQuickWindow>
 #include <QTemporaryDir>
@@ -35,13 +35,6 @@ double wallClock() {
 
 void reached(const char* stage, double start) {
     std::printf("%s %.1f\n", stage, wallClock() - start);
-}
-
-double residentMegabytes() {
-    QFile status(QStringLiteral("/proc/self/statm"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    return status.readAll().split(' ').at(1).toDouble() * 4096 / 1e6;
 }
 
 int runChild(int argc, char** argv, double start) {

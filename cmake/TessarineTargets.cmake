@@ -1,20 +1,8 @@
 # Settings that every target of the project shares, and one function for each kind of target.
 
-# The folder, in src/platform and tests/platform, of the system that the program is built for.
-set(TESSARINE_SYSTEM linux)
-if(APPLE)
-    set(TESSARINE_SYSTEM macos)
-endif()
-
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
-endif()
-
-# The linker that comes with the compiler takes most of the time of a build after a small change.
-find_program(MOLD mold)
-if(MOLD)
-    add_link_options(-fuse-ld=mold)
 endif()
 
 add_library(tessarine_build INTERFACE)

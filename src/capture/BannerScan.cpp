@@ -48,18 +48,19 @@ bool isBanner(Accessibility& accessibility, const AXElementRef& element, const Q
 
 void runBannerScan(Accessibility& accessibility, const Scheduler& clock, qint32 pid,
                    const std::function<void(CapturedNotification)>& handler,
-                   const std::stop_token& cancelled) {
+                   const std::function<bool()>& isCancelled) {
     const AXElementRef application = accessibility.applicationElement(pid);
     accessibility.setMessagingTimeout(application, messagingTimeout);
+    const auto stopsHere = [&isCancelled] { return isCancelled && isCancelled(); };
     std::vector<AXElementRef> banners;
     for (const AXElementRef& window : elementsOf(accessibility, application, ax::windows)) {
-        if (cancelled.stop_requested())
+        if (stopsHere())
             return;
         std::vector<AXElementRef> found = collectBanners(accessibility, window, 0);
         std::move(found.begin(), found.end(), std::back_inserter(banners));
     }
     for (const AXElementRef& banner : banners) {
-        if (cancelled.stop_requested())
+        if (stopsHere())
             return;
         if (auto record = captureBanner(accessibility, banner, clock.now()))
             handler(std::move(*record));

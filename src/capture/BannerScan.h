@@ -5,7 +5,6 @@
 #include "platform/Scheduler.h"
 
 #include <functional>
-#include <stop_token>
 #include <vector>
 
 namespace tessarine {
@@ -15,10 +14,11 @@ inline constexpr int axMaxDepth = 12;
 
 // One scan: walks the windows of a process and hands each banner that it can read to the handler,
 // one after the other, on the calling worker. The system may give a banner only once, so the
-// handler must not lose it. Ends early only when it is cancelled from outside.
+// handler must not lose it. Ends early only when it is cancelled from outside, which it asks before
+// each window and each banner.
 void runBannerScan(Accessibility& accessibility, const Scheduler& clock, qint32 pid,
                    const std::function<void(CapturedNotification)>& handler,
-                   const std::stop_token& cancelled = {});
+                   const std::function<bool()>& isCancelled = {});
 
 // The banners at and below an element that lies at this depth: groups with a description and a
 // direct child of static text. Nothing below a banner is looked at.

@@ -1,6 +1,7 @@
 #include "core/ApplicationSetup.h"
 #include "core/DisplayCheck.h"
 #include "core/Program.h"
+#include "platform/Platform.h"
 #include "platform/SingleInstance.h"
 
 #include <QApplication>
@@ -25,6 +26,7 @@ int main(int argc, char** argv) {
         instance->activateFirst();
         return EXIT_SUCCESS;
     }
+    prepareProcess();
     [[maybe_unused]] const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     setUpApplication();
     Program program;

@@ -87,9 +87,7 @@ QString maskedMessage(const QString& message) {
 QString reportDate(std::optional<double> timestamp) {
     if (!timestamp)
         return none();
-    return DateFormatter::withStyles(DateFormatter::Style::medium, DateFormatter::Style::brief,
-                                     userDateLocale())
-        .text(*timestamp);
+    return DateFormatter::withUserStyles(DateStyle::medium, DateStyle::brief).text(*timestamp);
 }
 
 QString reportCount(qint64 number) {

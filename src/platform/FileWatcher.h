@@ -31,7 +31,7 @@ public:
     //
     // The handler runs on the main thread. A write that happens before the call for an earlier
     // one has begun is merged into it; one that happens later leads to one more call. A system may
-    // call once more when the writing has ended.
+    // call once more when the writing has ended. ChangeMerger does all of this.
     virtual std::unique_ptr<FileWatch> watchWrites(const QString& path, Task handler) = 0;
 };
 

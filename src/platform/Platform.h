@@ -28,6 +28,10 @@ struct Platform {
     std::unique_ptr<SystemFacts> systemFacts;
 };
 
+// Sets what holds for the whole process and has to be set before there is an application object.
+// Once, on the main thread.
+void prepareProcess();
+
 // Makes the ports of the system that the program was built for. Needs an application object, and
 // the thread it is called on is the main thread from then on.
 std::unique_ptr<Platform> makePlatform();

@@ -3,18 +3,43 @@
 #include <QString>
 
 #include <functional>
-
-class QMenu;
+#include <optional>
+#include <vector>
 
 namespace tessarine {
 
 class UserDefaults;
 
+// One line of a menu: a command, a caption (which is a command that is disabled), or a separator,
+// which has nothing but that.
+struct StatusMenuItem {
+    QString title;
+    std::function<void()> action;
+    QString key =
+        {}; // the character that chooses it together with the system's command key, if any
+    bool isEnabled = true;
+    std::optional<bool> isChecked = {}; // for what is switched on and off
+    bool isSeparator = false;
+
+    static StatusMenuItem caption(const QString& title) {
+        StatusMenuItem item{title, nullptr};
+        item.isEnabled = false;
+        return item;
+    }
+    static StatusMenuItem separator() {
+        StatusMenuItem item;
+        item.isSeparator = true;
+        return item;
+    }
+};
+
+using StatusMenu = std::vector<StatusMenuItem>;
+
 // The program's permanent face on the desktop: a small picture, a short text beside it, and a menu
 // that a click opens. Main thread.
 class StatusItem {
 public:
-    using MenuBuilder = std::function<void(QMenu&)>;
+    using MenuBuilder = std::function<StatusMenu()>;
 
     StatusItem() = default;
     StatusItem(const StatusItem&) = delete;
@@ -40,7 +65,7 @@ public:
     // also a click of the middle button, since not all desktops tell of keys with a click.
     virtual void setAlternateActivation(std::function<void()> activation) = 0;
 
-    // Fills an empty menu each time that the user asks for it.
+    // Gives the menu, anew each time that the user asks for it.
     virtual void setMenuBuilder(MenuBuilder builder) = 0;
 
     // Where the user has moved an item that can be moved is kept in these defaults, over the starts

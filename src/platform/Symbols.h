@@ -21,7 +21,7 @@ public:
     // null image for a name that is not known.
     virtual QImage image(const QString& name, int pixels, const QColor& tint) const = 0;
 
-    // All names that are known.
+    // All names that are known; none where the system lists none of its own.
     virtual QStringList names() const = 0;
 };
 

@@ -10,10 +10,10 @@ namespace tessarine {
 
 // The key-value store of the user's settings and cursors. What a setter is given is on disk before
 // it returns. What could not be written holds for this run, and the next setter writes it too if it
-// can; until then hasUnsavedValues() tells. Nothing waits for long. Getters are strict: a
-// value that is not plainly of the type asked for reads as absent. They go by how a value reads and
-// not by the setter that wrote it: "1" is a text, a bool, an integer, a number and a list of one.
-// Any thread.
+// can; until then hasUnsavedValues() tells. Nothing waits for long. What was set reads as it was
+// set by the getter of its own type. What a getter makes of a value of another type is the system's
+// habit: nothing, or the value converted; a text that is no number is 0 everywhere, and no list of
+// texts. Any thread.
 class UserDefaults {
 public:
     UserDefaults() = default;

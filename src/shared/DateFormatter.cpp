@@ -1,6 +1,7 @@
 #include "shared/DateFormatter.h"
 
 #include "shared/LocalZone.h"
+#include "shared/UserLocale.h"
 #include "shared/WallCalendar.h"
 
 #include <unicode/calendar.h>
@@ -65,6 +66,12 @@ DateFormatter DateFormatter::withStyles(Style date, Style time, const QByteArray
     std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
         icuStyle(date), icuStyle(time), icu::Locale(locale.constData())));
     return DateFormatter(std::make_unique<Format>(std::move(format)));
+}
+
+DateFormatter DateFormatter::withUserStyles(Style date, Style time) {
+    const std::optional<QString> pattern = userDatePattern(date, time);
+    const QByteArray locale = userDateLocale();
+    return pattern ? withPattern(*pattern, locale) : withStyles(date, time, locale);
 }
 
 DateFormatter::DateFormatter(std::unique_ptr<Format> format)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/DateStyle.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -13,13 +15,16 @@ namespace tessarine {
 // time.
 class DateFormatter {
 public:
-    enum class Style { none, brief, medium, full };
+    using Style = DateStyle;
 
     // A Unicode date pattern ("yyyy-MM-dd"). A locale by its ICU name ("de_DE").
     static DateFormatter withPattern(const QString& pattern, const QByteArray& locale);
 
     // As the locale's readers are used to.
     static DateFormatter withStyles(Style date, Style time, const QByteArray& locale);
+
+    // As the user has set the system, when it is made.
+    static DateFormatter withUserStyles(Style date, Style time);
 
     DateFormatter(DateFormatter&& other) noexcept;
     DateFormatter& operator=(DateFormatter&& other) noexcept;

@@ -2,12 +2,8 @@
 
 #include "capture/NotificationListener.h"
 #include "platform/DefaultsKeys.h"
-#include "platform/StatusItem.h"
 #include "platform/UserDefaults.h"
 #include "shell/LaunchAgentManager.h"
-
-#include <QKeySequence>
-#include <QMenu>
 
 #include <algorithm>
 #include <limits>
@@ -36,7 +32,7 @@ MenuBarController::MenuBarController(StatusItem& statusItem,
     statusItem_.setActivation(actions_.openHoard);
     statusItem_.setAlternateActivation(actions_.openDiagnostics);
     statusItem_.keepPlaceIn(defaults_);
-    statusItem_.setMenuBuilder([this](QMenu& menu) { fillMenu(menu); });
+    statusItem_.setMenuBuilder([this] { return menu(); });
     connect(listener_.get(), &NotificationListener::notificationsChanged, this,
             &MenuBarController::updateBadge);
     updateBadge();
@@ -76,27 +72,30 @@ QString MenuBarController::tip(quint64 count) {
     return count < 1 ? QString() : qtTrId("menu.newNotifications", int(std::min(count, largest)));
 }
 
-void MenuBarController::fillMenu(QMenu& menu) const {
-    menu.addAction(programName)->setEnabled(false);
-    menu.addSeparator();
-    menu.addAction(qtTrId("menu.openHoard"), QKeySequence(Qt::CTRL | Qt::Key_O), this,
-                   actions_.openHoard);
-    menu.addAction(qtTrId("menu.help.title"), QKeySequence(Qt::CTRL | Qt::Key_Question), this,
-                   actions_.openHelp);
-    menu.addAction(qtTrId("menu.welcome.title"), this, actions_.openWelcomeGuide);
-    menu.addAction(qtTrId("menu.preferences.title"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
-                   actions_.openPreferences);
-    menu.addSeparator();
-    QAction* atLogin =
-        menu.addAction(qtTrId("menu.launchAtLogin"), this, [this] { launchAgent_.toggle(); });
-    atLogin->setCheckable(true);
-    atLogin->setChecked(launchAgent_.isEnabled());
+StatusMenuItem MenuBarController::launchAtLogin() const {
+    StatusMenuItem item{qtTrId("menu.launchAtLogin"), [this] { launchAgent_.toggle(); }};
+    item.isChecked = launchAgent_.isEnabled();
+    return item;
+}
+
+StatusMenu MenuBarController::menu() const {
+    StatusMenu menu{
+        StatusMenuItem::caption(programName),
+        StatusMenuItem::separator(),
+        {qtTrId("menu.openHoard"), actions_.openHoard, QStringLiteral("o")},
+        {qtTrId("menu.help.title"), actions_.openHelp, QStringLiteral("?")},
+        {qtTrId("menu.welcome.title"), actions_.openWelcomeGuide},
+        {qtTrId("menu.preferences.title"), actions_.openPreferences, QStringLiteral(",")},
+        StatusMenuItem::separator(),
+        launchAtLogin(),
+    };
     if (actions_.lacksFullDiskAccess())
-        menu.addAction(qtTrId("menu.fullDiskAccess"), this, actions_.openFullDiskAccess);
-    menu.addSeparator();
-    menu.addAction(qtTrId("menu.checkForUpdates"), this, actions_.checkForUpdates);
-    menu.addSeparator();
-    menu.addAction(qtTrId("menu.quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, actions_.quit);
+        menu.push_back({qtTrId("menu.fullDiskAccess"), actions_.openFullDiskAccess});
+    menu.push_back(StatusMenuItem::separator());
+    menu.push_back({qtTrId("menu.checkForUpdates"), actions_.checkForUpdates});
+    menu.push_back(StatusMenuItem::separator());
+    menu.push_back({qtTrId("menu.quit"), actions_.quit, QStringLiteral("q")});
+    return menu;
 }
 
 } // namespace tessarine

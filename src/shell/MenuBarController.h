@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/StatusItem.h"
+
 #include <QObject>
 #include <QString>
 
@@ -7,13 +9,10 @@
 #include <memory>
 #include <optional>
 
-class QMenu;
-
 namespace tessarine {
 
 class LaunchAgentManager;
 class NotificationListener;
-class StatusItem;
 class UserDefaults;
 
 // The status item: a bell, how many notifications came since the user last looked, and the menu.
@@ -56,7 +55,8 @@ public:
 private:
     qint64 listCount() const;
     void updateBadge();
-    void fillMenu(QMenu& menu) const;
+    StatusMenu menu() const;
+    StatusMenuItem launchAtLogin() const;
 
     StatusItem& statusItem_;
     std::shared_ptr<NotificationListener> listener_;

@@ -84,7 +84,7 @@ TEST_F(AnnouncementScanTest, GivesNoRecordForAnAnnouncementThatIsTakenBeforeItsT
 }
 
 TEST_F(AnnouncementScanTest, CancelledBetweenBannersLeavesTheNextAnnouncementUntaken) {
-    std::stop_source cancelling;
+    bool cancelled = false;
     const ElementPtr first = banner(u"drawn"_qs);
     const ElementPtr second = banner(u"drawn"_qs);
     first->announcement = Announcement{u"Mail"_qs, u"a"_qs, {}, 0};
@@ -92,7 +92,7 @@ TEST_F(AnnouncementScanTest, CancelledBetweenBannersLeavesTheNextAnnouncementUnt
     show({first, second});
     runBannerScan(
         accessibility_, scheduler_, shellPid,
-        [&](const CapturedNotification&) { cancelling.request_stop(); }, cancelling.get_token());
+        [&](const CapturedNotification&) { cancelled = true; }, [&] { return cancelled; });
     EXPECT_THAT(scan(), ElementsAre(u"b"_qs));
 }
 

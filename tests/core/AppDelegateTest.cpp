@@ -7,7 +7,6 @@
 #include "support/WindowPicture.h"
 
 #include <QFile>
-#include <QMenu>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickView>
@@ -45,11 +44,9 @@ protected:
 
     // The menu of the status item, as a click opens it.
     void chooseInStatusMenu(const QString& text) {
-        QMenu menu;
-        desktop.statusItem.menuBuilder(menu);
-        for (QAction* action : menu.actions()) {
-            if (action->text() == text)
-                return action->trigger();
+        for (const StatusMenuItem& item : desktop.statusItem.menuBuilder()) {
+            if (item.title == text)
+                return item.action();
         }
         FAIL() << "no such entry";
     }

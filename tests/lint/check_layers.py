@@ -40,6 +40,8 @@ LAYER_OF_FOLDERS = {
 }
 
 SYSTEM_FOLDERS = ["src/platform/linux", "src/platform/macos"]
+# What one system's tests and benchmarks know of it.
+SYSTEM_TEST_FOLDERS = ["tests/platform/linux", "tests/platform/macos", "bench/linux", "bench/macos"]
 SYSTEM_MACRO = re.compile(
     r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(__linux__|__linux|__APPLE__|__MACH__|__unix__|"
     r"__OBJC__|_WIN32|Q_OS_\w+|TARGET_OS_\w+)\b")
@@ -163,6 +165,16 @@ def check_systems(root, files):
     return violations
 
 
+def check_system_conditions(root, files):
+    """Tests and benchmarks too ask only in their system's own folder which one it is."""
+    return [f"{file}:{number}: {match[1]} is known to one system only"
+            for file in files
+            if not any(pathlib.PurePosixPath(folder) in file.parents
+                       for folder in SYSTEM_TEST_FOLDERS)
+            for number, line in enumerate(sources.lines_of(root / file), 1)
+            if (match := SYSTEM_MACRO.match(line))]
+
+
 def check_zones(root, files):
     violations = []
     for file in files:
@@ -206,6 +218,7 @@ def check(root):
     files = sources.cpp_files(root, ["src"])
     return [*check_includes(root, files), *check_cycles(root, files),
             *check_databases(root, files), *check_systems(root, files),
+            *check_system_conditions(root, sources.cpp_files(root, ["tests", "bench"])),
             *check_zones(root, files), *check_libraries(root), *check_documents(root)]
 
 

@@ -132,6 +132,15 @@ class LayersTest(unittest.TestCase):
             "src/shared/Text.cpp:1: __APPLE__ is known to one system only",
             "src/store/HoardStore.cpp:1: Q_OS_MACOS is known to one system only")
 
+    def test_tests_and_benchmarks_ask_nothing_either(self):
+        self.write("tests/platform/linux/ClockTest.cpp", "#ifdef __linux__")
+        self.write("bench/linux/Memory.cpp", "#ifdef __linux__")
+        self.write("tests/store/HoardTest.cpp", "#ifdef Q_OS_LINUX")
+        self.write("bench/HoardBench.cpp", "", "#if defined(__APPLE__)")
+        self.assert_violations(
+            "bench/HoardBench.cpp:2: __APPLE__ is known to one system only",
+            "tests/store/HoardTest.cpp:1: Q_OS_LINUX is known to one system only")
+
     def test_conditions_on_anything_else_are_free(self):
         self.write("src/shared/Text.cpp", "#if QT_VERSION >= 0x060500", "// not on __APPLE__")
         self.assert_violations()

@@ -1,10 +1,7 @@
 #include "preferences/PreferencesStore.h"
 
-#include "platform/qt/SettingsDefaults.h"
 #include "support/Printers.h"
 #include "support/SimulatedPlatform.h"
-
-#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -281,18 +278,6 @@ TEST_P(PreferenceField, IsWrittenAndToldAgainWhenTheValueIsTheSame) {
 TEST_P(PreferenceField, IsThereForTheNextStore) {
     assign();
     EXPECT_EQ(GetParam().current(PreferencesStore(defaults)), GetParam().value);
-}
-
-TEST_P(PreferenceField, ComesBackFromARealFile) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"defaults.conf"_qs);
-    {
-        SettingsDefaults file(path);
-        PreferencesStore first(file);
-        GetParam().assign(first);
-    }
-    SettingsDefaults file(path);
-    EXPECT_EQ(GetParam().current(PreferencesStore(file)), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, PreferenceField, ::testing::ValuesIn(fields),

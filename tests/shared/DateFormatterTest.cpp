@@ -1,5 +1,6 @@
 #include "shared/DateFormatter.h"
 
+#include "support/DateLocaleScope.h"
 #include "support/Numbers.h"
 #include "support/Printers.h"
 #include "support/TimeZoneScope.h"
@@ -77,6 +78,12 @@ TEST_F(DateFormatterTest, HasABriefStyle) {
     EXPECT_EQ(DateFormatter::withStyles(Style::brief, Style::none, "de_DE").text(afternoon),
               u"16.11.25"_qs);
     EXPECT_EQ(DateFormatter::withStyles(Style::medium, Style::brief, "de_DE").text(afternoon),
+              u"16.11.2025, 15:33"_qs);
+}
+
+TEST_F(DateFormatterTest, HasTheUsersStyles) {
+    const testing::DateLocaleScope german("de_DE.UTF-8");
+    EXPECT_EQ(DateFormatter::withUserStyles(DateStyle::medium, DateStyle::brief).text(afternoon),
               u"16.11.2025, 15:33"_qs);
 }
 

@@ -6,11 +6,11 @@
 #include "support/SimulatedDesktop.h"
 #include "support/SimulatedPlatform.h"
 
-#include <QMenu>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 
@@ -158,41 +158,43 @@ TEST_F(MenuBarTest, TheSeenCountOutlivesTheProcess) {
 }
 
 // As a click opens it.
-class StatusMenu {
+class OpenedMenu {
 public:
-    explicit StatusMenu(const testing::SimulatedStatusItem& item) { item.menuBuilder(menu_); }
+    explicit OpenedMenu(const testing::SimulatedStatusItem& item)
+        : items_(item.menuBuilder()) {}
 
     // The entry with this text; null if there is none.
-    QAction* entry(const QString& text) const {
-        for (QAction* action : menu_.actions()) {
-            if (action->text() == text)
-                return action;
-        }
-        return nullptr;
+    const StatusMenuItem* entry(const QString& title) const {
+        const auto found =
+            std::find_if(items_.begin(), items_.end(),
+                         [&](const StatusMenuItem& item) { return item.title == title; });
+        return found == items_.end() ? nullptr : &*found;
     }
 
     QStringList texts() const {
         QStringList texts;
-        for (const QAction* action : menu_.actions())
-            texts << (action->isSeparator() ? u"-"_qs : action->text());
+        for (const StatusMenuItem& item : items_)
+            texts << (item.isSeparator ? u"-"_qs : item.title);
         return texts;
     }
 
 private:
-    QMenu menu_;
+    const StatusMenu items_;
 };
 
 TEST_F(MenuBarTest, TheMenuHasItsItemsInTheirOrder) {
     launch();
-    const StatusMenu menu(item_);
+    const OpenedMenu menu(item_);
     EXPECT_EQ(menu.texts(),
               QStringList({u"Tessarine"_qs, u"-"_qs, u"Open Hoard"_qs, u"Tessarine Help"_qs,
                            u"Welcome Guide…"_qs, u"Preferences…"_qs, u"-"_qs, u"Launch at Login"_qs,
                            u"-"_qs, u"Check for Updates…"_qs, u"-"_qs, u"Quit Tessarine"_qs}));
-    EXPECT_FALSE(menu.entry(u"Tessarine"_qs)->isEnabled());
-    EXPECT_EQ(menu.entry(u"Open Hoard"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
-    EXPECT_EQ(menu.entry(u"Preferences…"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Comma));
-    EXPECT_EQ(menu.entry(u"Quit Tessarine"_qs)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    EXPECT_FALSE(menu.entry(u"Tessarine"_qs)->isEnabled);
+    EXPECT_EQ(menu.entry(u"Open Hoard"_qs)->key, u"o"_qs);
+    EXPECT_EQ(menu.entry(u"Preferences…"_qs)->key, u","_qs);
+    EXPECT_EQ(menu.entry(u"Tessarine Help"_qs)->key, u"?"_qs);
+    EXPECT_EQ(menu.entry(u"Welcome Guide…"_qs)->key, QString());
+    EXPECT_EQ(menu.entry(u"Quit Tessarine"_qs)->key, u"q"_qs);
 }
 
 TEST_F(MenuBarTest, TheClickWithOptionLeadsToTheDiagnosticsAlone) {
@@ -205,30 +207,30 @@ TEST_F(MenuBarTest, TheClickWithOptionLeadsToTheDiagnosticsAlone) {
 TEST_F(MenuBarTest, TheWayToTheDatabaseIsThereAsLongAsItIsMissing) {
     launch();
     lacksFda_ = true;
-    const StatusMenu with(item_);
+    const OpenedMenu with(item_);
     EXPECT_EQ(with.texts().indexOf(u"Access to a Database…"_qs),
               with.texts().indexOf(u"Launch at Login"_qs) + 1);
-    with.entry(u"Access to a Database…"_qs)->trigger();
+    with.entry(u"Access to a Database…"_qs)->action();
     EXPECT_EQ(fdaPrompts_, 1);
     lacksFda_ = false;
-    EXPECT_EQ(StatusMenu(item_).entry(u"Access to a Database…"_qs), nullptr);
+    EXPECT_EQ(OpenedMenu(item_).entry(u"Access to a Database…"_qs), nullptr);
 }
 
 TEST_F(MenuBarTest, TheItemsDoWhatTheySay) {
     launch();
-    const StatusMenu menu(item_);
-    menu.entry(u"Open Hoard"_qs)->trigger();
+    const OpenedMenu menu(item_);
+    menu.entry(u"Open Hoard"_qs)->action();
     EXPECT_EQ(opened_, 1);
-    menu.entry(u"Tessarine Help"_qs)->trigger();
+    menu.entry(u"Tessarine Help"_qs)->action();
     EXPECT_EQ(helps_, 1);
-    menu.entry(u"Welcome Guide…"_qs)->trigger();
+    menu.entry(u"Welcome Guide…"_qs)->action();
     EXPECT_EQ(guides_, 1);
-    menu.entry(u"Preferences…"_qs)->trigger();
+    menu.entry(u"Preferences…"_qs)->action();
     EXPECT_EQ(preferences_, 1);
-    menu.entry(u"Check for Updates…"_qs)->trigger();
+    menu.entry(u"Check for Updates…"_qs)->action();
     EXPECT_EQ(updateChecks_, 1);
     EXPECT_EQ(quit_, 0);
-    menu.entry(u"Quit Tessarine"_qs)->trigger();
+    menu.entry(u"Quit Tessarine"_qs)->action();
     EXPECT_EQ(quit_, 1);
 }
 
@@ -237,14 +239,14 @@ TEST_F(MenuBarTest, LaunchAtLoginIsCheckedWhileItIsEnabledAndTogglesIt) {
     for (const auto status : {LoginItemStatus::notRegistered, LoginItemStatus::requiresApproval,
                               LoginItemStatus::notFound}) {
         system_.loginItem.current = status;
-        const StatusMenu off(item_);
-        EXPECT_FALSE(off.entry(u"Launch at Login"_qs)->isChecked());
-        off.entry(u"Launch at Login"_qs)->trigger();
+        const OpenedMenu off(item_);
+        EXPECT_EQ(off.entry(u"Launch at Login"_qs)->isChecked, false);
+        off.entry(u"Launch at Login"_qs)->action();
         EXPECT_EQ(system_.loginItem.current, LoginItemStatus::enabled);
     }
-    const StatusMenu on(item_);
-    EXPECT_TRUE(on.entry(u"Launch at Login"_qs)->isChecked());
-    on.entry(u"Launch at Login"_qs)->trigger();
+    const OpenedMenu on(item_);
+    EXPECT_EQ(on.entry(u"Launch at Login"_qs)->isChecked, true);
+    on.entry(u"Launch at Login"_qs)->action();
     EXPECT_EQ(system_.loginItem.current, LoginItemStatus::notRegistered);
 }
 

@@ -8,34 +8,47 @@ namespace tessarine {
 
 namespace {
 
-DateFormatter formatterOf(RowTimeFormatter::Style style, const QByteArray& locale) {
-    using Part = DateFormatter::Style;
+struct Styles {
+    DateStyle date;
+    DateStyle time;
+};
+
+Styles stylesOf(RowTimeFormatter::Style style) {
     switch (style) {
     case RowTimeFormatter::Style::dateAndTime:
-        return DateFormatter::withStyles(Part::medium, Part::medium, locale);
+        return {DateStyle::medium, DateStyle::medium};
     case RowTimeFormatter::Style::timeOnly:
-        return DateFormatter::withStyles(Part::none, Part::medium, locale);
+        return {DateStyle::none, DateStyle::medium};
     case RowTimeFormatter::Style::fullDate:
         break;
     }
-    return DateFormatter::withStyles(Part::full, Part::none, locale);
+    return {DateStyle::full, DateStyle::none};
 }
 
 // Made again when the user's locale changes.
 template <RowTimeFormatter::Style style>
 const RowTimeFormatter& userFormatter() {
     static QByteArray locale = userDateLocale();
-    static RowTimeFormatter formatter(style, locale);
+    static RowTimeFormatter formatter = RowTimeFormatter::forUser(style);
     const QByteArray localeNow = userDateLocale();
     if (std::exchange(locale, localeNow) != localeNow)
-        formatter = RowTimeFormatter(style, localeNow);
+        formatter = RowTimeFormatter::forUser(style);
     return formatter;
 }
 
 } // namespace
 
+RowTimeFormatter::RowTimeFormatter(DateFormatter format)
+    : format_(std::move(format)) {}
+
 RowTimeFormatter::RowTimeFormatter(Style style, const QByteArray& locale)
-    : format_(formatterOf(style, locale)) {}
+    : RowTimeFormatter(
+          DateFormatter::withStyles(stylesOf(style).date, stylesOf(style).time, locale)) {}
+
+RowTimeFormatter RowTimeFormatter::forUser(Style style) {
+    return RowTimeFormatter(
+        DateFormatter::withUserStyles(stylesOf(style).date, stylesOf(style).time));
+}
 
 const RowTimeFormatter& rowDateTimeFormatter() {
     return userFormatter<RowTimeFormatter::Style::dateAndTime>();

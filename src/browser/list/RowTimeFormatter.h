@@ -13,10 +13,15 @@ public:
     // A locale by its ICU name ("de_DE").
     RowTimeFormatter(Style style, const QByteArray& locale);
 
+    // As the user has set the system, when it is made.
+    static RowTimeFormatter forUser(Style style);
+
     // Of a moment in seconds since the reference date, as DateFormatter does it.
     QString text(double timestamp) const { return format_.text(timestamp); }
 
 private:
+    explicit RowTimeFormatter(DateFormatter format);
+
     DateFormatter format_;
 };
 

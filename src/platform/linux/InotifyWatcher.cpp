@@ -3,9 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <array>
-#include <atomic>
 #include <cstring>
 
 #include <poll.h>
@@ -23,28 +21,23 @@ constexpr std::uint32_t fileEvents = IN_MODIFY;
 constexpr std::uint32_t folderEvents =
     IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_ONLYDIR;
 
-constexpr std::chrono::milliseconds settlingTime{250};
-
 } // namespace
-
-// What a watch delivers to. The handler runs, and the source is ended, on the main thread.
-struct InotifyWatcher::Source {
-    Task handler;
-    std::atomic<bool> pending = false;
-};
 
 class InotifyWatcher::Watch : public FileWatch {
 public:
-    Watch(InotifyWatcher& watcher, int descriptor, std::shared_ptr<Source> source)
+    Watch(InotifyWatcher& watcher, int descriptor, std::shared_ptr<ChangeMerger> merger)
         : watcher_(watcher)
         , descriptor_(descriptor)
-        , source_(std::move(source)) {}
-    ~Watch() override { watcher_.remove(descriptor_, source_.get()); }
+        , merger_(std::move(merger)) {}
+    ~Watch() override {
+        watcher_.remove(descriptor_, merger_.get());
+        merger_->end();
+    }
 
 private:
     InotifyWatcher& watcher_;
     int descriptor_;
-    std::shared_ptr<Source> source_;
+    std::shared_ptr<ChangeMerger> merger_;
 };
 
 InotifyWatcher::InotifyWatcher(Scheduler& scheduler)
@@ -64,15 +57,14 @@ InotifyWatcher::~InotifyWatcher() {
 std::unique_ptr<FileWatch> InotifyWatcher::watchWrites(const QString& path, Task handler) {
     if (!ensureRunning())
         return nullptr;
-    const auto source = std::make_shared<Source>();
-    source->handler = std::move(handler);
     const std::uint32_t mask = QFileInfo(path).isDir() ? folderEvents : fileEvents;
     const std::lock_guard lock(mutex_);
     const int descriptor = inotify_add_watch(events_, QFile::encodeName(path).constData(), mask);
     if (descriptor < 0)
         return nullptr;
-    sources_.emplace(descriptor, source);
-    return std::make_unique<Watch>(*this, descriptor, source);
+    std::shared_ptr<ChangeMerger> merger = ChangeMerger::make(scheduler_, std::move(handler));
+    mergers_.emplace(descriptor, merger);
+    return std::make_unique<Watch>(*this, descriptor, std::move(merger));
 }
 
 bool InotifyWatcher::ensureRunning() {
@@ -91,15 +83,12 @@ bool InotifyWatcher::ensureRunning() {
 void InotifyWatcher::readEvents() {
     while (true) {
         std::array<pollfd, 2> waiting{{{events_, POLLIN, 0}, {stop_, POLLIN, 0}}};
-        if (poll(waiting.data(), waiting.size(), millisecondsToNextSettling()) < 0)
+        if (poll(waiting.data(), waiting.size(), -1) < 0)
             continue;
         if (waiting[1].revents != 0)
             return;
-        for (const int descriptor : takeChanged()) {
-            settling_[descriptor] = Clock::now() + settlingTime;
+        for (const int descriptor : takeChanged())
             deliver(descriptor);
-        }
-        deliverSettled();
     }
 }
 
@@ -117,56 +106,23 @@ std::set<int> InotifyWatcher::takeChanged() {
     return changed;
 }
 
-void InotifyWatcher::deliverSettled() {
-    const Clock::time_point now = Clock::now();
-    for (auto entry = settling_.begin(); entry != settling_.end();) {
-        if (entry->second > now) {
-            ++entry;
-            continue;
-        }
-        deliver(entry->first);
-        entry = settling_.erase(entry);
-    }
-}
-
-// For poll(): -1, which is for ever, while all files are still.
-int InotifyWatcher::millisecondsToNextSettling() const {
-    if (settling_.empty())
-        return -1;
-    const auto next = std::min_element(
-        settling_.begin(), settling_.end(),
-        [](const auto& left, const auto& right) { return left.second < right.second; });
-    const auto rest =
-        std::chrono::ceil<std::chrono::milliseconds>(next->second - Clock::now()).count();
-    return static_cast<int>(std::max<std::int64_t>(0, rest));
-}
-
 void InotifyWatcher::deliver(int descriptor) {
     const std::lock_guard lock(mutex_);
-    const auto [first, last] = sources_.equal_range(descriptor);
-    for (auto entry = first; entry != last; ++entry) {
-        if (entry->second->pending.exchange(true))
-            continue;
-        scheduler_.onMain([weak = std::weak_ptr<Source>(entry->second)] {
-            const std::shared_ptr<Source> source = weak.lock();
-            if (!source)
-                return;
-            source->pending = false;
-            source->handler();
-        });
-    }
+    const auto [first, last] = mergers_.equal_range(descriptor);
+    for (auto entry = first; entry != last; ++entry)
+        entry->second->changed();
 }
 
-void InotifyWatcher::remove(int descriptor, const Source* source) {
+void InotifyWatcher::remove(int descriptor, const ChangeMerger* merger) {
     const std::lock_guard lock(mutex_);
-    const auto [first, last] = sources_.equal_range(descriptor);
+    const auto [first, last] = mergers_.equal_range(descriptor);
     for (auto entry = first; entry != last; ++entry) {
-        if (entry->second.get() == source) {
-            sources_.erase(entry);
+        if (entry->second.get() == merger) {
+            mergers_.erase(entry);
             break;
         }
     }
-    if (!sources_.contains(descriptor))
+    if (!mergers_.contains(descriptor))
         inotify_rm_watch(events_, descriptor);
 }
 

@@ -5,12 +5,12 @@
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxSingleInstance.h"
 #include "platform/linux/LinuxSystemFacts.h"
+#include "platform/linux/LinuxUserDefaults.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/applications/LinuxLoginItem.h"
 #include "platform/linux/applications/LinuxSystemSettings.h"
 #include "platform/linux/banners/LinuxAccessibility.h"
 #include "platform/qt/QtScheduler.h"
-#include "platform/qt/SettingsDefaults.h"
 
 #include <QStandardPaths>
 
@@ -27,11 +27,10 @@ QString defaultsPath() {
 
 std::unique_ptr<Platform> makePlatform() {
     auto platform = std::make_unique<Platform>();
-    platform->userDefaults = std::make_unique<SettingsDefaults>(defaultsPath());
+    platform->userDefaults = std::make_unique<LinuxUserDefaults>(defaultsPath());
     platform->fileSystem = makeFileSystem();
     platform->scheduler = std::make_unique<QtScheduler>();
     platform->fileWatcher = std::make_unique<InotifyWatcher>(*platform->scheduler);
-    returnBigBuffersWhenFreed();
     const auto banners = std::make_shared<BannerProcess>(*platform->scheduler);
     banners->whenABurstIsOver(returnFreeMemory);
     platform->workspace = std::make_unique<LinuxWorkspace>(
@@ -43,6 +42,10 @@ std::unique_ptr<Platform> makePlatform() {
         std::make_unique<LinuxSystemSettings>(LinuxSystemSettings::currentDesktops());
     platform->systemFacts = std::make_unique<LinuxSystemFacts>();
     return platform;
+}
+
+void prepareProcess() {
+    returnBigBuffersWhenFreed();
 }
 
 std::unique_ptr<FileSystem> makeFileSystem() {

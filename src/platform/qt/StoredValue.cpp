@@ -1,21 +1,35 @@
 #include "platform/qt/StoredValue.h"
 
 #include <charconv>
-#include <cmath>
 
 namespace tessarine {
 
 namespace {
 
-template <typename Number>
-std::optional<Number> plainNumber(const QString& text) {
+std::optional<qint64> plainInteger(const QString& text) {
     const QByteArray bytes = text.toLatin1(); // what is not Latin-1 becomes '?' and no number
-    Number number{};
+    qint64 number = 0;
     const char* const end = bytes.constData() + bytes.size();
     const auto [stop, error] = std::from_chars(bytes.constData(), end, number);
     if (error != std::errc() || stop != end)
         return std::nullopt;
     return number;
+}
+
+bool isDigitOrPoint(char character) {
+    return (character >= '0' && character <= '9') || character == '.';
+}
+
+// The C++ library of older systems has no std::from_chars for this. Qt's own reading would take
+// blanks, a plus sign and words for numbers too.
+std::optional<double> plainReal(const QString& text) {
+    const QByteArray bytes = text.toLatin1();
+    const qsizetype first = bytes.startsWith('-') ? 1 : 0;
+    if (bytes.size() <= first || !isDigitOrPoint(bytes.at(first)) || !isDigitOrPoint(bytes.back()))
+        return std::nullopt;
+    bool isNumber = false;
+    const double number = bytes.toDouble(&isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
 }
 
 // A list in which a text needs a form of its own, as one with a NUL does, comes from a file so.
@@ -39,13 +53,12 @@ bool booleanOf(const QVariant& value) {
 
 qint64 integerOf(const QVariant& value) {
     const std::optional<QString> text = textOf(value);
-    return text ? plainNumber<qint64>(*text).value_or(0) : 0;
+    return text ? plainInteger(*text).value_or(0) : 0;
 }
 
 double numberOf(const QVariant& value) {
     const std::optional<QString> text = textOf(value);
-    const double number = text ? plainNumber<double>(*text).value_or(0) : 0;
-    return std::isfinite(number) ? number : 0;
+    return text ? plainReal(*text).value_or(0) : 0;
 }
 
 QStringList textListOf(const QVariant& value) {
@@ -76,7 +89,7 @@ std::optional<QString> textOf(const QVariant& value) {
 std::vector<qint64> integerListOf(const QVariant& value) {
     std::vector<qint64> numbers;
     for (const QString& text : textListOf(value)) {
-        const std::optional<qint64> number = plainNumber<qint64>(text);
+        const std::optional<qint64> number = plainInteger(text);
         if (!number)
             return {};
         numbers.push_back(*number);

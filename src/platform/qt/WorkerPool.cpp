@@ -1,5 +1,7 @@
 #include "platform/qt/WorkerPool.h"
 
+#include "platform/ThreadQuality.h"
+
 #include <chrono>
 
 namespace tessarine {
@@ -47,8 +49,9 @@ void WorkerPool::work(Workers::iterator self) {
         --idle_;
         if (!found || !hasWork())
             break;
-        Task task = takeMostUrgent();
+        auto [quality, task] = takeMostUrgent();
         lock.unlock();
+        setThreadQuality(quality);
         task();
         task = nullptr;
         lock.lock();
@@ -61,16 +64,14 @@ bool WorkerPool::hasWork() const {
     return queued_ > 0;
 }
 
-Task WorkerPool::takeMostUrgent() {
-    for (auto queue = queues_.rbegin(); queue != queues_.rend(); ++queue) {
-        if (!queue->empty()) {
-            Task task = std::move(queue->front());
-            queue->pop_front();
-            --queued_;
-            return task;
-        }
-    }
-    return nullptr;
+WorkerPool::Job WorkerPool::takeMostUrgent() {
+    std::size_t urgency = queues_.size() - 1;
+    while (urgency > 0 && queues_[urgency].empty())
+        --urgency;
+    Job job{static_cast<QualityOfService>(urgency), std::move(queues_[urgency].front())};
+    queues_[urgency].pop_front();
+    --queued_;
+    return job;
 }
 
 // A finished worker has let go of the lock for good by the time it can be joined here, or does so

@@ -26,9 +26,14 @@ public:
 private:
     using Workers = std::list<std::thread>;
 
+    struct Job {
+        QualityOfService quality;
+        Task task;
+    };
+
     void work(Workers::iterator self);
     bool hasWork() const;
-    Task takeMostUrgent();
+    Job takeMostUrgent(); // while there is work
     void reap();
 
     std::mutex mutex_;

@@ -22,27 +22,44 @@ void call(const std::function<void()>& action) {
 }
 
 // Whether two menus would look and work alike. What an item does follows from how it reads.
-bool sameItems(const QMenu& left, const QMenu& right) {
-    const auto same = [](const QAction* a, const QAction* b) {
-        return a->text() == b->text() && a->isSeparator() == b->isSeparator() &&
-               a->isEnabled() == b->isEnabled() && a->isCheckable() == b->isCheckable() &&
-               a->isChecked() == b->isChecked();
+bool sameItems(const StatusMenu& left, const StatusMenu& right) {
+    const auto same = [](const StatusMenuItem& a, const StatusMenuItem& b) {
+        return a.title == b.title && a.isSeparator == b.isSeparator && a.isEnabled == b.isEnabled &&
+               a.isChecked == b.isChecked;
     };
-    const QList<QAction*> ours = left.actions();
-    const QList<QAction*> theirs = right.actions();
-    return std::equal(ours.begin(), ours.end(), theirs.begin(), theirs.end(), same);
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), same);
+}
+
+void addItem(QMenu& menu, const StatusMenuItem& item) {
+    if (item.isSeparator) {
+        menu.addSeparator();
+        return;
+    }
+    QAction* const action = menu.addAction(item.title);
+    action->setEnabled(item.isEnabled);
+    action->setCheckable(item.isChecked.has_value());
+    action->setChecked(item.isChecked.value_or(false));
+    if (item.action)
+        QObject::connect(action, &QAction::triggered, action, [run = item.action] { run(); });
+}
+
+void fill(QMenu& menu, const StatusMenu& items) {
+    for (const StatusMenuItem& item : items)
+        addItem(menu, item);
+}
+
+void setShortcuts(const QMenu& menu, const StatusMenu& items) {
+    const QList<QAction*> actions = menu.actions();
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (!items[i].key.isEmpty())
+            actions.at(qsizetype(i))->setShortcut(QStringLiteral("Ctrl+") + items[i].key);
+    }
 }
 
 constexpr qint64 greatestDistance = 32767; // window systems count in 16 bits
 
 int distanceOf(qint64 saved) {
     return int(std::clamp<qint64>(saved, 0, greatestDistance));
-}
-
-// The host of a tray draws them, and doesn't obey them.
-void dropShortcuts(const QMenu& menu) {
-    for (QAction* action : menu.actions())
-        action->setShortcut({});
 }
 
 // The entry with this shortcut that can be chosen; null if there is none.
@@ -139,6 +156,7 @@ void LinuxStatusItem::showInTray() {
     }
     panel_.reset();
     trayMenu_ = std::make_unique<QMenu>();
+    trayItems_.clear();
     connect(trayMenu_.get(), &QMenu::aboutToShow, this, &LinuxStatusItem::refillTrayMenu);
     refillTrayMenu();
     tray_ = std::make_unique<QSystemTrayIcon>();
@@ -189,18 +207,16 @@ void LinuxStatusItem::refreshTip() {
 }
 
 // The host of a tray fetches the menu when it likes, and answers by the items that it has fetched:
-// they are only replaced by others.
+// they are only replaced by others. It would draw shortcuts and not obey them.
 void LinuxStatusItem::refillTrayMenu() {
     if (!builder_)
         return;
-    QMenu fresh;
-    builder_(fresh);
-    dropShortcuts(fresh);
-    if (sameItems(*trayMenu_, fresh))
+    StatusMenu fresh = builder_();
+    if (sameItems(trayItems_, fresh))
         return;
+    trayItems_ = std::move(fresh);
     trayMenu_->clear();
-    builder_(*trayMenu_);
-    dropShortcuts(*trayMenu_);
+    fill(*trayMenu_, trayItems_);
 }
 
 // Qt knows the shortcuts of a menu only where a window of the program has it as a part.
@@ -223,7 +239,9 @@ void LinuxStatusItem::popUpMenu(const QPoint& place) {
     openMenu_ = new QMenu(panel_.get());
     openMenu_->setAttribute(Qt::WA_DeleteOnClose);
     openMenu_->setPalette(widgetPalette(appearance_.prefersDark()));
-    builder_(*openMenu_);
+    const StatusMenu items = builder_();
+    fill(*openMenu_, items);
+    setShortcuts(*openMenu_, items);
     openMenu_->installEventFilter(this);
     openMenu_->popup(place);
     openMenu_->activateWindow();

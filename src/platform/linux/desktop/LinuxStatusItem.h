@@ -68,6 +68,7 @@ private:
     LinuxTrayWatch watch_;
     QTimer graceTimer_;
     std::unique_ptr<QMenu> trayMenu_;
+    StatusMenu trayItems_; // what that shows
     std::unique_ptr<QSystemTrayIcon> tray_;
     std::unique_ptr<LinuxStatusPanel> panel_;
     QPointer<QMenu> openMenu_;

@@ -460,10 +460,7 @@ protected:
         item_.setImage(u"bell.fill"_qs, u"Tessarine"_qs);
         item_.setTitle(u" 5"_qs);
         item_.setTip(u"5 new notifications"_qs);
-        item_.setMenuBuilder([this](QMenu& menu) {
-            menu.addAction(u"Built %1 times"_qs.arg(++built_), QKeySequence(u"Ctrl+O"_qs), &item_,
-                           [this] { ++triggered_; });
-        });
+        item_.setMenuBuilder([this] { return menu(); });
     }
 
     static LinuxStatusPanel* panel() {
@@ -471,6 +468,16 @@ protected:
             if (auto* found = qobject_cast<LinuxStatusPanel*>(widget); found && found->isVisible())
                 return found;
         return nullptr;
+    }
+
+    StatusMenu menu() {
+        return {{u"Built %1 times"_qs.arg(++built_), [this] { ++triggered_; }, u"o"_qs}};
+    }
+
+    // The menu that a click on the panel opens.
+    static QMenu* openedMenu() {
+        QTest::mouseClick(panel(), Qt::LeftButton);
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     }
 
     LinuxSymbols symbols_;
@@ -498,6 +505,31 @@ TEST_F(StatusItemTest, WithoutATrayThePanelComesAfterTheGraceTime) {
         QTest::keyClick(menu, Qt::Key_Return);
         EXPECT_EQ(triggered_, click);
     }
+}
+
+TEST_F(StatusItemTest, TheMenuShowsTheItemsAsTheyAre) {
+    StatusMenuItem switchedOn{u"On"_qs, [] {}};
+    switchedOn.isChecked = true;
+    StatusMenuItem switchedOff{u"Off"_qs, [] {}};
+    switchedOff.isChecked = false;
+    item_.setMenuBuilder([=] {
+        return StatusMenu{StatusMenuItem::caption(u"Name"_qs),
+                          StatusMenuItem::separator(),
+                          switchedOn,
+                          switchedOff,
+                          {u"Help"_qs, [] {}, u"?"_qs}};
+    });
+    item_.show();
+    ASSERT_TRUE(turnsUntil([] { return panel() != nullptr; }));
+    const QList<QAction*> shown = openedMenu()->actions();
+    ASSERT_EQ(shown.size(), 5);
+    EXPECT_FALSE(shown[0]->isEnabled());
+    EXPECT_FALSE(shown[0]->isCheckable());
+    EXPECT_TRUE(shown[1]->isSeparator());
+    EXPECT_TRUE(shown[2]->isCheckable() && shown[2]->isChecked());
+    EXPECT_TRUE(shown[3]->isCheckable() && !shown[3]->isChecked());
+    EXPECT_EQ(shown[4]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Question));
+    EXPECT_TRUE(shown[4]->isEnabled());
 }
 
 TEST_F(StatusItemTest, TheOtherClickOpensNoMenuAndKeepsNone) {

@@ -1,6 +1,7 @@
 #include "shared/UserLocale.h"
 
-#include "shared/SystemLocale.h"
+#include <QLocale>
+#include <QtGlobal>
 
 #include <unicode/locid.h>
 #include <unicode/uchar.h>
@@ -12,6 +13,16 @@
 namespace tessarine {
 
 namespace {
+
+// By name and not through setlocale, which knows only the locales that were generated.
+QByteArray posixLocaleName() {
+    for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        QByteArray value = qgetenv(variable);
+        if (!value.isEmpty())
+            return value;
+    }
+    return QLocale::system().name().toLatin1();
+}
 
 // A POSIX locale name: language[_country][.encoding][@modifier].
 struct PosixName {
@@ -83,7 +94,12 @@ QByteArray rememberedIcuName(const QByteArray& posixName) {
 } // namespace
 
 QByteArray userDateLocale() {
-    return rememberedIcuName(systemDateLocaleName());
+    return rememberedIcuName(posixLocaleName());
+}
+
+// POSIX knows the styles of a locale alone.
+std::optional<QString> userDatePattern(DateStyle, DateStyle) {
+    return std::nullopt;
 }
 
 } // namespace tessarine

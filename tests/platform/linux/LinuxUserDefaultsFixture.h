@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/SettingsDefaults.h"
+#include "platform/linux/LinuxUserDefaults.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -12,7 +12,7 @@ namespace tessarine::testing {
 using namespace Qt::StringLiterals;
 
 // A folder for a file of settings, and the file as a person sees it.
-class SettingsDefaultsFixture : public ::testing::Test {
+class LinuxUserDefaultsFixture : public ::testing::Test {
 protected:
     QString path() const { return folder.filePath(u"com.zorvek.Tessarine.conf"_qs); }
 

@@ -1,4 +1,4 @@
-#include "platform/qt/SettingsDefaults.h"
+#include "platform/linux/LinuxUserDefaults.h"
 #include "support/Printers.h"
 #include "support/SimulatedPlatform.h"
 
@@ -66,7 +66,7 @@ public:
 
 private:
     QTemporaryDir folder_;
-    SettingsDefaults defaults_{folder_.filePath(u"defaults.conf"_qs)};
+    LinuxUserDefaults defaults_{folder_.filePath(u"defaults.conf"_qs)};
 };
 
 // As each run of the program finds what the one before it has set: under another name, since Qt
@@ -77,14 +77,14 @@ public:
         const QString before = folder_.filePath(QString::number(runs_));
         const QString path = folder_.filePath(QString::number(++runs_));
         EXPECT_TRUE(runs_ == 1 || QFile::copy(before, path) || !QFile::exists(before));
-        defaults_ = std::make_unique<SettingsDefaults>(path);
+        defaults_ = std::make_unique<LinuxUserDefaults>(path);
         return *defaults_;
     }
 
 private:
     QTemporaryDir folder_;
     int runs_ = 0;
-    std::unique_ptr<SettingsDefaults> defaults_;
+    std::unique_ptr<LinuxUserDefaults> defaults_;
 };
 
 enum class Kind { inMemory, inAFile, inAFileOpenedAnew };

@@ -1,6 +1,6 @@
-#include "platform/qt/SettingsDefaults.h"
+#include "platform/linux/LinuxUserDefaults.h"
 
-#include "platform/qt/SettingsDefaultsFixture.h"
+#include "platform/linux/LinuxUserDefaultsFixture.h"
 #include "support/Printers.h"
 
 #include <QDir>
@@ -20,7 +20,7 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-using SettingsDefaultsTest = testing::SettingsDefaultsFixture;
+using LinuxUserDefaultsTest = testing::LinuxUserDefaultsFixture;
 
 // What a hand-written file gives
 
@@ -36,12 +36,12 @@ struct Reading : Written {
 
 const auto byName = [](const auto& test) { return std::string(test.param.name); };
 
-class BooleanByHand : public SettingsDefaultsTest,
+class BooleanByHand : public LinuxUserDefaultsTest,
                       public ::testing::WithParamInterface<Reading<bool>> {};
 
 TEST_P(BooleanByHand, IsReadStrictly) {
     writeValueByHand(GetParam().value);
-    EXPECT_EQ(SettingsDefaults(path()).boolean(key), GetParam().result);
+    EXPECT_EQ(LinuxUserDefaults(path()).boolean(key), GetParam().result);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -58,12 +58,12 @@ INSTANTIATE_TEST_SUITE_P(
                       Reading<bool>{{"Bytes", "@ByteArray(true)"}, false}),
     byName);
 
-class IntegerByHand : public SettingsDefaultsTest,
+class IntegerByHand : public LinuxUserDefaultsTest,
                       public ::testing::WithParamInterface<Reading<qint64>> {};
 
 TEST_P(IntegerByHand, IsReadStrictly) {
     writeValueByHand(GetParam().value);
-    EXPECT_EQ(SettingsDefaults(path()).integer(key), GetParam().result);
+    EXPECT_EQ(LinuxUserDefaults(path()).integer(key), GetParam().result);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -84,12 +84,12 @@ INSTANTIATE_TEST_SUITE_P(
         Reading<qint64>{{"Invalid", "@Invalid()"}, 0}),
     byName);
 
-class RealByHand : public SettingsDefaultsTest,
+class RealByHand : public LinuxUserDefaultsTest,
                    public ::testing::WithParamInterface<Reading<double>> {};
 
 TEST_P(RealByHand, IsReadStrictly) {
     writeValueByHand(GetParam().value);
-    EXPECT_EQ(SettingsDefaults(path()).real(key), GetParam().result);
+    EXPECT_EQ(LinuxUserDefaults(path()).real(key), GetParam().result);
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, RealByHand,
@@ -108,12 +108,12 @@ INSTANTIATE_TEST_SUITE_P(Values, RealByHand,
                                            Reading<double>{{"Empty", ""}, 0.0}),
                          byName);
 
-class TextByHand : public SettingsDefaultsTest,
+class TextByHand : public LinuxUserDefaultsTest,
                    public ::testing::WithParamInterface<Reading<std::optional<QString>>> {};
 
 TEST_P(TextByHand, IsReadStrictly) {
     writeValueByHand(GetParam().value);
-    EXPECT_EQ(SettingsDefaults(path()).text(key), GetParam().result);
+    EXPECT_EQ(LinuxUserDefaults(path()).text(key), GetParam().result);
 }
 
 using TextReading = Reading<std::optional<QString>>;
@@ -132,12 +132,12 @@ INSTANTIATE_TEST_SUITE_P(
                       TextReading{{"Size", "@Size(1 2)"}, std::nullopt}),
     byName);
 
-class TextListByHand : public SettingsDefaultsTest,
+class TextListByHand : public LinuxUserDefaultsTest,
                        public ::testing::WithParamInterface<Reading<QStringList>> {};
 
 TEST_P(TextListByHand, IsRead) {
     writeValueByHand(GetParam().value);
-    EXPECT_EQ(SettingsDefaults(path()).textList(key), GetParam().result);
+    EXPECT_EQ(LinuxUserDefaults(path()).textList(key), GetParam().result);
 }
 
 using ListReading = Reading<QStringList>;
@@ -158,12 +158,12 @@ INSTANTIATE_TEST_SUITE_P(
                       ListReading{{"Bytes", "@ByteArray(a)"}, {}}),
     byName);
 
-class IntegerListByHand : public SettingsDefaultsTest,
+class IntegerListByHand : public LinuxUserDefaultsTest,
                           public ::testing::WithParamInterface<Reading<std::vector<qint64>>> {};
 
 TEST_P(IntegerListByHand, IsReadStrictly) {
     writeValueByHand(GetParam().value);
-    EXPECT_EQ(SettingsDefaults(path()).integerList(key), GetParam().result);
+    EXPECT_EQ(LinuxUserDefaults(path()).integerList(key), GetParam().result);
 }
 
 using Integers = Reading<std::vector<qint64>>;
@@ -182,8 +182,8 @@ INSTANTIATE_TEST_SUITE_P(
                       Integers{{"Empty", ""}, {}}, Integers{{"Nothing", "@Invalid()"}, {}}),
     byName);
 
-TEST_F(SettingsDefaultsTest, ReadsWhatIsMissingAsAbsent) {
-    const SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, ReadsWhatIsMissingAsAbsent) {
+    const LinuxUserDefaults defaults(path());
     EXPECT_FALSE(defaults.contains(key));
     EXPECT_FALSE(defaults.boolean(key));
     EXPECT_EQ(defaults.integer(key), 0);
@@ -193,24 +193,24 @@ TEST_F(SettingsDefaultsTest, ReadsWhatIsMissingAsAbsent) {
     EXPECT_THAT(defaults.integerList(key), IsEmpty());
 }
 
-TEST_F(SettingsDefaultsTest, WritesNothingByReading) {
-    SettingsDefaults(path()).integer(key);
+TEST_F(LinuxUserDefaultsTest, WritesNothingByReading) {
+    LinuxUserDefaults(path()).integer(key);
     EXPECT_FALSE(QFileInfo::exists(path()));
 }
 
-TEST_F(SettingsDefaultsTest, ContainsAKeyWhateverItsValue) {
+TEST_F(LinuxUserDefaultsTest, ContainsAKeyWhateverItsValue) {
     writeValueByHand("garbage");
-    EXPECT_TRUE(SettingsDefaults(path()).contains(key));
+    EXPECT_TRUE(LinuxUserDefaults(path()).contains(key));
 }
 
-TEST_F(SettingsDefaultsTest, TellsKeysApartByCase) {
+TEST_F(LinuxUserDefaultsTest, TellsKeysApartByCase) {
     writeByHand("[General]\nKey=1\n");
-    EXPECT_FALSE(SettingsDefaults(path()).contains(key));
+    EXPECT_FALSE(LinuxUserDefaults(path()).contains(key));
 }
 
-TEST_F(SettingsDefaultsTest, SurvivesAFileThatIsNoSettings) {
+TEST_F(LinuxUserDefaultsTest, SurvivesAFileThatIsNoSettings) {
     writeByHand(QByteArray("\0\xFF\xFE]][[\n==\n%%zz=\\x\n@Variant(\n", 30).repeated(50));
-    SettingsDefaults defaults(path());
+    LinuxUserDefaults defaults(path());
     EXPECT_EQ(defaults.integer(key), 0);
     defaults.setInteger(key, 5);
     EXPECT_EQ(defaults.integer(key), 5);
@@ -218,46 +218,46 @@ TEST_F(SettingsDefaultsTest, SurvivesAFileThatIsNoSettings) {
 
 // On disk before the setter returns: the file as text
 
-TEST_F(SettingsDefaultsTest, HasABoolOnDiskAtOnce) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, HasABoolOnDiskAtOnce) {
+    LinuxUserDefaults defaults(path());
     defaults.setBoolean(key, true);
     EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=true", ""));
     defaults.setBoolean(key, false);
     EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=false", ""));
 }
 
-TEST_F(SettingsDefaultsTest, HasAnIntegerOnDiskAtOnce) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, HasAnIntegerOnDiskAtOnce) {
+    LinuxUserDefaults defaults(path());
     defaults.setInteger(key, Q_INT64_C(-9223372036854775807));
     EXPECT_THAT(linesOnDisk(), Contains("key=-9223372036854775807"));
 }
 
-TEST_F(SettingsDefaultsTest, HasANumberOnDiskAtOnce) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, HasANumberOnDiskAtOnce) {
+    LinuxUserDefaults defaults(path());
     defaults.setReal(key, 778912345.123456);
     EXPECT_THAT(linesOnDisk(), Contains("key=778912345.123456"));
 }
 
-TEST_F(SettingsDefaultsTest, HasATextOnDiskAtOnce) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, HasATextOnDiskAtOnce) {
+    LinuxUserDefaults defaults(path());
     defaults.setText(key, u"dark"_qs);
     EXPECT_THAT(linesOnDisk(), Contains("key=dark"));
 }
 
-TEST_F(SettingsDefaultsTest, HasAListOnDiskAtOnce) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, HasAListOnDiskAtOnce) {
+    LinuxUserDefaults defaults(path());
     defaults.setTextList(key, {u"a.b"_qs, u"c"_qs});
     EXPECT_THAT(linesOnDisk(), Contains("key=a.b, c"));
 }
 
-TEST_F(SettingsDefaultsTest, HasAListOfIntegersOnDiskAtOnce) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, HasAListOfIntegersOnDiskAtOnce) {
+    LinuxUserDefaults defaults(path());
     defaults.setIntegerList(key, {3, -1, Q_INT64_C(5000000000)});
     EXPECT_THAT(linesOnDisk(), Contains("key=3, -1, 5000000000"));
 }
 
-TEST_F(SettingsDefaultsTest, HasEachKeyOnDiskWhenTheNextOneIsSet) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, HasEachKeyOnDiskWhenTheNextOneIsSet) {
+    LinuxUserDefaults defaults(path());
     defaults.setInteger(u"first"_qs, 1);
     EXPECT_THAT(linesOnDisk(), Contains("first=1"));
     defaults.setInteger(u"second"_qs, 2);
@@ -265,24 +265,24 @@ TEST_F(SettingsDefaultsTest, HasEachKeyOnDiskWhenTheNextOneIsSet) {
     EXPECT_THAT(linesOnDisk(), Contains("second=2"));
 }
 
-TEST_F(SettingsDefaultsTest, MakesTheFolderOfItsFile) {
+TEST_F(LinuxUserDefaultsTest, MakesTheFolderOfItsFile) {
     const QString deep = folder.filePath(u"a/b/settings.conf"_qs);
-    SettingsDefaults defaults(deep);
+    LinuxUserDefaults defaults(deep);
     defaults.setInteger(key, 1);
     EXPECT_TRUE(QFileInfo(deep).isFile());
 }
 
-TEST_F(SettingsDefaultsTest, KeepsWhatOthersWroteIntoTheFile) {
+TEST_F(LinuxUserDefaultsTest, KeepsWhatOthersWroteIntoTheFile) {
     writeByHand("[General]\nother=7\n\n[Window]\nframe=\"1, 2\"\n");
-    SettingsDefaults defaults(path());
+    LinuxUserDefaults defaults(path());
     defaults.setInteger(key, 1);
     EXPECT_THAT(linesOnDisk(), Contains("other=7"));
     EXPECT_THAT(linesOnDisk(), Contains("[Window]"));
     EXPECT_THAT(linesOnDisk(), Contains("frame=\"1, 2\""));
 }
 
-TEST_F(SettingsDefaultsTest, LeavesNothingBesideItsFile) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, LeavesNothingBesideItsFile) {
+    LinuxUserDefaults defaults(path());
     defaults.setInteger(key, 1);
     EXPECT_THAT(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
                 ElementsAre(QFileInfo(path()).fileName()));
@@ -290,34 +290,35 @@ TEST_F(SettingsDefaultsTest, LeavesNothingBesideItsFile) {
 
 // What was set comes back, in this run and in the next
 
-class TextRoundTrip : public SettingsDefaultsTest, public ::testing::WithParamInterface<QString> {};
+class TextRoundTrip : public LinuxUserDefaultsTest,
+                      public ::testing::WithParamInterface<QString> {};
 
 TEST_P(TextRoundTrip, GivesTheTextBack) {
     {
-        SettingsDefaults defaults(path());
+        LinuxUserDefaults defaults(path());
         defaults.setText(key, GetParam());
         EXPECT_EQ(defaults.text(key), GetParam());
     }
-    EXPECT_EQ(SettingsDefaults(pathOfNextRun()).text(key), GetParam());
+    EXPECT_EQ(LinuxUserDefaults(pathOfNextRun()).text(key), GetParam());
 }
 
 TEST_P(TextRoundTrip, GivesAListOfThisTextBack) {
     {
-        SettingsDefaults defaults(path());
+        LinuxUserDefaults defaults(path());
         defaults.setTextList(key, {GetParam()});
         EXPECT_THAT(defaults.textList(key), ElementsAre(GetParam()));
     }
-    EXPECT_THAT(SettingsDefaults(pathOfNextRun()).textList(key), ElementsAre(GetParam()));
+    EXPECT_THAT(LinuxUserDefaults(pathOfNextRun()).textList(key), ElementsAre(GetParam()));
 }
 
 TEST_P(TextRoundTrip, GivesALongerListBack) {
     const QStringList list{u"first"_qs, GetParam(), u""_qs, GetParam(), u"last"_qs};
     {
-        SettingsDefaults defaults(path());
+        LinuxUserDefaults defaults(path());
         defaults.setTextList(key, list);
         EXPECT_EQ(defaults.textList(key), list);
     }
-    EXPECT_EQ(SettingsDefaults(pathOfNextRun()).textList(key), list);
+    EXPECT_EQ(LinuxUserDefaults(pathOfNextRun()).textList(key), list);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -331,14 +332,14 @@ INSTANTIATE_TEST_SUITE_P(
                       QString(u"a"_qs + QChar(u'\0') + u"b"_qs), QString(5000, u'x')),
     [](const auto& test) { return "Text" + std::to_string(test.index); });
 
-class KeyRoundTrip : public SettingsDefaultsTest, public ::testing::WithParamInterface<QString> {};
+class KeyRoundTrip : public LinuxUserDefaultsTest, public ::testing::WithParamInterface<QString> {};
 
 TEST_P(KeyRoundTrip, FindsTheValueUnderTheKey) {
     {
-        SettingsDefaults defaults(path());
+        LinuxUserDefaults defaults(path());
         defaults.setInteger(GetParam(), 7);
     }
-    const SettingsDefaults defaults(pathOfNextRun());
+    const LinuxUserDefaults defaults(pathOfNextRun());
     EXPECT_TRUE(defaults.contains(GetParam()));
     EXPECT_EQ(defaults.integer(GetParam()), 7);
 }
@@ -349,25 +350,25 @@ INSTANTIATE_TEST_SUITE_P(Keys, KeyRoundTrip,
                                            u"say \"hi\""_qs, u"Größe 漢字 😀"_qs, u"@Invalid()"_qs),
                          [](const auto& test) { return "Key" + std::to_string(test.index); });
 
-TEST_F(SettingsDefaultsTest, TellsAnEmptyListFromAListOfOneEmptyText) {
+TEST_F(LinuxUserDefaultsTest, TellsAnEmptyListFromAListOfOneEmptyText) {
     {
-        SettingsDefaults defaults(path());
+        LinuxUserDefaults defaults(path());
         defaults.setTextList(u"none"_qs, {});
         defaults.setTextList(u"one"_qs, {u""_qs});
         EXPECT_THAT(defaults.textList(u"none"_qs), IsEmpty());
         EXPECT_THAT(defaults.textList(u"one"_qs), ElementsAre(u""_qs));
     }
-    const SettingsDefaults reopened(pathOfNextRun());
+    const LinuxUserDefaults reopened(pathOfNextRun());
     EXPECT_TRUE(reopened.contains(u"none"_qs));
     EXPECT_THAT(reopened.textList(u"none"_qs), IsEmpty());
     EXPECT_THAT(reopened.textList(u"one"_qs), ElementsAre(u""_qs));
 }
 
-TEST_F(SettingsDefaultsTest, GivesIntegersBack) {
+TEST_F(LinuxUserDefaultsTest, GivesIntegersBack) {
     const std::vector<qint64> list{0, -1, std::numeric_limits<qint64>::max(),
                                    std::numeric_limits<qint64>::min()};
     {
-        SettingsDefaults defaults(path());
+        LinuxUserDefaults defaults(path());
         defaults.setIntegerList(u"list"_qs, list);
         defaults.setIntegerList(u"one"_qs, {5});
         defaults.setIntegerList(u"none"_qs, {});
@@ -376,22 +377,22 @@ TEST_F(SettingsDefaultsTest, GivesIntegersBack) {
         EXPECT_THAT(defaults.integerList(u"one"_qs), ElementsAre(5));
         EXPECT_THAT(defaults.integerList(u"none"_qs), IsEmpty());
     }
-    const SettingsDefaults reopened(pathOfNextRun());
+    const LinuxUserDefaults reopened(pathOfNextRun());
     EXPECT_EQ(reopened.integerList(u"list"_qs), list);
     EXPECT_THAT(reopened.integerList(u"one"_qs), ElementsAre(5));
     EXPECT_THAT(reopened.integerList(u"none"_qs), IsEmpty());
     EXPECT_EQ(reopened.integer(u"largest"_qs), std::numeric_limits<qint64>::max());
 }
 
-class RealRoundTrip : public SettingsDefaultsTest, public ::testing::WithParamInterface<double> {};
+class RealRoundTrip : public LinuxUserDefaultsTest, public ::testing::WithParamInterface<double> {};
 
 TEST_P(RealRoundTrip, GivesTheSameDoubleBack) {
     {
-        SettingsDefaults defaults(path());
+        LinuxUserDefaults defaults(path());
         defaults.setReal(key, GetParam());
         EXPECT_EQ(defaults.real(key), GetParam());
     }
-    EXPECT_EQ(SettingsDefaults(pathOfNextRun()).real(key), GetParam());
+    EXPECT_EQ(LinuxUserDefaults(pathOfNextRun()).real(key), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, RealRoundTrip,
@@ -400,22 +401,22 @@ INSTANTIATE_TEST_SUITE_P(Values, RealRoundTrip,
                                            std::numeric_limits<double>::max()),
                          [](const auto& test) { return "Value" + std::to_string(test.index); });
 
-TEST_F(SettingsDefaultsTest, GivesBoolsBack) {
+TEST_F(LinuxUserDefaultsTest, GivesBoolsBack) {
     {
-        SettingsDefaults defaults(path());
+        LinuxUserDefaults defaults(path());
         defaults.setBoolean(u"yes"_qs, true);
         defaults.setBoolean(u"no"_qs, false);
         EXPECT_TRUE(defaults.boolean(u"yes"_qs));
         EXPECT_FALSE(defaults.boolean(u"no"_qs));
     }
-    const SettingsDefaults reopened(pathOfNextRun());
+    const LinuxUserDefaults reopened(pathOfNextRun());
     EXPECT_TRUE(reopened.boolean(u"yes"_qs));
     EXPECT_FALSE(reopened.boolean(u"no"_qs));
     EXPECT_TRUE(reopened.contains(u"no"_qs));
 }
 
-TEST_F(SettingsDefaultsTest, IsAsStrictInTheRunThatSetTheValue) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, IsAsStrictInTheRunThatSetTheValue) {
+    LinuxUserDefaults defaults(path());
     defaults.setText(key, u"garbage"_qs);
     EXPECT_FALSE(defaults.boolean(key));
     EXPECT_EQ(defaults.integer(key), 0);
@@ -428,19 +429,19 @@ TEST_F(SettingsDefaultsTest, IsAsStrictInTheRunThatSetTheValue) {
     EXPECT_EQ(defaults.integer(key), 0);
 }
 
-TEST_F(SettingsDefaultsTest, NeverGivesANumberThatIsNotFinite) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, NeverGivesANumberThatIsNotFinite) {
+    LinuxUserDefaults defaults(path());
     defaults.setReal(key, std::numeric_limits<double>::infinity());
     EXPECT_EQ(defaults.real(key), 0.0);
     defaults.setReal(key, std::numeric_limits<double>::quiet_NaN());
     EXPECT_EQ(defaults.real(key), 0.0);
 }
 
-TEST_F(SettingsDefaultsTest, ReplacesAValueOfAnotherType) {
-    SettingsDefaults defaults(path());
+TEST_F(LinuxUserDefaultsTest, ReplacesAValueOfAnotherType) {
+    LinuxUserDefaults defaults(path());
     defaults.setTextList(key, {u"a"_qs, u"b"_qs});
     defaults.setInteger(key, 3);
-    EXPECT_EQ(SettingsDefaults(pathOfNextRun()).integer(key), 3);
+    EXPECT_EQ(LinuxUserDefaults(pathOfNextRun()).integer(key), 3);
 }
 
 } // namespace

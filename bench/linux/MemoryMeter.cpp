@@ -1,4 +1,4 @@
-#include "bench/MemoryMeter.h"
+#include "bench/linux/MemoryMeter.h"
 
 #include <atomic>
 

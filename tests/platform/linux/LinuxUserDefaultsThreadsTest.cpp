@@ -1,4 +1,4 @@
-#include "platform/qt/SettingsDefaults.h"
+#include "platform/linux/LinuxUserDefaults.h"
 
 #include <QTemporaryDir>
 
@@ -12,13 +12,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(SettingsDefaultsThreads, LoseNothingOfWhatSeveralThreadsWrite) {
+TEST(LinuxUserDefaultsThreads, LoseNothingOfWhatSeveralThreadsWrite) {
     constexpr int threadCount = 8;
     constexpr int each = 10;
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"settings.conf"_qs);
     {
-        SettingsDefaults defaults(path);
+        LinuxUserDefaults defaults(path);
         std::vector<std::thread> threads;
         threads.reserve(threadCount);
         for (int number = 0; number < threadCount; ++number) {
@@ -35,7 +35,7 @@ TEST(SettingsDefaultsThreads, LoseNothingOfWhatSeveralThreadsWrite) {
         for (std::thread& thread : threads)
             thread.join();
     }
-    const SettingsDefaults reopened(path);
+    const LinuxUserDefaults reopened(path);
     for (int number = 0; number < threadCount; ++number)
         EXPECT_EQ(reopened.integer(u"key%1"_qs.arg(number)), number * 100 + each);
 }

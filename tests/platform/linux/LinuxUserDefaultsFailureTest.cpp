@@ -1,5 +1,5 @@
-#include "platform/qt/SettingsDefaults.h"
-#include "platform/qt/SettingsDefaultsFixture.h"
+#include "platform/linux/LinuxUserDefaults.h"
+#include "platform/linux/LinuxUserDefaultsFixture.h"
 #include "support/OrdinaryUser.h"
 #include "support/Printers.h"
 #include "support/SmallDisk.h"
@@ -23,17 +23,17 @@ using namespace Qt::StringLiterals;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-using SettingsDefaultsFailureTest = testing::SettingsDefaultsFixture;
+using LinuxUserDefaultsFailureTest = testing::LinuxUserDefaultsFixture;
 
 // Where nothing can be written
 
-TEST_F(SettingsDefaultsFailureTest, HoldsAValueForTheRunWhereTheFolderMayNotBeWritten) {
+TEST_F(LinuxUserDefaultsFailureTest, HoldsAValueForTheRunWhereTheFolderMayNotBeWritten) {
     const QString closed = folder.filePath(u"closed"_qs);
     ASSERT_TRUE(QDir().mkpath(closed));
     ASSERT_EQ(chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
     ASSERT_EQ(chmod(QFile::encodeName(closed).constData(), 0555), 0);
     const QString answer = testing::asOrdinaryUser([&] {
-        SettingsDefaults defaults(closed + u"/settings.conf"_qs);
+        LinuxUserDefaults defaults(closed + u"/settings.conf"_qs);
         defaults.setInteger(u"number"_qs, 30);
         defaults.setTextList(u"list"_qs, {u"a"_qs});
         defaults.setInteger(u"number"_qs, 60);
@@ -45,12 +45,12 @@ TEST_F(SettingsDefaultsFailureTest, HoldsAValueForTheRunWhereTheFolderMayNotBeWr
     EXPECT_THAT(QDir(closed).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), IsEmpty());
 }
 
-TEST_F(SettingsDefaultsFailureTest, HoldsAValueForTheRunWhereTheFileMayNotBeWritten) {
+TEST_F(LinuxUserDefaultsFailureTest, HoldsAValueForTheRunWhereTheFileMayNotBeWritten) {
     writeByHand("[General]\nold=1\n");
     ASSERT_EQ(chmod(QFile::encodeName(folder.path()).constData(), 0555), 0);
     ASSERT_EQ(chmod(QFile::encodeName(path()).constData(), 0444), 0);
     const QString answer = testing::asOrdinaryUser([&] {
-        SettingsDefaults defaults(path());
+        LinuxUserDefaults defaults(path());
         defaults.setInteger(key, 30);
         return QString::number(defaults.integer(key) + defaults.integer(u"old"_qs)) +
                (defaults.hasUnsavedValues() ? u" unsaved"_qs : u" saved"_qs);
@@ -60,7 +60,7 @@ TEST_F(SettingsDefaultsFailureTest, HoldsAValueForTheRunWhereTheFileMayNotBeWrit
     chmod(QFile::encodeName(folder.path()).constData(), 0755);
 }
 
-TEST_F(SettingsDefaultsFailureTest, HoldsAValueWhileTheDiskIsFullAndWritesItOnceThereIsRoom) {
+TEST_F(LinuxUserDefaultsFailureTest, HoldsAValueWhileTheDiskIsFullAndWritesItOnceThereIsRoom) {
     const QString disk = folder.filePath(u"disk"_qs);
     const testing::SmallDisk small(disk);
     if (!small.isThere())
@@ -70,7 +70,7 @@ TEST_F(SettingsDefaultsFailureTest, HoldsAValueWhileTheDiskIsFullAndWritesItOnce
         QFile read(file);
         return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray();
     };
-    SettingsDefaults defaults(file);
+    LinuxUserDefaults defaults(file);
     defaults.setInteger(u"before"_qs, 1);
     small.fill();
     defaults.setInteger(key, 30);
@@ -83,26 +83,26 @@ TEST_F(SettingsDefaultsFailureTest, HoldsAValueWhileTheDiskIsFullAndWritesItOnce
     EXPECT_EQ(content(), "[General]\nafter=2\nbefore=1\nkey=30\n");
 }
 
-TEST_F(SettingsDefaultsFailureTest, FollowsALinkAndLeavesItInPlace) {
+TEST_F(LinuxUserDefaultsFailureTest, FollowsALinkAndLeavesItInPlace) {
     const QString target = folder.filePath(u"dotfiles/settings.conf"_qs);
     ASSERT_TRUE(QDir().mkpath(QFileInfo(target).path()));
     ASSERT_TRUE(QFile::link(target, path()));
-    SettingsDefaults(path()).setInteger(key, 30);
+    LinuxUserDefaults(path()).setInteger(key, 30);
     EXPECT_TRUE(QFileInfo(path()).isSymLink());
-    EXPECT_EQ(SettingsDefaults(target).integer(key), 30);
+    EXPECT_EQ(LinuxUserDefaults(target).integer(key), 30);
 }
 
-TEST_F(SettingsDefaultsFailureTest, HoldsAValueForTheRunWhereAFolderLiesInThePlaceOfTheFile) {
+TEST_F(LinuxUserDefaultsFailureTest, HoldsAValueForTheRunWhereAFolderLiesInThePlaceOfTheFile) {
     ASSERT_TRUE(QDir().mkpath(path()));
-    SettingsDefaults defaults(path());
+    LinuxUserDefaults defaults(path());
     defaults.setInteger(key, 30);
     EXPECT_EQ(defaults.integer(key), 30);
     EXPECT_TRUE(defaults.hasUnsavedValues());
 }
 
-TEST_F(SettingsDefaultsFailureTest, SavesAgainAfterEachFailureThatHasPassed) {
+TEST_F(LinuxUserDefaultsFailureTest, SavesAgainAfterEachFailureThatHasPassed) {
     ASSERT_TRUE(QDir().mkpath(path()));
-    SettingsDefaults defaults(path());
+    LinuxUserDefaults defaults(path());
     for (int round = 1; round <= 2; ++round) {
         QFile::remove(path());
         ASSERT_TRUE(QDir().mkpath(path()));
@@ -119,9 +119,9 @@ TEST_F(SettingsDefaultsFailureTest, SavesAgainAfterEachFailureThatHasPassed) {
 
 // While another program has the file
 
-TEST_F(SettingsDefaultsFailureTest, HoldsAValueWhileAnotherProgramWritesAndSavesItThereafter) {
+TEST_F(LinuxUserDefaultsFailureTest, HoldsAValueWhileAnotherProgramWritesAndSavesItThereafter) {
     writeByHand("[General]\nold=1\n");
-    SettingsDefaults defaults(path());
+    LinuxUserDefaults defaults(path());
     QLockFile other(path() + u".lock"_qs);
     ASSERT_TRUE(other.lock());
     QElapsedTimer clock;
@@ -139,31 +139,31 @@ TEST_F(SettingsDefaultsFailureTest, HoldsAValueWhileAnotherProgramWritesAndSaves
     EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=30", "old=1", "other=2", ""));
 }
 
-TEST_F(SettingsDefaultsFailureTest, ALockWhoseProgramHasGoneHoldsNothingUp) {
+TEST_F(LinuxUserDefaultsFailureTest, ALockWhoseProgramHasGoneHoldsNothingUp) {
     writeByHand("[General]\nold=1\n");
     QFile lock(path() + u".lock"_qs);
     ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
     lock.write("999999999\nnobody\n" + QSysInfo::machineHostName().toUtf8() + "\n\n\n");
     lock.close();
-    SettingsDefaults defaults(path());
+    LinuxUserDefaults defaults(path());
     defaults.setInteger(key, 30);
     EXPECT_FALSE(defaults.hasUnsavedValues());
     EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=30", "old=1", ""));
 }
 
-TEST_F(SettingsDefaultsFailureTest, AProgramThatOnlyHasTheFileOpenIsInNobodysWay) {
+TEST_F(LinuxUserDefaultsFailureTest, AProgramThatOnlyHasTheFileOpenIsInNobodysWay) {
     writeByHand("[General]\nold=1\n");
     QFile reader(path());
     ASSERT_TRUE(reader.open(QIODevice::ReadWrite));
-    SettingsDefaults defaults(path());
+    LinuxUserDefaults defaults(path());
     defaults.setInteger(key, 30);
     EXPECT_FALSE(defaults.hasUnsavedValues());
     EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=30", "old=1", ""));
 }
 
-TEST_F(SettingsDefaultsFailureTest, ALineThatIsNoSettingTakesNoneAlong) {
+TEST_F(LinuxUserDefaultsFailureTest, ALineThatIsNoSettingTakesNoneAlong) {
     writeByHand("[General]\nold=1\nno setting\nother=2\n");
-    SettingsDefaults defaults(path());
+    LinuxUserDefaults defaults(path());
     defaults.setInteger(key, 30);
     EXPECT_FALSE(defaults.hasUnsavedValues());
     EXPECT_THAT(linesOnDisk(), ElementsAre("[General]", "key=30", "old=1", "other=2", ""));

@@ -13,11 +13,13 @@
 namespace tessarine {
 
 // User defaults in an INI file, which people can read and edit while the program is off. A list is
-// separated by commas. Programs that use Qt lock such a file while they write it: a setter waits
-// for one that does so a moment, and not again for one that goes on.
-class SettingsDefaults : public UserDefaults {
+// separated by commas. Getters are strict: a value that is not plainly of the type asked for reads
+// as absent. They go by how a value reads and not by the setter that wrote it: "1" is a text, a
+// bool, an integer, a number and a list of one. Programs that use Qt lock such a file while they
+// write it: a setter waits for one that does so a moment, and not again for one that goes on.
+class LinuxUserDefaults : public UserDefaults {
 public:
-    explicit SettingsDefaults(const QString& path);
+    explicit LinuxUserDefaults(const QString& path);
 
     bool contains(const QString& key) const override;
     bool boolean(const QString& key) const override;

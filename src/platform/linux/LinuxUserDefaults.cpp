@@ -1,4 +1,4 @@
-#include "platform/qt/SettingsDefaults.h"
+#include "platform/linux/LinuxUserDefaults.h"
 
 #include "platform/qt/StoredValue.h"
 
@@ -19,17 +19,17 @@ std::unique_ptr<QSettings> openSettings(const QString& path) {
 
 } // namespace
 
-SettingsDefaults::SettingsDefaults(const QString& path)
+LinuxUserDefaults::LinuxUserDefaults(const QString& path)
     : path_(path)
     , settings_(openSettings(path)) {}
 
-QVariant SettingsDefaults::value(const QString& key) const {
+QVariant LinuxUserDefaults::value(const QString& key) const {
     const std::lock_guard lock(mutex_);
     const auto unsaved = unsaved_.find(key);
     return unsaved != unsaved_.end() ? *unsaved : settings_->value(key);
 }
 
-void SettingsDefaults::write(const QString& key, const QVariant& value) {
+void LinuxUserDefaults::write(const QString& key, const QVariant& value) {
     const std::lock_guard lock(mutex_);
     const bool isLocked = isLockedByOther();
     unsaved_[key] = value;
@@ -38,7 +38,7 @@ void SettingsDefaults::write(const QString& key, const QVariant& value) {
 }
 
 // QSettings itself would wait for half a minute.
-bool SettingsDefaults::isLockedByOther() const {
+bool LinuxUserDefaults::isLockedByOther() const {
     const QString lockPath = path_ + QStringLiteral(".lock");
     if (!QFile::exists(lockPath))
         return false;
@@ -49,7 +49,7 @@ bool SettingsDefaults::isLockedByOther() const {
 
 // The status of QSettings is that of the first failure for ever. A new one shares what the old one
 // has not written, and tries that at once.
-bool SettingsDefaults::save() {
+bool LinuxUserDefaults::save() {
     for (auto value = unsaved_.cbegin(); value != unsaved_.cend(); ++value)
         settings_->setValue(value.key(), value.value());
     settings_->sync();
@@ -58,61 +58,61 @@ bool SettingsDefaults::save() {
     return settings_->status() == QSettings::NoError;
 }
 
-bool SettingsDefaults::hasUnsavedValues() const {
+bool LinuxUserDefaults::hasUnsavedValues() const {
     const std::lock_guard lock(mutex_);
     return !unsaved_.isEmpty();
 }
 
-bool SettingsDefaults::contains(const QString& key) const {
+bool LinuxUserDefaults::contains(const QString& key) const {
     const std::lock_guard lock(mutex_);
     return unsaved_.contains(key) || settings_->contains(key);
 }
 
-bool SettingsDefaults::boolean(const QString& key) const {
+bool LinuxUserDefaults::boolean(const QString& key) const {
     return booleanOf(value(key));
 }
 
-qint64 SettingsDefaults::integer(const QString& key) const {
+qint64 LinuxUserDefaults::integer(const QString& key) const {
     return integerOf(value(key));
 }
 
-double SettingsDefaults::real(const QString& key) const {
+double LinuxUserDefaults::real(const QString& key) const {
     return numberOf(value(key));
 }
 
-std::optional<QString> SettingsDefaults::text(const QString& key) const {
+std::optional<QString> LinuxUserDefaults::text(const QString& key) const {
     return textOf(value(key));
 }
 
-QStringList SettingsDefaults::textList(const QString& key) const {
+QStringList LinuxUserDefaults::textList(const QString& key) const {
     return textListOf(value(key));
 }
 
-std::vector<qint64> SettingsDefaults::integerList(const QString& key) const {
+std::vector<qint64> LinuxUserDefaults::integerList(const QString& key) const {
     return integerListOf(value(key));
 }
 
-void SettingsDefaults::setBoolean(const QString& key, bool value) {
+void LinuxUserDefaults::setBoolean(const QString& key, bool value) {
     write(key, value);
 }
 
-void SettingsDefaults::setInteger(const QString& key, qint64 value) {
+void LinuxUserDefaults::setInteger(const QString& key, qint64 value) {
     write(key, value);
 }
 
-void SettingsDefaults::setReal(const QString& key, double value) {
+void LinuxUserDefaults::setReal(const QString& key, double value) {
     write(key, value);
 }
 
-void SettingsDefaults::setText(const QString& key, const QString& value) {
+void LinuxUserDefaults::setText(const QString& key, const QString& value) {
     write(key, value);
 }
 
-void SettingsDefaults::setTextList(const QString& key, const QStringList& value) {
+void LinuxUserDefaults::setTextList(const QString& key, const QStringList& value) {
     write(key, value);
 }
 
-void SettingsDefaults::setIntegerList(const QString& key, const std::vector<qint64>& value) {
+void LinuxUserDefaults::setIntegerList(const QString& key, const std::vector<qint64>& value) {
     write(key, storedForm(value));
 }
 

@@ -1,0 +1,21 @@
+# What is Linux's alone in the build.
+
+set(TESSARINE_SESSION_TESTS ON)
+
+# The linker that comes with the compiler takes most of the time of a build after a small change.
+find_program(MOLD mold)
+if(MOLD)
+    add_link_options(-fuse-ld=mold)
+endif()
+
+function(tessarine_system_program name)
+    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+                  ${PROJECT_SOURCE_DIR}/LICENSE
+            DESTINATION ${CMAKE_INSTALL_DOCDIR})
+    set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+    install(FILES ${PROJECT_SOURCE_DIR}/resources/icons/com.zorvek.Tessarine.svg
+            DESTINATION ${icons}/scalable/apps)
+    install(FILES ${PROJECT_SOURCE_DIR}/resources/icons/com.zorvek.Tessarine-symbolic.svg
+            DESTINATION ${icons}/symbolic/apps)
+endfunction()
