@@ -7,6 +7,7 @@ import fetch
 
 METHOD = re.compile(r"^([-+]) ?\((.*?)\) ?((?:[^;{])+);", re.MULTILINE)
 PART = re.compile(r"(\w+):\((.*?)\) ?\w+(?= |$)")
+HEADER = re.compile(r"/Versions/B/Headers/\w+\.h$")
 MARKS = re.compile(r"\b(nullable|nonnull|_Nullable|_Nonnull|__kindof|IBAction|NS_\w+|__strong)\b")
 
 
@@ -30,7 +31,7 @@ def headers():
     archive = fetch.fetch("electron-sparkle-updater") / "package/native/sparkle-chain.tar.xz"
     with tarfile.open(archive) as members:
         return {member.name.rpartition("/")[2]: members.extractfile(member).read().decode()
-                for member in members if member.isreg() and "/Versions/B/Headers/" in member.name}
+                for member in members if HEADER.search(member.name)}
 
 
 def compare(declarations):
