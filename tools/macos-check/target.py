@@ -45,15 +45,20 @@ def sysroot():
 
 
 @functools.cache
+def library_headers():
+    """Those of the C++ library."""
+    return fetch.fetch("libc++-19-dev") / "usr/lib/llvm-19/include/c++/v1"
+
+
+@functools.cache
 def qt_headers():
     return pathlib.Path(fetch.run("qmake6", "-query", "QT_INSTALL_HEADERS").strip())
 
 
 def system_flags(declarations=HERE / "declarations"):
     """Target and headers of the system and of the C++ library, without those of Qt."""
-    library = fetch.fetch("libc++-19-dev") / "usr/lib/llvm-19/include/c++/v1"
     return [f"--target={TRIPLE}", "-isysroot", str(sysroot()),
-            "-stdlib++-isystem", str(HERE / "libcxx"), "-stdlib++-isystem", str(library),
+            "-stdlib++-isystem", str(HERE / "libcxx"), "-stdlib++-isystem", str(library_headers()),
             "-isystem", str(declarations)]
 
 
