@@ -49,12 +49,12 @@ def qt_headers():
     return pathlib.Path(fetch.run("qmake6", "-query", "QT_INSTALL_HEADERS").strip())
 
 
-def system_flags():
+def system_flags(declarations=HERE / "declarations"):
     """Target and headers of the system and of the C++ library, without those of Qt."""
     library = fetch.fetch("libc++-19-dev") / "usr/lib/llvm-19/include/c++/v1"
     return [f"--target={TRIPLE}", "-isysroot", str(sysroot()),
             "-stdlib++-isystem", str(HERE / "libcxx"), "-stdlib++-isystem", str(library),
-            "-isystem", str(HERE / "declarations")]
+            "-isystem", str(declarations)]
 
 
 def qt_flags():

@@ -101,7 +101,7 @@ typedef NS_ENUM(NSUInteger, NSCompositingOperation) {
 typedef NSString* NSImageHintKey;
 typedef NSString* NSImageName;
 
-@interface NSImage : NSObject <NSCopying>
+@interface NSImage : NSObject
 @property NSSize size;
 @property (nullable, copy) NSString* accessibilityDescription;
 @property (getter=isValid, readonly) BOOL valid;

@@ -28,10 +28,11 @@ typedef struct CF_BRIDGED_TYPE(id) __AXObserver* AXObserverRef;
 typedef void (*AXObserverCallback)(AXObserverRef observer, AXUIElementRef element,
                                    CFStringRef notification, void* refcon);
 
-CF_EXPORT CFStringRef kAXTrustedCheckOptionPrompt;
+CF_EXPORT CFStringRef kAXTrustedCheckOptionPrompt API_AVAILABLE(macos(10.9));
 
 CF_EXPORT Boolean AXIsProcessTrusted(void);
-CF_EXPORT Boolean AXIsProcessTrustedWithOptions(CFDictionaryRef options);
+CF_EXPORT Boolean AXIsProcessTrustedWithOptions(CFDictionaryRef options)
+    API_AVAILABLE(macos(10.9));
 
 CF_EXPORT CFTypeID AXUIElementGetTypeID(void);
 CF_EXPORT AXUIElementRef AXUIElementCreateApplication(pid_t pid) CF_RETURNS_RETAINED;
