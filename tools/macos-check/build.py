@@ -92,15 +92,10 @@ def build():
         raise Failure(essence(failed))
 
 
-def relink_after_change(before):
-    """The linker's lists are no inputs that Ninja knows of."""
-    if before != lists_of_names():
-        for program in bundle().glob("Contents/MacOS/*"):
-            program.unlink()
-
-
-def lists_of_names():
-    return {path: path.read_bytes() for path in SYSROOT.rglob("*.tbd") if path.is_file()}
+def relink():
+    """After a change of the linker's lists, of which Ninja doesn't know."""
+    for program in bundle().glob("Contents/MacOS/*"):
+        program.unlink()
 
 
 def bundle():
@@ -150,9 +145,10 @@ def check_bundle():
 
 def check_views():
     """Every view is compiled by the QML compiler, and what that writes by the compiler."""
-    compiled = {path.name for path in (BUILD / "src").rglob("*_qml.cpp")}
-    included = "".join(path.read_text() for path in (BUILD / "src").rglob("*_views.cpp"))
+    compiled = {path.as_posix() for path in (BUILD / "src").rglob("*_qml.cpp")}
+    together = "".join(path.read_text() for path in (BUILD / "src").rglob("*_views.cpp"))
+    included = compiled & set(re.findall(r'#include "([^"]+)"', together))
+    names = {path.rpartition("/")[2].removesuffix("_qml.cpp") for path in included}
     for view in sorted((target.ROOT / "src").rglob("*.qml")):
-        name = f"{view.stem}_qml.cpp"
-        if name not in compiled or name not in included:
+        if not any(name == view.stem or name.endswith(f"_{view.stem}") for name in names):
             raise Failure(f"{view.relative_to(target.ROOT)} is not compiled")

@@ -57,9 +57,8 @@ def check_declarations():
     complaints = [*compare.Comparison(found).compare(), *sparkle_record.compare(found)]
     if complaints:
         raise build.Failure("\n".join(complaints))
-    before = build.lists_of_names()
     build.make_folders(found)
-    build.relink_after_change(before)
+    build.relink()
 
 
 def check_itself():

@@ -5,6 +5,7 @@ A name that is in none of them is an undefined symbol, as it would be on a Mac.
 
 import hashlib
 import os
+import pathlib
 import re
 
 import fetch
@@ -45,7 +46,7 @@ QT_ON_A_MAC = ["__ZNK7QString10toNSStringEv", "__ZN7QString12fromNSStringEPK8NSS
                "__ZNK10QByteArray11toStdStringEv"]
 
 # 64 bits are "long" on Linux and "long long" on a Mac: the functions of ICU that take such.
-LONG_THERE = [(re.compile(r"(NumberFormat6format)l"), r"\1x")]
+LONG_THERE = [(re.compile(r"(NumberFormat6formatE)l"), r"\1x")]
 
 # What comes along with a framework.
 ALONG = {"Foundation": ["/System/Library/Frameworks/CoreFoundation.framework/Versions/A/CoreFoundation",
@@ -136,7 +137,8 @@ def library_of_cpp():
 def stub_for(library, folder):
     """A list in place of a library that was found here."""
     name = library.resolve().name.partition(".so")[0]
-    content = hashlib.sha256(library.read_bytes()).hexdigest()[:16]
+    rules = pathlib.Path(__file__).read_bytes()
+    content = hashlib.sha256(library.read_bytes() + rules).hexdigest()[:16]
     path = folder / f"{name}-{content}.tbd"
     if not path.exists():
         symbols = symbols_of(library) + (QT_ON_A_MAC if name.startswith("libQt6") else [])
