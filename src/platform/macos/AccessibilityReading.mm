@@ -1,8 +1,7 @@
 #include "platform/macos/AccessibilityReading.h"
 
 #include "platform/macos/AccessibilityElement.h"
-
-#import <Foundation/Foundation.h>
+#include "platform/macos/TextBridge.h"
 
 namespace tessarine {
 
@@ -37,7 +36,7 @@ AXValue elementsOf(CFArrayRef list) {
 AXValue valueOf(CFTypeRef value) {
     const CFTypeID type = CFGetTypeID(value);
     if (type == CFStringGetTypeID())
-        return QString::fromCFString(static_cast<CFStringRef>(value));
+        return textOf(static_cast<CFStringRef>(value));
     if (type == CFArrayGetTypeID())
         return elementsOf(static_cast<CFArrayRef>(value));
     return {};
@@ -46,7 +45,7 @@ AXValue valueOf(CFTypeRef value) {
 } // namespace
 
 std::optional<AXValue> readAttribute(AXUIElementRef element, const QString& attribute) {
-    const OwnedRef<CFStringRef> name(attribute.toCFString());
+    const OwnedRef<CFStringRef> name = coreTextOf(attribute);
     const OwnedRef<CFTypeRef> value = copyAttribute(element, name.get());
     return value ? std::optional(valueOf(value.get())) : std::nullopt;
 }

@@ -1,8 +1,7 @@
 #include "platform/macos/MacAXObserver.h"
 
 #include "platform/macos/AccessibilityElement.h"
-
-#import <Foundation/Foundation.h>
+#include "platform/macos/TextBridge.h"
 
 namespace tessarine {
 
@@ -44,7 +43,7 @@ void MacAXObserver::addNotification(const AXElementRef& element, const QString& 
         if (!handle)
             return;
         AXUIElementSetMessagingTimeout(handle, registrationTimeout);
-        const OwnedRef<CFStringRef> event(name.toCFString());
+        const OwnedRef<CFStringRef> event = coreTextOf(name);
         AXObserverAddNotification(observer_.get(), handle, event.get(),
                                   const_cast<AXCallback*>(&callback_));
     }
@@ -63,7 +62,7 @@ void MacAXObserver::onEvent(AXObserverRef, AXUIElementRef element, CFStringRef n
     @autoreleasepool {
         const AXCallback callback = *static_cast<const AXCallback*>(context);
         callback(AccessibilityElement::of(OwnedRef<AXUIElementRef>::sharing(element)),
-                 QString::fromCFString(name));
+                 textOf(name));
     }
 }
 

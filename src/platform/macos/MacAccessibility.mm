@@ -4,8 +4,6 @@
 #include "platform/macos/AccessibilityReading.h"
 #include "platform/macos/MacAXObserver.h"
 
-#import <Foundation/Foundation.h>
-
 namespace tessarine {
 
 bool MacAccessibility::isProcessTrusted() const {
@@ -16,8 +14,12 @@ bool MacAccessibility::isProcessTrusted() const {
 
 void MacAccessibility::promptForTrust() {
     @autoreleasepool {
-        NSDictionary* const options = @{(__bridge NSString*)kAXTrustedCheckOptionPrompt : @YES};
-        AXIsProcessTrustedWithOptions((__bridge CFDictionaryRef)options);
+        const void* key = kAXTrustedCheckOptionPrompt;
+        const void* yes = kCFBooleanTrue;
+        const OwnedRef<CFDictionaryRef> options(
+            CFDictionaryCreate(kCFAllocatorDefault, &key, &yes, 1, &kCFTypeDictionaryKeyCallBacks,
+                               &kCFTypeDictionaryValueCallBacks));
+        AXIsProcessTrustedWithOptions(options.get());
     }
 }
 

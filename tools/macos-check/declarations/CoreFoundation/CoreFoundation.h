@@ -96,6 +96,14 @@ CF_EXPORT CFTypeID CFArrayGetTypeID(void);
 CF_EXPORT CFIndex CFArrayGetCount(CFArrayRef theArray);
 CF_EXPORT const void* CFArrayGetValueAtIndex(CFArrayRef theArray, CFIndex idx);
 
+typedef struct CFDictionaryKeyCallBacks CFDictionaryKeyCallBacks;
+typedef struct CFDictionaryValueCallBacks CFDictionaryValueCallBacks;
+CF_EXPORT const CFDictionaryKeyCallBacks kCFTypeDictionaryKeyCallBacks;
+CF_EXPORT const CFDictionaryValueCallBacks kCFTypeDictionaryValueCallBacks;
+CF_EXPORT CFDictionaryRef CFDictionaryCreate(
+    CFAllocatorRef allocator, const void** keys, const void** values, CFIndex numValues,
+    const CFDictionaryKeyCallBacks* keyCallBacks,
+    const CFDictionaryValueCallBacks* valueCallBacks) CF_RETURNS_RETAINED;
 CF_EXPORT CFTypeID CFDictionaryGetTypeID(void);
 CF_EXPORT CFIndex CFDictionaryGetCount(CFDictionaryRef theDict);
 CF_EXPORT const void* CFDictionaryGetValue(CFDictionaryRef theDict, const void* key);
