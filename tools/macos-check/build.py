@@ -1,5 +1,6 @@
 """Builds the program for a Mac with the project's own CMake lists, and looks at what came out."""
 
+import json
 import os
 import pathlib
 import plistlib
@@ -16,6 +17,7 @@ import target
 BUILD = target.ROOT / "build/macos"
 SYSROOT = BUILD / "sysroot"
 LINUX = BUILD / "linux"
+MACOS = target.ROOT / "src/platform/macos"
 SPARKLE = SYSROOT / "System/Library/Frameworks/Sparkle.framework"
 
 # Headers in /usr/include of libraries that a Mac has too.
@@ -102,9 +104,28 @@ def bundle():
     return BUILD / "bin/Tessarine.app"
 
 
+def check_sources():
+    """Each macOS source is compiled with reference counting and all warnings; those that a choice of
+    the build leaves out are compiled by themselves."""
+    commands = {pathlib.Path(entry["directory"], entry["file"]): entry["command"]
+                for entry in json.loads((BUILD / "compile_commands.json").read_text())}
+    needed = [*target.OBJECTIVE_C, *target.WARNINGS, *target.STRICT]
+    for source in sorted(MACOS.rglob("*.mm")):
+        lacking = [flag for flag in needed if f" {flag} " not in commands.get(source, " ".join(
+            ["", *needed, ""]))]
+        if lacking:
+            raise Failure(f"{source.relative_to(target.ROOT)} is compiled without {' '.join(lacking)}")
+    together = "".join(path.read_text() for path in (BUILD / "src").rglob("unity_*.cxx"))
+    for source in sorted([*MACOS.rglob("*.mm"), *MACOS.rglob("*.cpp")]):
+        if source not in commands and f'"{source}"' not in together:
+            said = run(*target.compile_command(source, "/dev/null"))
+            if said:
+                raise Failure(said)
+
+
 # --- What came out --------------------------------------------------------------------------------
 
-ARM64, EXECUTABLE, BUILD_VERSION, MACOS = 0x0100000C, 2, 0x32, 1
+ARM64, EXECUTABLE, BUILD_VERSION, SYSTEM_MACOS = 0x0100000C, 2, 0x32, 1
 
 
 def oldest_system(program):
@@ -118,7 +139,7 @@ def oldest_system(program):
         command, size = struct.unpack_from("<2I", content, offset)
         if command == BUILD_VERSION:
             system, version = struct.unpack_from("<2I", content, offset + 8)
-            if system == MACOS:
+            if system == SYSTEM_MACOS:
                 return version >> 16, version >> 8 & 0xFF
         offset += size
     raise Failure(f"{program.name} doesn't say what it runs on")

@@ -75,6 +75,7 @@ def parts():
         ("declarations", lambda: once("declarations", tools, check_declarations)),
         ("configuration", build.configure),
         ("build", build.build),
+        ("sources", build.check_sources),
         ("bundle", build.check_bundle),
         ("views", build.check_views),
         ("analysis", analyse.check_all),

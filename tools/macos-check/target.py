@@ -20,6 +20,8 @@ WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Werror"]
 DEFINITIONS = ["QT_NO_KEYWORDS", "QT_NO_CAST_FROM_ASCII", "QT_NO_CAST_TO_ASCII",
                "QT_STRICT_ITERATORS"]
 OBJECTIVE_C = ["-fobjc-arc"]
+# What a method is called that nothing declares, and what the oldest system lacks.
+STRICT = ["-Wundeclared-selector", "-Wunguarded-availability"]
 
 
 def program(name):
@@ -72,5 +74,5 @@ def qt_flags():
 def compile_command(source, output, extra=()):
     """For one source on its own, as the project's build would compile it."""
     return [program(COMPILER), *system_flags(), *qt_flags(), "-std=c++20", "-fPIC", *OBJECTIVE_C,
-            *WARNINGS, *(f"-D{name}" for name in DEFINITIONS), f"-I{ROOT / 'src'}", *extra,
+            *WARNINGS, *STRICT, *(f"-D{name}" for name in DEFINITIONS), f"-I{ROOT / 'src'}", *extra,
             "-c", str(source), "-o", str(output)]
