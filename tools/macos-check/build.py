@@ -46,7 +46,7 @@ def make_folders(found):
 
 
 def settings():
-    libraries = fetch.run("qmake6", "-query", "QT_INSTALL_LIBS").strip()
+    libraries = target.qt_libraries()
     return {
         "CMAKE_TOOLCHAIN_FILE": target.HERE / "cmake/Toolchain.cmake",
         "CMAKE_BUILD_TYPE": "Debug",
@@ -96,12 +96,8 @@ def build():
 
 def relink():
     """After a change of the linker's lists, of which Ninja doesn't know."""
-    for program in bundle().glob("Contents/MacOS/*"):
+    for program in BUILD.glob("bin/*.app/Contents/MacOS/*"):
         program.unlink()
-
-
-def bundle():
-    return BUILD / "bin/Tessarine.app"
 
 
 def check_sources():
@@ -145,11 +141,11 @@ def oldest_system(program):
     raise Failure(f"{program.name} doesn't say what it runs on")
 
 
-def check_bundle():
-    information = bundle() / "Contents/Info.plist"
+def check_bundle(folder=BUILD / "bin/Tessarine.app"):
+    information = folder / "Contents/Info.plist"
     with open(information, "rb") as file:
         facts = plistlib.load(file)
-    program = bundle() / "Contents/MacOS" / facts.get("CFBundleExecutable", "none")
+    program = folder / "Contents/MacOS" / facts.get("CFBundleExecutable", "none")
     if not program.is_file():
         raise Failure("Info.plist names a program that isn't in the bundle")
     oldest = ".".join(map(str, oldest_system(program)))
@@ -159,7 +155,7 @@ def check_bundle():
     unset = [name for name, value in facts.items() if value == "" or "@" in str(value) or "${" in str(value)]
     if unset:
         raise Failure(f"Info.plist has no value for {', '.join(unset)}")
-    icon = bundle() / "Contents/Resources" / f"{facts.get('CFBundleIconFile')}.icns"
+    icon = folder / "Contents/Resources" / f"{facts.get('CFBundleIconFile')}.icns"
     if not icon.is_file():
         raise Failure("Info.plist names an icon that isn't in the bundle")
 

@@ -57,6 +57,11 @@ def qt_headers():
     return pathlib.Path(fetch.run("qmake6", "-query", "QT_INSTALL_HEADERS").strip())
 
 
+@functools.cache
+def qt_libraries():
+    return pathlib.Path(fetch.run("qmake6", "-query", "QT_INSTALL_LIBS").strip())
+
+
 def system_flags(declarations=HERE / "declarations"):
     """Target and headers of the system and of the C++ library, without those of Qt."""
     return [f"--target={TRIPLE}", "-isysroot", str(sysroot()),
@@ -71,8 +76,8 @@ def qt_flags():
             for word in ("-isystem", str(folder))]
 
 
-def compile_command(source, output, extra=()):
+def compile_command(source, output, headers=HERE / "declarations"):
     """For one source on its own, as the project's build would compile it."""
-    return [program(COMPILER), *system_flags(), *qt_flags(), "-std=c++20", "-fPIC", *OBJECTIVE_C,
-            *WARNINGS, *STRICT, *(f"-D{name}" for name in DEFINITIONS), f"-I{ROOT / 'src'}", *extra,
-            "-c", str(source), "-o", str(output)]
+    return [program(COMPILER), *system_flags(headers), *qt_flags(), "-std=c++20", "-fPIC",
+            *OBJECTIVE_C, *WARNINGS, *STRICT, *(f"-D{name}" for name in DEFINITIONS),
+            f"-I{ROOT / 'src'}", "-c", str(source), "-o", str(output)]
