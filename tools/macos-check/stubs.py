@@ -4,8 +4,9 @@ A name that is in none of them is an undefined symbol, as it would be on a Mac.
 """
 
 import hashlib
+import os
+import pathlib
 import re
-import subprocess
 
 import fetch
 import target
@@ -35,22 +36,40 @@ OF_LITERALS = {"CoreFoundation": ["___CFConstantStringClassReference"],
                               "___kCFBooleanTrue", "___kCFBooleanFalse", "___NSArray0__struct",
                               "___NSDictionary0__struct"]}
 
-# What Qt has on a Mac alone.
+# What Qt has on a Mac alone, or calls by another name there, where the C++ library's own types are part
+# of it.
 QT_ON_A_MAC = ["__ZNK7QString10toNSStringEv", "__ZN7QString12fromNSStringEPK8NSString",
                "__ZNK7QString10toCFStringEv", "__ZN7QString12fromCFStringEPK10__CFString",
-               "__ZNK6QImage9toCGImageEv", "__ZNK4QUrl7toNSURLEv", "__ZN4QUrl9fromNSURLEPK5NSURL"]
+               "__ZNK6QImage9toCGImageEv", "__ZNK4QUrl7toNSURLEv", "__ZN4QUrl9fromNSURLEPK5NSURL",
+               "__ZN9QMetaType25registerConverterFunctionERKNSt3__18functionIFbPKvPvEEES_S_",
+               "__ZN9QMetaType27registerMutableViewFunctionERKNSt3__18functionIFbPvS2_EEES_S_",
+               "__ZNK10QByteArray11toStdStringEv"]
+
+# 64 bits are "long" on Linux and "long long" on a Mac: the functions of ICU that take such.
+LONG_THERE = [(re.compile(r"(NumberFormat6formatE)l"), r"\1x")]
+
+# What comes along with a framework.
+ALONG = {"Foundation": ["/System/Library/Frameworks/CoreFoundation.framework/Versions/A/CoreFoundation",
+                        "/usr/lib/libobjc.A.dylib"],
+         "ApplicationServices":
+             ["/System/Library/Frameworks/CoreGraphics.framework/Versions/A/CoreGraphics"]}
 
 
-def stub(install_name, symbols):
+def stub(install_name, symbols, along=()):
     listed = ",\n    ".join(f"'{name}'" for name in sorted(set(symbols)))
+    others = ", ".join(f"'{name}'" for name in along)
+    more = f"reexported-libraries:\n  - targets: [ arm64-macos ]\n    libraries: [ {others} ]\n"
     return (f"--- !tapi-tbd\ntbd-version: 4\ntargets: [ arm64-macos ]\ninstall-name: '{install_name}'\n"
-            f"exports:\n  - targets: [ arm64-macos ]\n    symbols: [\n    {listed} ]\n...\n")
+            f"{more if along else ''}exports:\n  - targets: [ arm64-macos ]\n    symbols: [\n"
+            f"    {listed} ]\n...\n")
 
 
 def symbols_of(library):
     """What a library of Linux exports, as a Mac would call it."""
     told = fetch.run("nm", "-D", "--defined-only", "--format=just-symbols", library)
-    return ["_" + name.partition("@")[0] for name in told.split()]
+    names = ["_" + name.partition("@")[0] for name in told.split()]
+    return names + [pattern.sub(there, name) for pattern, there in LONG_THERE for name in names
+                    if pattern.search(name)]
 
 
 def write_if_new(path, text):
@@ -90,12 +109,21 @@ def make_sysroot(folder, declarations, frameworks):
     libraries = folder / "usr/lib"
     write_if_new(libraries / "libSystem.tbd",
                  system_library((libc / "darwin/libSystem.tbd").read_text()))
-    write_if_new(libraries / "libobjc.tbd", stub("/usr/lib/libobjc.A.dylib", OBJECTIVE_C_RUNTIME))
+    write_if_new(libraries / "libobjc.A.tbd", stub("/usr/lib/libobjc.A.dylib", OBJECTIVE_C_RUNTIME))
     write_if_new(libraries / "libc++.tbd", stub("/usr/lib/libc++.1.dylib", library_of_cpp()))
     for name in frameworks:
-        write_if_new(folder / f"System/Library/Frameworks/{name}.framework/{name}.tbd",
-                     stub(f"/System/Library/Frameworks/{name}.framework/Versions/A/{name}",
-                          framework_symbols(declarations, name)))
+        make_framework(folder / f"System/Library/Frameworks/{name}.framework", name,
+                       framework_symbols(declarations, name))
+
+
+def make_framework(folder, name, symbols):
+    inside = f"Versions/A/{name}.tbd"
+    where = "@rpath" if name == "Sparkle" else "/System/Library/Frameworks"
+    write_if_new(folder / inside,
+                 stub(f"{where}/{folder.name}/Versions/A/{name}", symbols, ALONG.get(name, ())))
+    link = folder / f"{name}.tbd"
+    if not link.is_symlink():
+        link.symlink_to(inside)
 
 
 def library_of_cpp():
@@ -109,12 +137,13 @@ def library_of_cpp():
 def stub_for(library, folder):
     """A list in place of a library that was found here."""
     name = library.resolve().name.partition(".so")[0]
-    content = hashlib.sha256(library.read_bytes()).hexdigest()[:16]
+    rules = pathlib.Path(__file__).read_bytes()
+    content = hashlib.sha256(library.read_bytes() + rules).hexdigest()[:16]
     path = folder / f"{name}-{content}.tbd"
     if not path.exists():
         symbols = symbols_of(library) + (QT_ON_A_MAC if name.startswith("libQt6") else [])
         folder.mkdir(parents=True, exist_ok=True)
-        part = path.with_suffix(f".{subprocess.os.getpid()}")
+        part = path.with_suffix(f".{os.getpid()}")
         part.write_text(stub(f"@rpath/{name}.dylib", symbols))
         part.replace(path)
     return path

@@ -20,6 +20,8 @@ WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Werror"]
 DEFINITIONS = ["QT_NO_KEYWORDS", "QT_NO_CAST_FROM_ASCII", "QT_NO_CAST_TO_ASCII",
                "QT_STRICT_ITERATORS"]
 OBJECTIVE_C = ["-fobjc-arc"]
+# What a method is called that nothing declares, and what the oldest system lacks.
+STRICT = ["-Wundeclared-selector", "-Wunguarded-availability"]
 
 
 def program(name):
@@ -45,15 +47,20 @@ def sysroot():
 
 
 @functools.cache
+def library_headers():
+    """Those of the C++ library."""
+    return fetch.fetch("libc++-19-dev") / "usr/lib/llvm-19/include/c++/v1"
+
+
+@functools.cache
 def qt_headers():
     return pathlib.Path(fetch.run("qmake6", "-query", "QT_INSTALL_HEADERS").strip())
 
 
 def system_flags(declarations=HERE / "declarations"):
     """Target and headers of the system and of the C++ library, without those of Qt."""
-    library = fetch.fetch("libc++-19-dev") / "usr/lib/llvm-19/include/c++/v1"
     return [f"--target={TRIPLE}", "-isysroot", str(sysroot()),
-            "-stdlib++-isystem", str(HERE / "libcxx"), "-stdlib++-isystem", str(library),
+            "-stdlib++-isystem", str(HERE / "libcxx"), "-stdlib++-isystem", str(library_headers()),
             "-isystem", str(declarations)]
 
 
@@ -67,5 +74,5 @@ def qt_flags():
 def compile_command(source, output, extra=()):
     """For one source on its own, as the project's build would compile it."""
     return [program(COMPILER), *system_flags(), *qt_flags(), "-std=c++20", "-fPIC", *OBJECTIVE_C,
-            *WARNINGS, *(f"-D{name}" for name in DEFINITIONS), f"-I{ROOT / 'src'}", *extra,
+            *WARNINGS, *STRICT, *(f"-D{name}" for name in DEFINITIONS), f"-I{ROOT / 'src'}", *extra,
             "-c", str(source), "-o", str(output)]
