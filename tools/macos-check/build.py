@@ -15,6 +15,7 @@ import stubs
 import target
 
 BUILD = target.ROOT / "build/macos"
+SEPARATE = target.ROOT / "build/macos-separately"
 SYSROOT = BUILD / "sysroot"
 LINUX = BUILD / "linux"
 MACOS = target.ROOT / "src/platform/macos"
@@ -45,12 +46,12 @@ def make_folders(found):
             (LINUX / name).symlink_to(pathlib.Path("/usr/include") / name)
 
 
-def settings():
+def settings(unity):
     libraries = target.qt_libraries()
     return {
         "CMAKE_TOOLCHAIN_FILE": target.HERE / "cmake/Toolchain.cmake",
         "CMAKE_BUILD_TYPE": "Debug",
-        "CMAKE_UNITY_BUILD": "ON",
+        "CMAKE_UNITY_BUILD": unity,
         "CMAKE_EXPORT_COMPILE_COMMANDS": "ON",
         "CMAKE_COMPILE_WARNING_AS_ERROR": "ON",
         "MACOS_CHECK_SYSROOT": SYSROOT,
@@ -65,14 +66,16 @@ def settings():
     }
 
 
-def configure():
+def configure(folder=BUILD, unity="ON"):
     """Ninja itself sees every later change but that of these settings."""
-    given = [f"-D{name}={value}" for name, value in settings().items()]
-    note, text = BUILD / "settings", "\n".join([str(target.ROOT), *given])
-    if (BUILD / "build.ninja").exists() and note.exists() and note.read_text() == text:
+    given = [f"-D{name}={value}" for name, value in settings(unity).items()]
+    # The toolchain's flags are read at the first configuration alone.
+    rules = [path.read_text() for path in sorted((target.HERE / "cmake").iterdir())]
+    note, text = folder / "settings", "\n".join([str(target.ROOT), *given, *rules])
+    if (folder / "build.ninja").exists() and note.exists() and note.read_text() == text:
         return
-    shutil.rmtree(BUILD / "CMakeFiles", ignore_errors=True)
-    said = run("cmake", "--fresh", "-S", target.ROOT, "-B", BUILD, "-G", "Ninja", *given)
+    shutil.rmtree(folder / "CMakeFiles", ignore_errors=True)
+    said = run("cmake", "--fresh", "-S", target.ROOT, "-B", folder, "-G", "Ninja", *given)
     if said:
         raise Failure(said[-4000:])
     note.write_text(text)
@@ -87,8 +90,8 @@ def essence(said):
     return "\n".join(lines[:200])
 
 
-def build():
-    failed = run("ninja", "-C", BUILD, "-k", "0", "-j", os.cpu_count() or 2, "src/all",
+def build(folder=BUILD):
+    failed = run("ninja", "-C", folder, "-k", "0", "-j", os.cpu_count() or 2, "src/all",
                  preexec_fn=lambda: os.nice(5))
     if failed:
         raise Failure(essence(failed))

@@ -3,6 +3,7 @@
 
 usage: check.py                    everything
        check.py --file SOURCE...   compiles single sources
+       check.py --separately       builds without putting several sources together
 
 Its parts, in their order: our declarations agree with public records of the system's interfaces; the
 program is built by the project's own CMake lists, and linked; what came out is a bundle for the oldest
@@ -78,10 +79,17 @@ def parts():
         ("sources", build.check_sources),
         ("bundle", build.check_bundle),
         ("views", build.check_views),
-        ("analysis", analyse.check_all),
-        ("planted mistakes", lambda: once("itself", hash_of([target.HERE, TEST.parent], fetched),
-                                          check_itself)),
+        ("analysis and planted mistakes", lambda: together(
+            analyse.check_all,
+            lambda: once("itself", hash_of([target.HERE, TEST.parent], fetched), check_itself))),
     ]
+
+
+def together(*parts):
+    """Runs parts beside each other; each uses one processor."""
+    with concurrent.futures.ThreadPoolExecutor(len(parts)) as pool:
+        for running in [pool.submit(part) for part in parts]:
+            running.result()
 
 
 def check_everything():
@@ -98,6 +106,19 @@ def check_everything():
     return 0
 
 
+def build_separately():
+    """The number of parts that found something when each source is compiled by itself."""
+    fetch_all()
+    try:
+        build.make_folders(declarations.read())
+        build.configure(build.SEPARATE, unity="OFF")
+        build.build(build.SEPARATE)
+    except build.Failure as failure:
+        print(failure)
+        return 1
+    return 0
+
+
 def check_files(sources):
     """Compiles single sources and keeps nothing; the number of those that failed."""
     failed = 0
@@ -109,10 +130,15 @@ def check_files(sources):
 
 def main():
     arguments = sys.argv[1:]
-    if arguments and (arguments[0] != "--file" or len(arguments) < 2):
-        sys.exit(__doc__)
     try:
-        failed = check_files(arguments[1:]) if arguments else check_everything()
+        if not arguments:
+            failed = check_everything()
+        elif arguments == ["--separately"]:
+            failed = build_separately()
+        elif arguments[0] == "--file" and len(arguments) > 1:
+            failed = check_files(arguments[1:])
+        else:
+            sys.exit(__doc__)
     except fetch.FetchError as error:
         sys.exit(f"check-macos: {error}")
     sys.exit(1 if failed else 0)
