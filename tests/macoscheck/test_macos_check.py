@@ -116,15 +116,24 @@ class CompilerTest(SampleTest):
 
 
 class AnalyserTest(SampleTest):
+    def flags(self):
+        command = target.compile_command("source", "/dev/null")
+        return command[1:command.index("-c")]
+
     def found(self, *change):
         source = self.write(*change)
-        command = target.compile_command(source, "/dev/null")
-        flags = command[1:command.index("-c")]
+        flags = self.flags()
         config = f"--config-file={target.ROOT / '.clang-tidy'}"
         return analyse.tidy(source, flags, config) or ""
 
     def test_a_clean_sample_passes(self):
         self.assertEqual(self.found(), "")
+        self.assertIsNone(analyse.kept_references(self.write(), self.flags()))
+
+    def test_a_reference_that_a_block_keeps(self):
+        source = self.write("(std::function<void()> handler)", "(const std::function<void()>& handler)")
+        self.assertIn("Sample.mm:76: the block keeps the reference 'handler'",
+                      analyse.kept_references(source, self.flags()) or "nothing")
 
     def test_a_leak(self):
         self.assertIn("Potential leak of an object stored into 'element'",

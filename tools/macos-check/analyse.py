@@ -73,6 +73,26 @@ def tidy(source, flags, *more):
     return None if done.returncode == 0 else done.stdout or done.stderr
 
 
+# The blocks of our own, each with the variables that it keeps.
+BLOCKS = 'match blockDecl(isExpansionInFileMatching("\\.(mm|h)$"))'
+OWN_BLOCK = re.compile(r"^BlockDecl \w+ <(/[^>:]+:\d+)", re.MULTILINE)
+REFERENCE = re.compile(r"^\|-capture \w+ \w+ '(\w+)' '[^']*&'", re.MULTILINE)
+
+
+def kept_references(source, flags):
+    """Where a block keeps a reference, as text. It may run when what that names is gone."""
+    done = subprocess.run([target.program(target.QUERY), "-c", "set output dump", "-c", BLOCKS,
+                           str(source), "--", *flags], capture_output=True, text=True, encoding="utf-8")
+    if done.returncode != 0:
+        raise build.Failure(done.stderr)
+    found = []
+    for block in re.split(r"(?=^BlockDecl )", done.stdout, flags=re.MULTILINE):
+        place = OWN_BLOCK.match(block)
+        found += [f"{place[1]}: the block keeps the reference '{name}', which may be gone when it runs;"
+                  " keep a copy\n" for name in REFERENCE.findall(block) if place]
+    return "".join(found) or None
+
+
 def fingerprint(unit):
     """Of all that the compiler reads, and of what judges it."""
     read = subprocess.run([target.program(target.COMPILER), *unit.flags, "-E", "-P", unit.path()],
@@ -95,6 +115,8 @@ def check(unit):
     complaint = tidy(unit.path(), unit.flags)
     if complaint and "[clang-diagnostic-error]" in complaint and len(unit.files) > 1:
         complaint = "".join(filter(None, map(check, unit.halves()))) or None
+    else:
+        complaint = complaint or kept_references(unit.path(), unit.flags)
     if complaint is None:
         stamp.write_text(now)
     return complaint

@@ -13,7 +13,7 @@ ROOT = HERE.parent.parent
 OLDEST_SYSTEM = "14.0"
 TRIPLE = f"arm64-apple-macos{OLDEST_SYSTEM}"
 
-COMPILER, TIDY, LINKER = "clang++-19", "clang-tidy-19", "ld64.lld-19"
+COMPILER, TIDY, QUERY = "clang++-19", "clang-tidy-19", "clang-query-19"
 
 # As cmake/TessarineTargets.cmake has them; the check of the whole build takes them from there.
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Werror"]
