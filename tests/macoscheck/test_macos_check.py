@@ -20,6 +20,7 @@ import compare  # noqa: E402
 import declarations  # noqa: E402
 import npm_record  # noqa: E402
 import pascal_record  # noqa: E402
+import ports  # noqa: E402
 import sparkle_record  # noqa: E402
 import stubs  # noqa: E402
 import target  # noqa: E402
@@ -131,7 +132,8 @@ class AnalyserTest(SampleTest):
         self.assertIsNone(analyse.kept_references(self.write(), self.flags()))
 
     def test_a_reference_that_a_block_keeps(self):
-        source = self.write("(std::function<void()> handler)", "(const std::function<void()>& handler)")
+        source = self.write("(std::function<void()> handler)",
+                            "(const std::function<void()>& handler)")
         self.assertIn("Sample.mm:76: the block keeps the reference 'handler'",
                       analyse.kept_references(source, self.flags()) or "nothing")
 
@@ -357,6 +359,19 @@ class BundleTest(LinkedTest):
 
     def test_a_value_that_was_not_filled_in(self):
         self.assert_found("no value for CFBundleVersion", CFBundleVersion="@TESSARINE_BUILD@")
+
+
+class PortsTest(unittest.TestCase):
+    HEADER = ("struct Platform {\n    std::unique_ptr<Clock> clock;\n"
+              "    std::unique_ptr<Files> files;\n};\n")
+
+    def test_ports_that_are_all_made(self):
+        made = "platform->clock = make();\nplatform->files =\n    make();\n"
+        self.assertEqual(ports.left_out(self.HEADER, "platform", made), [])
+
+    def test_a_port_that_nothing_makes(self):
+        made = "platform->clock = make(platform->files);"
+        self.assertEqual(ports.left_out(self.HEADER, "platform", made), ["files"])
 
 
 if __name__ == "__main__":

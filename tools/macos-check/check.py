@@ -22,6 +22,7 @@ import build
 import compare
 import declarations
 import fetch
+import ports
 import sparkle_record
 import target
 
@@ -77,6 +78,7 @@ def parts():
         ("configuration", build.configure),
         ("build", build.build),
         ("sources", build.check_sources),
+        ("ports", ports.check),
         ("bundle", build.check_bundle),
         ("views", build.check_views),
         ("analysis and planted mistakes", lambda: together(

@@ -17,9 +17,9 @@ OBJECTIVE_C_RUNTIME = """
     _objc_autoreleaseReturnValue _objc_begin_catch _objc_claimAutoreleasedReturnValue _objc_copyWeak
     _objc_copyStruct _objc_destroyWeak _objc_end_catch _objc_enumerationMutation _objc_exception_rethrow
     _objc_exception_throw _objc_getProperty _objc_initWeak _objc_loadWeak _objc_loadWeakRetained
-    _objc_moveWeak _objc_msgSend _objc_msgSendSuper _objc_msgSendSuper2 _objc_opt_class _objc_opt_isKindOfClass
-    _objc_opt_new _objc_opt_respondsToSelector _objc_opt_self _objc_release _objc_retain
-    _objc_retainAutorelease _objc_retainAutoreleaseReturnValue _objc_retainAutoreleasedReturnValue
+    _objc_moveWeak _objc_msgSend _objc_msgSendSuper _objc_msgSendSuper2 _objc_opt_class
+    _objc_opt_isKindOfClass _objc_opt_new _objc_opt_respondsToSelector _objc_opt_self _objc_release
+    _objc_retain _objc_retainAutorelease _objc_retainAutoreleaseReturnValue _objc_retainAutoreleasedReturnValue
     _objc_retainBlock _objc_setProperty_atomic _objc_setProperty_atomic_copy _objc_setProperty_nonatomic
     _objc_setProperty_nonatomic_copy _objc_storeStrong _objc_storeWeak _objc_sync_enter _objc_sync_exit
     _objc_terminate _objc_unsafeClaimAutoreleasedReturnValue __objc_empty_cache ___objc_personality_v0
@@ -28,13 +28,7 @@ OBJECTIVE_C_RUNTIME = """
     _objc_setAssociatedObject""".split()
 
 # What the compiler writes for literals.
-OF_LITERALS = {"CoreFoundation": ["___CFConstantStringClassReference"],
-               "Foundation": ["_OBJC_CLASS_$_NSConstantIntegerNumber",
-                              "_OBJC_CLASS_$_NSConstantDoubleNumber",
-                              "_OBJC_CLASS_$_NSConstantFloatNumber",
-                              "_OBJC_CLASS_$_NSConstantArray", "_OBJC_CLASS_$_NSConstantDictionary",
-                              "___kCFBooleanTrue", "___kCFBooleanFalse", "___NSArray0__struct",
-                              "___NSDictionary0__struct"]}
+OF_LITERALS = {"CoreFoundation": ["___CFConstantStringClassReference"]}
 
 # What Qt has on a Mac alone, or calls by another name there, where the C++ library's own types are part
 # of it.
