@@ -9,6 +9,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+from unittest import mock
 
 HERE = pathlib.Path(__file__).resolve().parent
 TOOLS = HERE.parent.parent / "tools/macos-check"
@@ -18,6 +19,8 @@ import analyse  # noqa: E402
 import build  # noqa: E402
 import compare  # noqa: E402
 import declarations  # noqa: E402
+import fetch  # noqa: E402
+import names  # noqa: E402
 import npm_record  # noqa: E402
 import pascal_record  # noqa: E402
 import ports  # noqa: E402
@@ -372,6 +375,60 @@ class PortsTest(unittest.TestCase):
     def test_a_port_that_nothing_makes(self):
         made = "platform->clock = make(platform->files);"
         self.assertEqual(ports.left_out(self.HEADER, "platform", made), ["files"])
+
+
+class FetchTest(FolderTest):
+    """What the registries give is played by a function that writes a file."""
+
+    GOOD = b"what was agreed on"
+
+    def registry(self, content):
+        def give(*words, cwd=None):
+            self.asked.append(words[0])
+            into = cwd or words[words.index("--pack-destination") + 1]
+            name = "one.tgz" if words[0] == "npm" else "one.deb"
+            (pathlib.Path(into) / name).write_bytes(content)
+        self.asked = []
+        return mock.patch.object(fetch, "run", give)
+
+    def npm(self, content):
+        good = self.folder / "good"
+        good.write_bytes(self.GOOD)
+        package = {"one": ("1.0.0", fetch.integrity_of(good), [])}
+        with self.registry(content), mock.patch.object(fetch, "NPM_PACKAGES", package):
+            return fetch.npm_archive("one", self.folder)
+
+    def debian(self, content):
+        with self.registry(content):
+            return fetch.debian_archive("one", self.folder)
+
+    def test_an_archive_is_asked_for_once(self):
+        self.assertEqual(self.npm(self.GOOD).read_bytes(), self.GOOD)
+        self.assertEqual(self.asked, ["npm"])
+        self.npm(self.GOOD)
+        self.assertEqual(self.asked, [])
+
+    def test_another_archive_than_was_agreed_on_is_refused(self):
+        with self.assertRaisesRegex(fetch.FetchError, "not the package that was agreed on"):
+            self.npm(b"something else")
+        self.assertEqual(list(self.folder.glob("*.tgz")), [])
+
+    def test_a_damaged_archive_is_asked_for_again(self):
+        self.npm(self.GOOD).write_bytes(b"damaged")
+        self.assertEqual(self.npm(self.GOOD).read_bytes(), self.GOOD)
+        self.debian(self.GOOD).write_bytes(b"damaged")
+        self.assertEqual(self.debian(self.GOOD).read_bytes(), self.GOOD)
+        self.assertEqual(self.asked, ["apt-get"])
+
+
+class NamesTest(unittest.TestCase):
+    def test_names_that_the_system_has(self):
+        text = 'QStringLiteral("AXWindows"); CFSTR("AXUIElementDestroyed"); "AXStaticText"; "AX"'
+        self.assertEqual(names.unknown(text, names.recorded()), [])
+
+    def test_a_name_that_the_system_does_not_have(self):
+        self.assertEqual(names.unknown('QStringLiteral("AXWindowDestroyed")', names.recorded()),
+                         ["AXWindowDestroyed"])
 
 
 if __name__ == "__main__":

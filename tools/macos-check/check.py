@@ -22,6 +22,7 @@ import build
 import compare
 import declarations
 import fetch
+import names
 import ports
 import sparkle_record
 import target
@@ -79,6 +80,7 @@ def parts():
         ("build", build.build),
         ("sources", build.check_sources),
         ("ports", ports.check),
+        ("names", names.check),
         ("bundle", build.check_bundle),
         ("views", build.check_views),
         ("analysis and planted mistakes", lambda: together(
