@@ -402,6 +402,19 @@ class FetchTest(FolderTest):
         with self.registry(content):
             return fetch.debian_archive("one", self.folder)
 
+    def test_lists_of_packages_are_renewed_where_one_is_not_in_them(self):
+        def give(*words, cwd=None):
+            self.asked.append(words[-1])
+            if "update" not in self.asked:
+                raise fetch.FetchError("no such package")
+            if cwd:
+                (pathlib.Path(cwd) / "one.deb").write_bytes(self.GOOD)
+        self.asked = []
+        fetch.update_lists.cache_clear()
+        with mock.patch.object(fetch, "run", give):
+            self.assertEqual(fetch.debian_archive("one", self.folder).read_bytes(), self.GOOD)
+        self.assertEqual(self.asked, ["one", "update", "one"])
+
     def test_an_archive_is_asked_for_once(self):
         self.assertEqual(self.npm(self.GOOD).read_bytes(), self.GOOD)
         self.assertEqual(self.asked, ["npm"])

@@ -5,6 +5,7 @@ Debian's packages are unpacked beside the system, so that no package of the mach
 """
 
 import base64
+import functools
 import hashlib
 import os
 import pathlib
@@ -105,12 +106,28 @@ def unpack_npm(name, archive, folder):
 
 # --- Debian ---------------------------------------------------------------------------------------
 
+@functools.cache
+def update_lists():
+    """Of packages, once, where a machine has none yet or old ones."""
+    root = [] if os.geteuid() == 0 else ["sudo"]
+    run(*root, "apt-get", "-q", "-o", "DPkg::Lock::Timeout=600", "update")
+
+
+def download(name, folder):
+    words = ("apt-get", "-q", "-o", "Acquire::Retries=3", "download", name)
+    try:
+        run(*words, cwd=folder)
+    except FetchError:
+        update_lists()
+        run(*words, cwd=folder)
+
+
 def debian_archive(name, downloads):
     archive, note = downloads / f"{name}.deb", downloads / f"{name}.deb.sha256"
     if archive.exists() and note.exists() and hash_of(archive, "sha256").hex() == note.read_text():
         return archive
     with tempfile.TemporaryDirectory(dir=downloads) as part:
-        run("apt-get", "-q", "-o", "Acquire::Retries=3", "download", name, cwd=part)
+        download(name, part)
         found = list(pathlib.Path(part).glob("*.deb"))
         if len(found) != 1:
             raise FetchError(f"apt-get gave no archive of {name}")
