@@ -495,6 +495,10 @@
         <source>perm.fda.without.row2</source>
         <translation>Was in dieser Datenbank ist, kommt nicht in den Hort.</translation>
     </message>
+    <message id="updates.howTheyCome">
+        <source>updates.howTheyCome</source>
+        <translation>Neue Versionen kommen mit den Aktualisierungen deines Systems, über die Paketverwaltung, die Tessarine installiert hat. Das Programm selbst greift nie auf das Netz zu.</translation>
+    </message>
     <message id="window.title.fda">
         <source>window.title.fda</source>
         <translation>Zugang zu einer Benachrichtigungsdatenbank</translation>

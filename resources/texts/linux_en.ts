@@ -495,6 +495,10 @@
         <source>perm.fda.without.row2</source>
         <translation>What is in that database stays out of the hoard.</translation>
     </message>
+    <message id="updates.howTheyCome">
+        <source>updates.howTheyCome</source>
+        <translation>New versions come with your system’s updates, through the package manager that installed Tessarine. The program itself never asks the network.</translation>
+    </message>
     <message id="window.title.fda">
         <source>window.title.fda</source>
         <translation>Access to a Notification Database</translation>

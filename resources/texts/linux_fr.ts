@@ -495,6 +495,10 @@
         <source>perm.fda.without.row2</source>
         <translation>Ce que contient cette base reste hors de la réserve.</translation>
     </message>
+    <message id="updates.howTheyCome">
+        <source>updates.howTheyCome</source>
+        <translation>Les nouvelles versions arrivent avec les mises à jour de votre système, par le gestionnaire de paquets qui a installé Tessarine. Le programme lui-même ne se connecte jamais au réseau.</translation>
+    </message>
     <message id="window.title.fda">
         <source>window.title.fda</source>
         <translation>Accès à une base de notifications</translation>

@@ -495,6 +495,10 @@
         <source>perm.fda.without.row2</source>
         <translation>Ciò che è in quel database resta fuori dalla raccolta.</translation>
     </message>
+    <message id="updates.howTheyCome">
+        <source>updates.howTheyCome</source>
+        <translation>Le nuove versioni arrivano con gli aggiornamenti del sistema, dal gestore di pacchetti che ha installato Tessarine. Il programma stesso non si collega mai alla rete.</translation>
+    </message>
     <message id="window.title.fda">
         <source>window.title.fda</source>
         <translation>Accesso a un database di notifiche</translation>

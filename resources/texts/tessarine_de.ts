@@ -2546,9 +2546,9 @@
         <source>toolbar.sort.oldest</source>
         <translation>Älteste</translation>
     </message>
-    <message id="updates.packageManager">
-        <source>updates.packageManager</source>
-        <translation>Neue Versionen kommen mit den Aktualisierungen deines Systems, über die Paketverwaltung, die Tessarine installiert hat. Das Programm selbst greift nie auf das Netz zu.</translation>
+    <message id="updates.howTheyCome">
+        <source>updates.howTheyCome</source>
+        <translation>Diese Ausgabe von Tessarine sucht nicht nach neuen Versionen: Sie wurde ohne Sparkle gebaut, die Bibliothek, die das tut.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

@@ -2546,9 +2546,9 @@
         <source>toolbar.sort.oldest</source>
         <translation>Oldest First</translation>
     </message>
-    <message id="updates.packageManager">
-        <source>updates.packageManager</source>
-        <translation>New versions come with your system’s updates, through the package manager that installed Tessarine. The program itself never asks the network.</translation>
+    <message id="updates.howTheyCome">
+        <source>updates.howTheyCome</source>
+        <translation>This build of Tessarine doesn’t look for new versions: it was made without Sparkle, the library that does.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

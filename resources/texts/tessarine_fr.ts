@@ -2546,9 +2546,9 @@
         <source>toolbar.sort.oldest</source>
         <translation>Plus anciennes</translation>
     </message>
-    <message id="updates.packageManager">
-        <source>updates.packageManager</source>
-        <translation>Les nouvelles versions arrivent avec les mises à jour de votre système, par le gestionnaire de paquets qui a installé Tessarine. Le programme lui-même ne se connecte jamais au réseau.</translation>
+    <message id="updates.howTheyCome">
+        <source>updates.howTheyCome</source>
+        <translation>Cette édition de Tessarine ne cherche pas de nouvelles versions : elle a été compilée sans Sparkle, la bibliothèque qui s’en charge.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

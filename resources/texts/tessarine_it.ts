@@ -2546,9 +2546,9 @@
         <source>toolbar.sort.oldest</source>
         <translation>Meno recenti</translation>
     </message>
-    <message id="updates.packageManager">
-        <source>updates.packageManager</source>
-        <translation>Le nuove versioni arrivano con gli aggiornamenti del sistema, dal gestore di pacchetti che ha installato Tessarine. Il programma stesso non si collega mai alla rete.</translation>
+    <message id="updates.howTheyCome">
+        <source>updates.howTheyCome</source>
+        <translation>Questa edizione di Tessarine non cerca nuove versioni: è stata compilata senza Sparkle, la libreria che se ne occupa.</translation>
     </message>
     <message id="updates.version">
         <source>updates.version</source>

@@ -57,7 +57,7 @@ Rectangle {
         anchors.left: heading.left
         anchors.right: heading.right
         anchors.topMargin: Metrics.spacingSmall
-        text: qsTrId("updates.packageManager")
+        text: qsTrId("updates.howTheyCome")
         color: Theme.colours.secondaryLabel
         lineHeight: 1.2
         wrapMode: Text.Wrap

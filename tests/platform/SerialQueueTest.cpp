@@ -1,23 +1,16 @@
 #include "platform/SerialQueue.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <fstream>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include <sys/syscall.h>
-#include <unistd.h>
-
 namespace tessarine {
 namespace {
-
-using ::testing::ElementsAre;
 
 TEST(SerialQueueTest, HasItsLabel) {
     EXPECT_EQ(SerialQueue("com.example.queue").label(), "com.example.queue");
@@ -78,35 +71,6 @@ TEST(SerialQueueTest, LetsOneCallerInAtATime) {
     for (std::thread& thread : threads)
         thread.join();
     EXPECT_EQ(counted, 1600);
-}
-
-// The letter after the command in /proc's line for a thread: "S" when it waits.
-char stateOfThread(pid_t thread) {
-    std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
-    std::string line;
-    std::getline(file, line);
-    const std::size_t command = line.rfind(')');
-    return command == std::string::npos || command + 2 >= line.size() ? '?' : line[command + 2];
-}
-
-TEST(SerialQueueTest, LetsCallersInInTheOrderInWhichTheyCame) {
-    SerialQueue queue("q");
-    std::vector<int> order;
-    std::vector<std::thread> threads;
-    queue.sync([&] {
-        for (int number = 1; number <= 6; ++number) {
-            std::atomic<pid_t> entering = 0;
-            threads.emplace_back([&, number] {
-                entering = static_cast<pid_t>(syscall(SYS_gettid));
-                queue.sync([&order, number] { order.push_back(number); });
-            });
-            while (entering == 0 || stateOfThread(entering) != 'S')
-                std::this_thread::yield();
-        }
-    });
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_THAT(order, ElementsAre(1, 2, 3, 4, 5, 6));
 }
 
 TEST(SerialQueueTest, IsFreeAgainAfterWorkThatThrew) {

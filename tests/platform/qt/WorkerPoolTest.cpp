@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <filesystem>
 #include <future>
 #include <memory>
 #include <vector>
@@ -37,11 +36,6 @@ bool comesTrue(const Condition& condition, std::chrono::seconds within = patienc
         std::this_thread::sleep_for(1ms);
     }
     return true;
-}
-
-std::ptrdiff_t threadsOfThisProcess() {
-    const std::filesystem::directory_iterator tasks("/proc/self/task");
-    return std::distance(begin(tasks), end(tasks));
 }
 
 TEST(WorkerPoolTest, RunsATaskOnAnotherThread) {
@@ -165,26 +159,6 @@ TEST(WorkerPoolTest, TakesTasksFromSeveralThreads) {
             thread.join();
     }
     EXPECT_EQ(ran, 800);
-}
-
-TEST(WorkerPoolTest, GivesItsThreadsBackWhenThereIsNothingToDo) {
-    const std::ptrdiff_t before = threadsOfThisProcess();
-    Door door;
-    std::atomic<int> blocked = 0;
-    WorkerPool pool;
-    for (int i = 0; i < 5; ++i) {
-        pool.run(QualityOfService::utility, [&] {
-            ++blocked;
-            door.pass();
-        });
-    }
-    ASSERT_TRUE(comesTrue([&] { return blocked == 5; }));
-    EXPECT_EQ(threadsOfThisProcess(), before + 5);
-    door.open();
-    EXPECT_TRUE(comesTrue([&] { return threadsOfThisProcess() == before; }));
-    std::promise<void> ran;
-    pool.run(QualityOfService::utility, [&] { ran.set_value(); });
-    EXPECT_EQ(ran.get_future().wait_for(patience), std::future_status::ready);
 }
 
 } // namespace

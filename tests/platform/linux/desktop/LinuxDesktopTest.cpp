@@ -1,3 +1,4 @@
+#include "platform/contracts/SymbolNames.h"
 #include "platform/linux/desktop/LinuxStatusItem.h"
 #include "platform/linux/desktop/LinuxStatusPanel.h"
 #include "platform/linux/desktop/LinuxSymbols.h"
@@ -56,6 +57,10 @@ std::string plainName(const ::testing::TestParamInfo<std::string>& info) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, SymbolTest, ::testing::ValuesIn(allSymbols()), plainName);
+
+TEST(Symbols, AreThoseThatTheProgramShows) {
+    EXPECT_EQ(LinuxSymbols().names(), testing::shownSymbols());
+}
 
 TEST(Symbols, AnUnknownNameHasNoPicture) {
     EXPECT_TRUE(LinuxSymbols().image(u"no.such.symbol"_qs, 16, Qt::black).isNull());

@@ -1,5 +1,4 @@
-#include "platform/linux/InotifyWatcher.h"
-
+#include "platform/contracts/Subjects.h"
 #include "platform/qt/QtScheduler.h"
 #include "support/EventLoop.h"
 #include "support/Printers.h"
@@ -68,7 +67,7 @@ private:
     std::deque<Task> tasks_;
 };
 
-class InotifyWatcherTest : public ::testing::Test {
+class FileWatcherContract : public ::testing::Test {
 protected:
     QString path(const QString& name = u"file"_qs) const { return folder.filePath(name); }
 
@@ -79,7 +78,7 @@ protected:
     }
 
     std::unique_ptr<FileWatch> watch(const QString& watched) {
-        return watcher.watchWrites(watched, [this] {
+        return watcher->watchWrites(watched, [this] {
             EXPECT_EQ(std::this_thread::get_id(), mainThread);
             ++calls;
         });
@@ -103,12 +102,12 @@ protected:
     QTemporaryDir folder;
     int calls = 0;
     QtScheduler scheduler;
-    InotifyWatcher watcher{scheduler};
+    const std::unique_ptr<FileWatcher> watcher = testing::systemFileWatcher(scheduler);
 };
 
 // A file
 
-TEST_F(InotifyWatcherTest, CallsForAWrite) {
+TEST_F(FileWatcherContract, CallsForAWrite) {
     write(u"file"_qs);
     const auto running = watch(path());
     ASSERT_NE(running, nullptr);
@@ -116,7 +115,7 @@ TEST_F(InotifyWatcherTest, CallsForAWrite) {
     EXPECT_TRUE(isCalled());
 }
 
-TEST_F(InotifyWatcherTest, CallsForEachWriteAfterTheCallForTheOneBefore) {
+TEST_F(FileWatcherContract, CallsForEachWriteAfterTheCallForTheOneBefore) {
     write(u"file"_qs);
     const auto running = watch(path());
     write(u"file"_qs);
@@ -126,7 +125,7 @@ TEST_F(InotifyWatcherTest, CallsForEachWriteAfterTheCallForTheOneBefore) {
     EXPECT_TRUE(isCalled());
 }
 
-TEST_F(InotifyWatcherTest, CallsOnceMoreWhenTheWritingHasEnded) {
+TEST_F(FileWatcherContract, CallsOnceMoreWhenTheWritingHasEnded) {
     write(u"file"_qs);
     const auto running = watch(path());
     // Where the main thread stalls between the two calls they are one: then the next write tells.
@@ -141,20 +140,20 @@ TEST_F(InotifyWatcherTest, CallsOnceMoreWhenTheWritingHasEnded) {
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyWatcherTest, CallsForACut) {
+TEST_F(FileWatcherContract, CallsForACut) {
     write(u"file"_qs, "something");
     const auto running = watch(path());
     ASSERT_TRUE(QFile::resize(path(), 2));
     EXPECT_TRUE(isCalled());
 }
 
-TEST_F(InotifyWatcherTest, DoesNotCallForWhatWasWrittenBefore) {
+TEST_F(FileWatcherContract, DoesNotCallForWhatWasWrittenBefore) {
     write(u"file"_qs);
     const auto running = watch(path());
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyWatcherTest, DoesNotCallForOpeningReadingAndClosing) {
+TEST_F(FileWatcherContract, DoesNotCallForOpeningReadingAndClosing) {
     write(u"file"_qs, "content");
     const auto running = watch(path());
     {
@@ -169,21 +168,21 @@ TEST_F(InotifyWatcherTest, DoesNotCallForOpeningReadingAndClosing) {
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyWatcherTest, DoesNotCallForAChangeOfMode) {
+TEST_F(FileWatcherContract, DoesNotCallForAChangeOfMode) {
     write(u"file"_qs);
     const auto running = watch(path());
     ASSERT_EQ(chmod(QFile::encodeName(path()).constData(), 0600), 0);
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyWatcherTest, DoesNotCallForAWriteToAnotherFile) {
+TEST_F(FileWatcherContract, DoesNotCallForAWriteToAnotherFile) {
     write(u"file"_qs);
     const auto running = watch(path());
     write(u"other"_qs);
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyWatcherTest, IsSilentAfterTheFileWasReplaced) {
+TEST_F(FileWatcherContract, IsSilentAfterTheFileWasReplaced) {
     write(u"file"_qs);
     const auto running = watch(path());
     write(u"new"_qs);
@@ -194,7 +193,7 @@ TEST_F(InotifyWatcherTest, IsSilentAfterTheFileWasReplaced) {
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyWatcherTest, IsSilentAfterTheFileWasRemovedAndMadeAnew) {
+TEST_F(FileWatcherContract, IsSilentAfterTheFileWasRemovedAndMadeAnew) {
     write(u"file"_qs);
     const auto running = watch(path());
     ASSERT_TRUE(QFile::remove(path()));
@@ -202,7 +201,7 @@ TEST_F(InotifyWatcherTest, IsSilentAfterTheFileWasRemovedAndMadeAnew) {
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyWatcherTest, FollowsTheFileToAnotherName) {
+TEST_F(FileWatcherContract, FollowsTheFileToAnotherName) {
     write(u"file"_qs);
     const auto running = watch(path());
     ASSERT_TRUE(QFile::rename(path(), path(u"moved"_qs)));
@@ -210,13 +209,13 @@ TEST_F(InotifyWatcherTest, FollowsTheFileToAnotherName) {
     EXPECT_TRUE(isCalled());
 }
 
-TEST_F(InotifyWatcherTest, HasNothingToWatchWhereThereIsNoFile) {
+TEST_F(FileWatcherContract, HasNothingToWatchWhereThereIsNoFile) {
     EXPECT_EQ(watch(path(u"missing"_qs)), nullptr);
     EXPECT_EQ(watch(path(u"missing/file"_qs)), nullptr);
     EXPECT_EQ(watch(QString()), nullptr);
 }
 
-TEST_F(InotifyWatcherTest, WatchesAFileUnderAnyName) {
+TEST_F(FileWatcherContract, WatchesAFileUnderAnyName) {
     write(u"dätä 漢字"_qs);
     const auto running = watch(path(u"dätä 漢字"_qs));
     write(u"dätä 漢字"_qs);
@@ -225,7 +224,7 @@ TEST_F(InotifyWatcherTest, WatchesAFileUnderAnyName) {
 
 // A database's log, read by the program itself
 
-TEST_F(InotifyWatcherTest, CallsForWritesToALogAndNotForReadings) {
+TEST_F(FileWatcherContract, CallsForWritesToALogAndNotForReadings) {
     sqlite3* writer = nullptr;
     ASSERT_EQ(sqlite3_open(path(u"db"_qs).toUtf8().constData(), &writer), SQLITE_OK);
     ASSERT_EQ(sqlite3_exec(writer,
@@ -247,21 +246,21 @@ TEST_F(InotifyWatcherTest, CallsForWritesToALogAndNotForReadings) {
 
 // A folder
 
-TEST_F(InotifyWatcherTest, CallsForAnEntryThatComesToAFolder) {
+TEST_F(FileWatcherContract, CallsForAnEntryThatComesToAFolder) {
     const auto running = watch(folder.path());
     ASSERT_NE(running, nullptr);
     write(u"new"_qs);
     EXPECT_TRUE(isCalled());
 }
 
-TEST_F(InotifyWatcherTest, CallsForAnEntryThatGoesFromAFolder) {
+TEST_F(FileWatcherContract, CallsForAnEntryThatGoesFromAFolder) {
     write(u"old"_qs);
     const auto running = watch(folder.path());
     ASSERT_TRUE(QFile::remove(path(u"old"_qs)));
     EXPECT_TRUE(isCalled());
 }
 
-TEST_F(InotifyWatcherTest, CallsForEntriesMovedInAndOut) {
+TEST_F(FileWatcherContract, CallsForEntriesMovedInAndOut) {
     const QTemporaryDir elsewhere;
     const QString outside = elsewhere.filePath(u"file"_qs);
     write(u"file"_qs);
@@ -273,7 +272,7 @@ TEST_F(InotifyWatcherTest, CallsForEntriesMovedInAndOut) {
     EXPECT_TRUE(isCalled());
 }
 
-TEST_F(InotifyWatcherTest, DoesNotCallForAWriteToAnEntryOfAFolder) {
+TEST_F(FileWatcherContract, DoesNotCallForAWriteToAnEntryOfAFolder) {
     write(u"old"_qs);
     const auto running = watch(folder.path());
     write(u"old"_qs);
@@ -284,9 +283,9 @@ TEST_F(InotifyWatcherTest, DoesNotCallForAWriteToAnEntryOfAFolder) {
 
 // The calls for the file are held; those for another file, written later, run at once and so tell
 // when the watcher is through with both.
-class InotifyMergingTest : public InotifyWatcherTest {
+class FileWatcherMergingContract : public FileWatcherContract {
 protected:
-    InotifyMergingTest() {
+    FileWatcherMergingContract() {
         write(u"file"_qs);
         write(u"other"_qs);
     }
@@ -303,12 +302,12 @@ protected:
 
     std::atomic<int> others = 0;
     HeldScheduler main;
-    InotifyWatcher held{main};
+    const std::unique_ptr<FileWatcher> held = testing::systemFileWatcher(main);
 };
 
-TEST_F(InotifyMergingTest, MergesWritesThatComeBeforeTheCall) {
-    const auto running = held.watchWrites(path(), [this] { ++calls; });
-    const auto other = held.watchWrites(path(u"other"_qs), [this] { ++others; });
+TEST_F(FileWatcherMergingContract, MergesWritesThatComeBeforeTheCall) {
+    const auto running = held->watchWrites(path(), [this] { ++calls; });
+    const auto other = held->watchWrites(path(u"other"_qs), [this] { ++others; });
     for (int i = 0; i < 10; ++i)
         write(u"file"_qs);
     ASSERT_TRUE(waitsFor(1));
@@ -318,14 +317,14 @@ TEST_F(InotifyMergingTest, MergesWritesThatComeBeforeTheCall) {
     EXPECT_EQ(calls, 1);
 }
 
-TEST_F(InotifyMergingTest, CallsOnceMoreForAWriteDuringTheCall) {
-    const auto running = held.watchWrites(path(), [this] {
+TEST_F(FileWatcherMergingContract, CallsOnceMoreForAWriteDuringTheCall) {
+    const auto running = held->watchWrites(path(), [this] {
         if (++calls == 1) {
             write(u"file"_qs);
             write(u"file"_qs);
         }
     });
-    const auto other = held.watchWrites(path(u"other"_qs), [this] { ++others; });
+    const auto other = held->watchWrites(path(u"other"_qs), [this] { ++others; });
     main.hold(2);
     write(u"file"_qs);
     ASSERT_TRUE(waitsFor(1));
@@ -339,7 +338,7 @@ TEST_F(InotifyMergingTest, CallsOnceMoreForAWriteDuringTheCall) {
 
 // The end of a watch
 
-TEST_F(InotifyWatcherTest, IsSilentAfterTheWatchIsDestroyed) {
+TEST_F(FileWatcherContract, IsSilentAfterTheWatchIsDestroyed) {
     write(u"file"_qs);
     auto running = watch(path());
     running.reset();
@@ -347,8 +346,8 @@ TEST_F(InotifyWatcherTest, IsSilentAfterTheWatchIsDestroyed) {
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyMergingTest, DropsACallThatWaitsWhenTheWatchIsDestroyed) {
-    auto running = held.watchWrites(path(), [this] { ++calls; });
+TEST_F(FileWatcherMergingContract, DropsACallThatWaitsWhenTheWatchIsDestroyed) {
+    auto running = held->watchWrites(path(), [this] { ++calls; });
     write(u"file"_qs);
     ASSERT_TRUE(waitsFor(1));
     running.reset();
@@ -356,7 +355,7 @@ TEST_F(InotifyMergingTest, DropsACallThatWaitsWhenTheWatchIsDestroyed) {
     EXPECT_EQ(calls, 0);
 }
 
-TEST_F(InotifyWatcherTest, MakesNoLastCallOnceTheWatchIsDestroyed) {
+TEST_F(FileWatcherContract, MakesNoLastCallOnceTheWatchIsDestroyed) {
     write(u"file"_qs);
     auto running = watch(path());
     write(u"file"_qs);
@@ -365,10 +364,10 @@ TEST_F(InotifyWatcherTest, MakesNoLastCallOnceTheWatchIsDestroyed) {
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyWatcherTest, LetsAWatchEndItselfInItsOwnCall) {
+TEST_F(FileWatcherContract, LetsAWatchEndItselfInItsOwnCall) {
     write(u"file"_qs);
     std::unique_ptr<FileWatch> running;
-    running = watcher.watchWrites(path(), [&] {
+    running = watcher->watchWrites(path(), [&] {
         running.reset();
         ++calls;
     });
@@ -378,14 +377,14 @@ TEST_F(InotifyWatcherTest, LetsAWatchEndItselfInItsOwnCall) {
     EXPECT_TRUE(staysQuiet());
 }
 
-TEST_F(InotifyWatcherTest, LetsAWatchBeReplacedInItsOwnCall) {
+TEST_F(FileWatcherContract, LetsAWatchBeReplacedInItsOwnCall) {
     write(u"file"_qs);
     std::unique_ptr<FileWatch> running;
     std::function<void()> renew = [&] {
         ++calls;
-        running = watcher.watchWrites(path(), [&] { renew(); });
+        running = watcher->watchWrites(path(), [&] { renew(); });
     };
-    running = watcher.watchWrites(path(), [&] { renew(); });
+    running = watcher->watchWrites(path(), [&] { renew(); });
     write(u"file"_qs);
     ASSERT_TRUE(isCalled());
     letItSettle();
@@ -393,7 +392,7 @@ TEST_F(InotifyWatcherTest, LetsAWatchBeReplacedInItsOwnCall) {
     EXPECT_TRUE(isCalled());
 }
 
-TEST_F(InotifyWatcherTest, WatchesAgainAfterTheFileCameBack) {
+TEST_F(FileWatcherContract, WatchesAgainAfterTheFileCameBack) {
     write(u"file"_qs);
     auto running = watch(path());
     ASSERT_TRUE(QFile::remove(path()));
@@ -405,11 +404,11 @@ TEST_F(InotifyWatcherTest, WatchesAgainAfterTheFileCameBack) {
 
 // Several
 
-TEST_F(InotifyWatcherTest, CallsBothWatchesOfOneFile) {
+TEST_F(FileWatcherContract, CallsBothWatchesOfOneFile) {
     write(u"file"_qs);
     int others = 0;
     const auto first = watch(path());
-    auto second = watcher.watchWrites(path(), [&] { ++others; });
+    auto second = watcher->watchWrites(path(), [&] { ++others; });
     write(u"file"_qs);
     EXPECT_TRUE(turnsUntil([&] { return calls > 0 && others > 0; }));
     second.reset();
@@ -420,19 +419,19 @@ TEST_F(InotifyWatcherTest, CallsBothWatchesOfOneFile) {
     EXPECT_EQ(others, othersBefore);
 }
 
-TEST_F(InotifyWatcherTest, KeepsTheWatchesOfTwoFilesApart) {
+TEST_F(FileWatcherContract, KeepsTheWatchesOfTwoFilesApart) {
     write(u"file"_qs);
     write(u"other"_qs);
     int others = 0;
     const auto first = watch(path());
-    const auto second = watcher.watchWrites(path(u"other"_qs), [&] { ++others; });
+    const auto second = watcher->watchWrites(path(u"other"_qs), [&] { ++others; });
     write(u"other"_qs);
     EXPECT_TRUE(turnsUntil([&] { return others > 0; }));
     EXPECT_TRUE(staysQuiet());
     EXPECT_EQ(calls, 0);
 }
 
-TEST_F(InotifyWatcherTest, GoesWhileAFileIsBeingWritten) {
+TEST_F(FileWatcherContract, GoesWhileAFileIsBeingWritten) {
     write(u"file"_qs);
     std::atomic<bool> stop = false;
     std::thread writer([&] {
@@ -442,8 +441,8 @@ TEST_F(InotifyWatcherTest, GoesWhileAFileIsBeingWritten) {
     // A watch may end before it hears of a write: longer and longer ones, until one did.
     QDeadlineTimer patience(std::chrono::seconds(20));
     for (int i = 0; i < 20 || (calls == 0 && !patience.hasExpired()); ++i) {
-        InotifyWatcher passing(scheduler);
-        const auto running = passing.watchWrites(path(), [this] { ++calls; });
+        const std::unique_ptr<FileWatcher> passing = testing::systemFileWatcher(scheduler);
+        const auto running = passing->watchWrites(path(), [this] { ++calls; });
         turnFor(2 + i / 10);
     }
     stop = true;
