@@ -1,4 +1,5 @@
 #include "core/ApplicationSetup.h"
+#include "core/CommandLine.h"
 #include "core/DisplayCheck.h"
 #include "core/Program.h"
 #include "platform/SingleInstance.h"
@@ -7,6 +8,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -19,6 +21,8 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
 
 int main(int argc, char** argv) {
     using namespace tessarine;
+    if (const std::optional<int> status = answerArguments(argc, argv))
+        return *status;
     const std::unique_ptr<SingleInstance> instance =
         makeSingleInstance(hoardPath(*makeFileSystem()));
     if (!instance->claim()) {
