@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
     [[maybe_unused]] const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     setUpApplication();
     Program program;
-    instance->onActivation([&program] { program.delegate().activate(); });
+    instance->onRequests(program.requests());
     program.delegate().applicationDidFinishLaunching();
     const int status = QApplication::exec();
     // Workers may be in the middle of a reading or a scan; what they use must not be taken apart

@@ -12,6 +12,7 @@
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/SettingsDefaults.h"
 
+#include <QDBusConnection>
 #include <QStandardPaths>
 
 namespace tessarine {
@@ -50,7 +51,7 @@ std::unique_ptr<FileSystem> makeFileSystem() {
 }
 
 std::unique_ptr<SingleInstance> makeSingleInstance(const QString& path) {
-    return std::make_unique<LinuxSingleInstance>(path);
+    return std::make_unique<LinuxSingleInstance>(path, &QDBusConnection::sessionBus);
 }
 
 } // namespace tessarine
