@@ -1,11 +1,13 @@
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
+#include "platform/linux/Confinement.h"
 #include "platform/linux/HeapMemory.h"
 #include "platform/linux/InotifyWatcher.h"
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxSingleInstance.h"
 #include "platform/linux/LinuxSystemFacts.h"
 #include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/applications/LinuxConfinedLoginItem.h"
 #include "platform/linux/applications/LinuxLoginItem.h"
 #include "platform/linux/applications/LinuxSystemSettings.h"
 #include "platform/linux/banners/LinuxAccessibility.h"
@@ -24,6 +26,12 @@ QString defaultsPath() {
            QStringLiteral("/com.zorvek.Tessarine.conf");
 }
 
+std::unique_ptr<LoginItem> makeLoginItem(UserDefaults& defaults) {
+    if (isConfined())
+        return std::make_unique<LinuxConfinedLoginItem>(QDBusConnection::sessionBus(), defaults);
+    return std::make_unique<LinuxLoginItem>();
+}
+
 } // namespace
 
 std::unique_ptr<Platform> makePlatform() {
@@ -39,7 +47,7 @@ std::unique_ptr<Platform> makePlatform() {
         *platform->scheduler, banners,
         LinuxWorkspace::Buses{sessionBusAddress(), systemBusAddress()});
     platform->accessibility = std::make_unique<LinuxAccessibility>(banners, sessionBusAddress());
-    platform->loginItem = std::make_unique<LinuxLoginItem>();
+    platform->loginItem = makeLoginItem(*platform->userDefaults);
     platform->systemSettings =
         std::make_unique<LinuxSystemSettings>(LinuxSystemSettings::currentDesktops());
     platform->systemFacts = std::make_unique<LinuxSystemFacts>();
