@@ -13,9 +13,9 @@ function(tessarine_system_program name)
     install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
                   ${PROJECT_SOURCE_DIR}/LICENSE
             DESTINATION ${CMAKE_INSTALL_DOCDIR})
-    set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
-    install(FILES ${PROJECT_SOURCE_DIR}/resources/icons/com.zorvek.Tessarine.svg
-            DESTINATION ${icons}/scalable/apps)
-    install(FILES ${PROJECT_SOURCE_DIR}/resources/icons/com.zorvek.Tessarine-symbolic.svg
-            DESTINATION ${icons}/symbolic/apps)
 endfunction()
+
+macro(tessarine_system_installation)
+    add_subdirectory(resources/linux)
+    include(cmake/TessarinePackage.cmake)
+endmacro()

@@ -59,3 +59,7 @@ function(tessarine_deploy_qt name)
     qt_generate_deploy_qml_app_script(TARGET ${name} OUTPUT_SCRIPT deploying)
     install(SCRIPT ${deploying})
 endfunction()
+
+# The bundle holds everything.
+macro(tessarine_system_installation)
+endmacro()

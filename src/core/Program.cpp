@@ -27,4 +27,14 @@ Program::Program()
     , views_(services_, *desktop_, setClipboard)
     , delegate_(views_) {}
 
+SingleInstance::Requests Program::requests() {
+    const auto answering = [this](auto work) {
+        return [this, work](const QString& token) {
+            desktop_->application->answer(token, [this, work] { (delegate_.*work)(); });
+        };
+    };
+    return {answering(&AppDelegate::activate), answering(&AppDelegate::showMainWindow),
+            [] { QCoreApplication::quit(); }};
+}
+
 } // namespace tessarine

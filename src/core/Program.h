@@ -3,6 +3,7 @@
 #include "core/AppDelegate.h"
 #include "core/Services.h"
 #include "core/ViewServices.h"
+#include "platform/SingleInstance.h"
 
 #include <memory>
 
@@ -17,6 +18,9 @@ public:
     Program& operator=(const Program&) = delete;
 
     AppDelegate& delegate() { return delegate_; }
+
+    // What others may ask of the program, which outlives them.
+    SingleInstance::Requests requests();
 
 private:
     std::unique_ptr<Platform> platform_;

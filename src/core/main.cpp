@@ -1,4 +1,5 @@
 #include "core/ApplicationSetup.h"
+#include "core/CommandLine.h"
 #include "core/DisplayCheck.h"
 #include "core/Program.h"
 #include "platform/Platform.h"
@@ -8,6 +9,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -20,6 +22,8 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
 
 int main(int argc, char** argv) {
     using namespace tessarine;
+    if (const std::optional<int> status = answerArguments(argc, argv))
+        return *status;
     const std::unique_ptr<SingleInstance> instance =
         makeSingleInstance(hoardPath(*makeFileSystem()));
     if (!instance->claim()) {
@@ -30,7 +34,7 @@ int main(int argc, char** argv) {
     [[maybe_unused]] const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     setUpApplication();
     Program program;
-    instance->onActivation([&program] { program.delegate().activate(); });
+    instance->onRequests(program.requests());
     program.delegate().applicationDidFinishLaunching();
     const int status = QApplication::exec();
     // Workers may be in the middle of a reading or a scan; what they use must not be taken apart

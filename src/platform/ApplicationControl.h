@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QString>
+
+#include <functional>
+
 class QWindow;
 
 namespace tessarine {
@@ -18,6 +22,14 @@ public:
     // Brings the program to the front with this window, which is shown already, whatever program
     // is in front now.
     virtual void activate(QWindow& window) = 0;
+
+    // Does the work that somebody asked for whose token lets this program come to the front. What
+    // the work activates may use it; with the end of the work it is used up. An empty token is
+    // none. Systems that know of no tokens just do the work.
+    virtual void answer(const QString& token, const std::function<void()>& work) {
+        static_cast<void>(token);
+        work();
+    }
 
     // Gives back to the system what the process has freed and its allocator keeps. Takes some
     // milliseconds.

@@ -40,6 +40,10 @@ inline const QString menuBarLastSeenCount = QStringLiteral("menuBarLastSeenCount
 // points to the left and upwards.
 inline const QString statusPanelOffset = QStringLiteral("statusPanelOffset");
 
+// Whether the desktop's portal has granted a start at login, written by LinuxConfinedLoginItem: in
+// a sandbox the desktop can't be asked. Bool.
+inline const QString startsAtLoginByPortal = QStringLiteral("startsAtLoginByPortal");
+
 // Whether the system brings windows back at the next start, written at launch. Bool, false.
 inline const QString restoresWindows = QStringLiteral("NSQuitAlwaysKeepsWindows");
 

@@ -10,6 +10,14 @@ namespace tessarine {
 // Sees to it that one copy of the program uses a file. Main thread.
 class SingleInstance {
 public:
+    // What is asked of the running copy. The token is what lets it come to the front although the
+    // user is elsewhere, as whoever asks hands it over; empty where there is none.
+    struct Requests {
+        std::function<void(const QString& token)> activate; // what another start asks for
+        std::function<void(const QString& token)> open;     // the main window
+        std::function<void()> quit;
+    };
+
     SingleInstance() = default;
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
@@ -25,9 +33,9 @@ public:
     // waiting for it to do so.
     virtual void activateFirst() = 0;
 
-    // After a claim that was granted: what to do when another copy asks. Needs the application
-    // object.
-    virtual void onActivation(std::function<void()> handler) = 0;
+    // After a claim that was granted: what to do when another copy asks, or the system does for the
+    // user. Needs the application object; requests from before are kept.
+    virtual void onRequests(Requests requests) = 0;
 };
 
 // The one of the system that the program was built for, for the file at a path, which need not be

@@ -2,12 +2,13 @@
 
 import os
 import pathlib
+import shutil
 import subprocess
 import time
 import unittest
 
 from desktop import Bus
-from session import PATIENCE, Daemon, Session, SessionTestCase, wait_until
+from session import PATIENCE, PROGRAM, Daemon, Session, SessionTestCase, wait_until
 
 NOBODY = 65534
 
@@ -40,6 +41,48 @@ class WithoutADisplay(SessionTestCase):
 
     def test_the_one_that_is_named_is_not_there(self):
         self.assert_says_so_and_ends({"DISPLAY": ":65123"})
+
+
+class Arguments(SessionTestCase):
+    """What the program says without starting."""
+
+    def run_with(self, *arguments, through=(), environment=None):
+        result = subprocess.run([*through, PROGRAM, *arguments], cwd=self.session.root,
+                                env={**self.session.environment, **(environment or {})},
+                                capture_output=True, text=True, timeout=PATIENCE)
+        return result.returncode, result.stdout, result.stderr
+
+    def test_help_and_version_need_no_display(self):
+        for option, beginning in (("--help", "Usage: tessarine\n"), ("--version", "Tessarine ")):
+            status, said, complained = self.run_with(option, environment={"DISPLAY": ""})
+            self.assertEqual((status, complained), (0, ""))
+            self.assertTrue(said.startswith(beginning), said)
+
+    def test_they_disturb_no_running_copy_and_no_file(self):
+        program = self.session.start_program()
+        wait_until(self.session.visible_panel, "the panel")
+        before = settled_snapshot(self.session.home)
+        self.run_with("--help")
+        self.run_with("--version")
+        self.assertEqual(snapshot(self.session.home), before)
+        self.session.assert_running(program)
+
+    def test_they_read_nothing(self):
+        if shutil.which("strace") is None:
+            self.skipTest("strace is not installed")
+        for option in ("--help", "--version"):
+            trace = self.session.root / "trace"
+            self.run_with(option, through=["strace", "-f", "-o", str(trace), "-e",
+                                           "trace=open,openat,creat,mkdir,connect,readlink,access"])
+            calls = trace.read_text()
+            self.assertNotIn(str(self.session.root), calls.split("\n", 1)[1])
+            for forbidden in ("connect(", "O_CREAT", "O_WRONLY", "O_RDWR", "mkdir("):
+                self.assertNotIn(forbidden, calls)
+
+    def test_anything_else_is_refused_in_one_line(self):
+        self.assertEqual(self.run_with("--open"), (
+            2, "", 'tessarine: it takes no argument "--open"; see tessarine --help\n'))
+        self.assertFalse(self.session.data.exists())
 
 
 class SingleInstance(SessionTestCase):

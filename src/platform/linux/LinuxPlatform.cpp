@@ -1,5 +1,6 @@
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
+#include "platform/linux/Confinement.h"
 #include "platform/linux/HeapMemory.h"
 #include "platform/linux/InotifyWatcher.h"
 #include "platform/linux/LinuxFileSystem.h"
@@ -7,11 +8,13 @@
 #include "platform/linux/LinuxSystemFacts.h"
 #include "platform/linux/LinuxUserDefaults.h"
 #include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/applications/LinuxConfinedLoginItem.h"
 #include "platform/linux/applications/LinuxLoginItem.h"
 #include "platform/linux/applications/LinuxSystemSettings.h"
 #include "platform/linux/banners/LinuxAccessibility.h"
 #include "platform/qt/QtScheduler.h"
 
+#include <QDBusConnection>
 #include <QStandardPaths>
 
 namespace tessarine {
@@ -21,6 +24,12 @@ namespace {
 QString defaultsPath() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/com.zorvek.Tessarine.conf");
+}
+
+std::unique_ptr<LoginItem> makeLoginItem(UserDefaults& defaults) {
+    if (isConfined())
+        return std::make_unique<LinuxConfinedLoginItem>(QDBusConnection::sessionBus(), defaults);
+    return std::make_unique<LinuxLoginItem>();
 }
 
 } // namespace
@@ -37,7 +46,7 @@ std::unique_ptr<Platform> makePlatform() {
         *platform->scheduler, banners,
         LinuxWorkspace::Buses{sessionBusAddress(), systemBusAddress()});
     platform->accessibility = std::make_unique<LinuxAccessibility>(banners, sessionBusAddress());
-    platform->loginItem = std::make_unique<LinuxLoginItem>();
+    platform->loginItem = makeLoginItem(*platform->userDefaults);
     platform->systemSettings =
         std::make_unique<LinuxSystemSettings>(LinuxSystemSettings::currentDesktops());
     platform->systemFacts = std::make_unique<LinuxSystemFacts>();
@@ -53,7 +62,7 @@ std::unique_ptr<FileSystem> makeFileSystem() {
 }
 
 std::unique_ptr<SingleInstance> makeSingleInstance(const QString& path) {
-    return std::make_unique<LinuxSingleInstance>(path);
+    return std::make_unique<LinuxSingleInstance>(path, &QDBusConnection::sessionBus);
 }
 
 } // namespace tessarine

@@ -16,10 +16,12 @@ std::string activationName(const FileIdentity& lock) {
 
 } // namespace
 
-LinuxSingleInstance::LinuxSingleInstance(QString path)
-    : path_(std::move(path)) {}
+LinuxSingleInstance::LinuxSingleInstance(QString path, Bus bus)
+    : path_(std::move(path))
+    , bus_(std::move(bus)) {}
 
 bool LinuxSingleInstance::claim() {
+    token_ = tokenOfOwnStart();
     const FileLockState state = takeLock();
     if (const std::optional<FileIdentity> identity = lock_.identity())
         socket_.emplace(activationName(*identity));
@@ -38,12 +40,18 @@ FileLockState LinuxSingleInstance::takeLock() {
 
 void LinuxSingleInstance::activateFirst() {
     if (socket_)
-        socket_->ask();
+        socket_->ask(token_);
 }
 
-void LinuxSingleInstance::onActivation(std::function<void()> handler) {
+// The own start asks as well: whoever started the program waits for it to show something, and is
+// to be told that it runs although it starts silent.
+void LinuxSingleInstance::onRequests(Requests requests) {
+    if (!token_.isEmpty())
+        requests.activate(token_);
     if (socket_)
-        socket_->onRequest(std::move(handler));
+        socket_->onRequest(requests.activate);
+    if (bus_)
+        service_ = std::make_unique<ApplicationService>(bus_(), std::move(requests));
 }
 
 } // namespace tessarine

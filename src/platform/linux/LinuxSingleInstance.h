@@ -2,10 +2,14 @@
 
 #include "platform/SingleInstance.h"
 #include "platform/linux/ActivationSocket.h"
+#include "platform/linux/bus/ApplicationService.h"
 #include "platform/posix/FileLock.h"
 
+#include <QDBusConnection>
 #include <QString>
 
+#include <functional>
+#include <memory>
 #include <optional>
 
 namespace tessarine {
@@ -13,22 +17,28 @@ namespace tessarine {
 // The claim is a lock on a file beside the one that is protected, never on that file itself: to
 // close it once more would drop the locks that SQLite holds on it. Any spelling of the path, any
 // link and any namespace that leads to the file leads to the same lock, and to the same first copy
-// for its activation.
+// for its activation. A later copy asks by a socket, and the desktop by the session's bus.
 class LinuxSingleInstance : public SingleInstance {
 public:
-    // The path of the file that one copy may use.
-    explicit LinuxSingleInstance(QString path);
+    using Bus = std::function<QDBusConnection()>;
+
+    // The path of the file that one copy may use, and how to get the session's bus once there is an
+    // application object; without it the desktop can't ask.
+    explicit LinuxSingleInstance(QString path, Bus bus = {});
 
     bool claim() override;
     void activateFirst() override;
-    void onActivation(std::function<void()> handler) override;
+    void onRequests(Requests requests) override;
 
 private:
     FileLockState takeLock();
 
     const QString path_;
+    const Bus bus_;
     FileLock lock_;
+    QString token_; // of this process's own start
     std::optional<ActivationSocket> socket_;
+    std::unique_ptr<ApplicationService> service_;
 };
 
 } // namespace tessarine

@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxWorkspace.h"
 
+#include "platform/linux/Confinement.h"
 #include "platform/linux/applications/ApplicationStart.h"
 #include "platform/linux/applications/ExecLine.h"
 
@@ -117,7 +118,10 @@ void LinuxWorkspace::openApplication(const QString& path) {
 }
 
 void LinuxWorkspace::openURL(const QString& url) {
-    scheduler_.onGlobalQueue(QualityOfService::userInitiated, [url] { openWithDesktop(url); });
+    scheduler_.onGlobalQueue(QualityOfService::userInitiated, [url, bus = sessionBus_] {
+        if (!isConfined() || !openWithPortal(url, bus))
+            openWithDesktop(url);
+    });
 }
 
 std::vector<RunningApplication> LinuxWorkspace::runningBannerProcess() const {

@@ -14,6 +14,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,10 @@ protected:
         constexpr int moreThanAnyTestMakes = 10;
         for (int i = 0; i < moreThanAnyTestMakes; ++i)
             QCoreApplication::processEvents();
+    }
+
+    static SingleInstance::Requests counting(int& activations) {
+        return {[&activations](const QString&) { ++activations; }, {}, {}};
     }
 
     QTemporaryDir folder;
@@ -134,7 +139,7 @@ TEST_P(OtherWay, IsRefusedWhenThereIsAFile) {
 TEST_P(OtherWay, BringsTheFirstToTheFront) {
     int activations = 0;
     ASSERT_TRUE(first.claim());
-    first.onActivation([&] { ++activations; });
+    first.onRequests(counting(activations));
     LinuxSingleInstance later(other);
     ASSERT_FALSE(later.claim());
     later.activateFirst();
@@ -237,7 +242,7 @@ TEST_F(SingleInstanceTest, StartsInAFolderThatMayNotBeWrittenTo) {
     EXPECT_EQ(asOrdinaryUser([&] {
                   LinuxSingleInstance instance(path);
                   const bool isGranted = instance.claim();
-                  instance.onActivation([] {});
+                  instance.onRequests({[](const QString&) {}, {}, {}});
                   instance.activateFirst();
                   return QString::number(isGranted);
               }),
@@ -268,7 +273,7 @@ TEST_F(SingleInstanceTest, StartsWithALinkThatLeadsToItself) {
 TEST_F(SingleInstanceTest, BringsTheFirstToTheFront) {
     int activations = 0;
     ASSERT_TRUE(first.claim());
-    first.onActivation([&] { ++activations; });
+    first.onRequests(counting(activations));
     ASSERT_FALSE(second.claim());
     second.activateFirst();
     takeRequests();
@@ -278,7 +283,7 @@ TEST_F(SingleInstanceTest, BringsTheFirstToTheFront) {
 TEST_F(SingleInstanceTest, DoesNotComeToTheFrontForAClaimAlone) {
     int activations = 0;
     ASSERT_TRUE(first.claim());
-    first.onActivation([&] { ++activations; });
+    first.onRequests(counting(activations));
     ASSERT_FALSE(second.claim());
     takeRequests();
     EXPECT_EQ(activations, 0);
@@ -289,7 +294,7 @@ TEST_F(SingleInstanceTest, ComesToTheFrontForARequestFromBeforeItListened) {
     ASSERT_TRUE(first.claim());
     ASSERT_FALSE(second.claim());
     second.activateFirst();
-    first.onActivation([&] { ++activations; });
+    first.onRequests(counting(activations));
     takeRequests();
     EXPECT_EQ(activations, 1);
 }
@@ -297,7 +302,7 @@ TEST_F(SingleInstanceTest, ComesToTheFrontForARequestFromBeforeItListened) {
 TEST_F(SingleInstanceTest, ComesToTheFrontAsOftenAsItIsAsked) {
     int activations = 0;
     ASSERT_TRUE(first.claim());
-    first.onActivation([&] { ++activations; });
+    first.onRequests(counting(activations));
     ASSERT_FALSE(second.claim());
     second.activateFirst();
     second.activateFirst();
@@ -308,7 +313,7 @@ TEST_F(SingleInstanceTest, ComesToTheFrontAsOftenAsItIsAsked) {
 TEST_F(SingleInstanceTest, ComesToTheFrontForAProcessThatEndsAtOnce) {
     int activations = 0;
     ASSERT_TRUE(first.claim());
-    first.onActivation([&] { ++activations; });
+    first.onRequests(counting(activations));
     inAnotherProcess([&] {
         second.claim();
         second.activateFirst();
@@ -325,9 +330,9 @@ TEST_F(SingleInstanceTest, BringsTheCopyToTheFrontThatHasItsFile) {
     int activations = 0;
     int activationsOfOther = 0;
     ASSERT_TRUE(first.claim());
-    first.onActivation([&] { ++activations; });
+    first.onRequests(counting(activations));
     ASSERT_TRUE(firstOfOther.claim());
-    firstOfOther.onActivation([&] { ++activationsOfOther; });
+    firstOfOther.onRequests(counting(activationsOfOther));
     ASSERT_FALSE(secondOfOther.claim());
     secondOfOther.activateFirst();
     takeRequests();
@@ -379,7 +384,7 @@ TEST_F(SingleInstanceTest, NeitherStartsNorWaitsByWhatAnImpostorDoes) {
     ASSERT_TRUE(QFile(lock).open(QIODevice::WriteOnly));
     const Impostor impostor(lock);
     ASSERT_TRUE(first.claim());
-    first.onActivation([] {});
+    first.onRequests({[](const QString&) {}, {}, {}});
     ASSERT_FALSE(second.claim());
     for (int i = 0; i < 5; ++i) // more than the impostor's queue holds
         second.activateFirst();
@@ -390,7 +395,7 @@ TEST_F(SingleInstanceTest, IgnoresTheRequestOfAnotherUser) {
         GTEST_SKIP() << "needs two users";
     int activations = 0;
     ASSERT_TRUE(first.claim());
-    first.onActivation([&] { ++activations; });
+    first.onRequests(counting(activations));
     ASSERT_FALSE(second.claim());
     asOrdinaryUser([&] {
         second.activateFirst();
@@ -399,6 +404,136 @@ TEST_F(SingleInstanceTest, IgnoresTheRequestOfAnotherUser) {
     second.activateFirst(); // of this user, and so the last in the queue
     takeRequests();
     EXPECT_EQ(activations, 1);
+}
+
+// Tokens
+
+// The environment that a desktop gives to what it starts.
+class StartEnvironment {
+public:
+    StartEnvironment(const char* variable, const QByteArray& token)
+        : variable_(variable) {
+        qputenv(variable, token);
+    }
+    StartEnvironment(const StartEnvironment&) = delete;
+    StartEnvironment& operator=(const StartEnvironment&) = delete;
+    ~StartEnvironment() { qunsetenv(variable_); }
+
+private:
+    const char* const variable_;
+};
+
+// A process of this user that asks for something in bytes of its own.
+class RawRequest {
+public:
+    explicit RawRequest(const QString& lock) {
+        struct stat status {};
+        EXPECT_EQ(stat(QFile::encodeName(lock).constData(), &status), 0);
+        const std::string name = "com.zorvek.Tessarine/" + std::to_string(status.st_dev) + '/' +
+                                 std::to_string(status.st_ino);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::memcpy(address.sun_path + 1, name.data(), name.size());
+        const auto size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
+        EXPECT_EQ(connect(socket_, reinterpret_cast<const sockaddr*>(&address), size), 0);
+    }
+    RawRequest(const RawRequest&) = delete;
+    RawRequest& operator=(const RawRequest&) = delete;
+    ~RawRequest() { close(socket_); }
+
+    void say(const std::string& bytes) const {
+        EXPECT_EQ(send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL), ssize_t(bytes.size()));
+    }
+
+private:
+    const int socket_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+};
+
+class ActivationTokenTest : public SingleInstanceTest {
+protected:
+    ActivationTokenTest() {
+        EXPECT_TRUE(first.claim());
+        first.onRequests({[this](const QString& token) { tokens << token; }, {}, {}});
+    }
+
+    void startLater() {
+        LinuxSingleInstance later(path);
+        EXPECT_FALSE(later.claim());
+        later.activateFirst();
+        takeRequests();
+    }
+
+    const QString lock = path + u".lock"_qs;
+    QStringList tokens;
+};
+
+TEST_F(ActivationTokenTest, ALaterStartHandsItsTokenOver) {
+    const StartEnvironment environment("XDG_ACTIVATION_TOKEN", "shell-7");
+    startLater();
+    EXPECT_EQ(tokens, QStringList(u"shell-7"_qs));
+}
+
+TEST_F(ActivationTokenTest, TheIdOfAStartupNotificationIsATokenToo) {
+    const StartEnvironment environment("DESKTOP_STARTUP_ID", "panel/7-0-host_TIME123");
+    startLater();
+    EXPECT_EQ(tokens, QStringList(u"panel/7-0-host_TIME123"_qs));
+}
+
+TEST_F(ActivationTokenTest, AStartWithoutATokenHasNone) {
+    startLater();
+    EXPECT_EQ(tokens, QStringList(QString()));
+}
+
+TEST_F(ActivationTokenTest, WhatIsNoTokenIsLeftOut) {
+    for (const QByteArray& odd : {QByteArray("two words"), QByteArray("line\nbreak"),
+                                  QByteArray("\xc3\xa4"), QByteArray(2000, 'x')}) {
+        const StartEnvironment environment("XDG_ACTIVATION_TOKEN", odd);
+        startLater();
+    }
+    EXPECT_EQ(tokens, QStringList({QString(), QString(), QString(), QString()}));
+}
+
+TEST_F(ActivationTokenTest, ATokenMayComeInPieces) {
+    {
+        const RawRequest request(lock);
+        takeRequests();
+        request.say("abc");
+        takeRequests();
+        request.say("def");
+        takeRequests();
+        EXPECT_TRUE(tokens.isEmpty());
+    }
+    takeRequests();
+    EXPECT_EQ(tokens, QStringList(u"abcdef"_qs));
+}
+
+TEST_F(ActivationTokenTest, ATokenWithoutAnEndIsNotReadForEver) {
+    const RawRequest request(lock);
+    takeRequests();
+    request.say(std::string(5000, 'x'));
+    takeRequests();
+    EXPECT_EQ(tokens, QStringList(QString()));
+}
+
+TEST_F(ActivationTokenTest, WhoSaysNothingKeepsNobodyWaiting) {
+    std::vector<std::unique_ptr<RawRequest>> silent;
+    for (int i = 0; i < 40; ++i) {
+        silent.push_back(std::make_unique<RawRequest>(lock));
+        takeRequests();
+    }
+    EXPECT_EQ(tokens.size(), 40 - 16); // the oldest are answered, so that no more than 16 wait
+    const StartEnvironment environment("XDG_ACTIVATION_TOKEN", "shell-8");
+    startLater();
+    EXPECT_EQ(tokens.back(), u"shell-8"_qs);
+}
+
+TEST_F(SingleInstanceTest, TheOwnStartAsksWithItsToken) {
+    const StartEnvironment environment("DESKTOP_STARTUP_ID", "panel_TIME9");
+    QStringList tokens;
+    ASSERT_TRUE(first.claim());
+    qunsetenv("DESKTOP_STARTUP_ID"); // as the application object does
+    first.onRequests({[&](const QString& token) { tokens << token; }, {}, {}});
+    EXPECT_EQ(tokens, QStringList(u"panel_TIME9"_qs));
 }
 
 } // namespace

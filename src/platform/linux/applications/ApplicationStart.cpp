@@ -42,6 +42,15 @@ Connection connectTo(const std::string& bus) {
     return dbus_bus_register(connection.get(), nullptr) ? std::move(connection) : nullptr;
 }
 
+// An empty dictionary as a call's last argument.
+void appendNoOptions(DBusMessage& call) {
+    DBusMessageIter arguments;
+    DBusMessageIter options;
+    dbus_message_iter_init_append(&call, &arguments);
+    dbus_message_iter_open_container(&arguments, DBUS_TYPE_ARRAY, "{sv}", &options);
+    dbus_message_iter_close_container(&arguments, &options);
+}
+
 // The call that raises an application, which follows from its entry's id. Null where the id is no
 // name for a bus.
 Message activation(const DesktopEntry& entry) {
@@ -53,11 +62,20 @@ Message activation(const DesktopEntry& entry) {
     Message call(dbus_message_new_method_call(name.constData(), path.constData(),
                                               "org.freedesktop.Application", "Activate"));
     dbus_message_set_auto_start(call.get(), entry.isBusActivatable);
-    DBusMessageIter arguments;
-    DBusMessageIter platformData;
-    dbus_message_iter_init_append(call.get(), &arguments);
-    dbus_message_iter_open_container(&arguments, DBUS_TYPE_ARRAY, "{sv}", &platformData);
-    dbus_message_iter_close_container(&arguments, &platformData);
+    appendNoOptions(*call);
+    return call;
+}
+
+Message portalCall(const QString& url) {
+    Message call(dbus_message_new_method_call("org.freedesktop.portal.Desktop",
+                                              "/org/freedesktop/portal/desktop",
+                                              "org.freedesktop.portal.OpenURI", "OpenURI"));
+    const QByteArray address = url.toUtf8();
+    const char* const text = address.constData();
+    const char* const window = ""; // none that a question would stand before
+    dbus_message_append_args(call.get(), DBUS_TYPE_STRING, &window, DBUS_TYPE_STRING, &text,
+                             DBUS_TYPE_INVALID);
+    appendNoOptions(*call);
     return call;
 }
 
@@ -119,6 +137,15 @@ void startApplication(const DesktopEntry& entry, const std::string& sessionBus) 
 void openWithDesktop(const QString& url) {
     if (!startDetached({QStringLiteral("xdg-open"), url}))
         startDetached({QStringLiteral("gio"), QStringLiteral("open"), url});
+}
+
+bool openWithPortal(const QString& url, const std::string& sessionBus) {
+    const Connection connection = connectTo(sessionBus);
+    if (!connection)
+        return false;
+    const Message answer(dbus_connection_send_with_reply_and_block(
+        connection.get(), portalCall(url).get(), startOverBusMs, nullptr));
+    return answer != nullptr;
 }
 
 std::optional<QStringList> inTerminal(const QStringList& command) {

@@ -19,6 +19,11 @@ void startApplication(const DesktopEntry& entry, const std::string& sessionBus);
 // Hands the address to the desktop's opener. Any thread.
 void openWithDesktop(const QString& url);
 
+// Hands the address to the portal for that, by which a confined program reaches the desktop's
+// opener. False where nobody on the bus took it: there is no portal, or it opens no such address.
+// May wait for the bus; any thread.
+bool openWithPortal(const QString& url, const std::string& sessionBus);
+
 // The command line inside the terminal emulator that is there. Nothing when there is none.
 std::optional<QStringList> inTerminal(const QStringList& command);
 

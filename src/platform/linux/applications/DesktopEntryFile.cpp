@@ -33,16 +33,26 @@ QString unescaped(QStringView value) {
     return text;
 }
 
+// Of what the format calls space; a value may begin or end with any other kind.
+QStringView trimmed(QStringView text) {
+    const auto isBlank = [](QChar character) {
+        return character == u' ' || character == u'\t' || character == u'\r';
+    };
+    while (!text.isEmpty() && isBlank(text.front()))
+        text = text.sliced(1);
+    while (!text.isEmpty() && isBlank(text.back()))
+        text.chop(1);
+    return text;
+}
+
 } // namespace
 
-std::optional<DesktopEntryKeys> readDesktopEntryKeys(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
+DesktopEntryKeys desktopEntryKeys(const QByteArray& content) {
     DesktopEntryKeys keys;
     bool inEntry = false; // other groups hold actions
-    while (!file.atEnd()) {
-        const QString line = QString::fromUtf8(file.readLine()).trimmed();
+    for (const QByteArray& bytes : content.split('\n')) {
+        const QString text = QString::fromUtf8(bytes);
+        const QStringView line = trimmed(text);
         if (line.startsWith(u'[')) {
             inEntry = line == QStringLiteral("[Desktop Entry]");
             continue;
@@ -50,10 +60,17 @@ std::optional<DesktopEntryKeys> readDesktopEntryKeys(const QString& path) {
         const qsizetype equals = line.indexOf(u'=');
         if (!inEntry || line.startsWith(u'#') || equals <= 0)
             continue;
-        keys.insert(line.first(equals).trimmed(),
-                    unescaped(QStringView(line).sliced(equals + 1).trimmed()));
+        keys.insert(trimmed(line.first(equals)).toString(),
+                    unescaped(trimmed(line.sliced(equals + 1))));
     }
     return keys;
+}
+
+std::optional<DesktopEntryKeys> readDesktopEntryKeys(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return desktopEntryKeys(file.readAll());
 }
 
 bool isTrue(const DesktopEntryKeys& keys, const QString& key) {
@@ -66,6 +83,8 @@ QString escapedValue(const QString& text) {
         .replace(u'\n', QStringLiteral("\\n"))
         .replace(u'\t', QStringLiteral("\\t"))
         .replace(u'\r', QStringLiteral("\\r"));
+    if (value.endsWith(u' '))
+        value.replace(value.size() - 1, 1, QStringLiteral("\\s"));
     if (value.startsWith(u' '))
         value.replace(0, 1, QStringLiteral("\\s"));
     return value;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
 
@@ -11,7 +12,9 @@ namespace tessarine {
 // keys as they are written, localised ones with their suffix, and their values unescaped.
 using DesktopEntryKeys = QHash<QString, QString>;
 
-// Nothing where the file can't be read.
+DesktopEntryKeys desktopEntryKeys(const QByteArray& content);
+
+// The same of a file. Nothing where it can't be read.
 std::optional<DesktopEntryKeys> readDesktopEntryKeys(const QString& path);
 
 // As GLib and the specification read booleans: "true" alone is true.

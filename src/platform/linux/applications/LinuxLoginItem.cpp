@@ -64,15 +64,17 @@ QString runningProgram() {
     return image.isEmpty() ? QCoreApplication::applicationFilePath() : image;
 }
 
+// The desktop passes over it in silence when the program has been removed.
 QByteArray entryFor(const QString& command) {
     return QStringLiteral("[Desktop Entry]\n"
                           "Type=Application\n"
                           "Name=Tessarine\n"
                           "Exec=%1\n"
+                          "TryExec=%2\n"
                           "Icon=com.zorvek.Tessarine\n"
                           "Terminal=false\n"
                           "X-GNOME-Autostart-enabled=true\n")
-        .arg(escapedValue(execWord(command)))
+        .arg(escapedValue(execWord(command)), escapedValue(command))
         .toUtf8();
 }
 

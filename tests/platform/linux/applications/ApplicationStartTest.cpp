@@ -7,12 +7,18 @@
 #include "support/ManualScheduler.h"
 #include "support/Printers.h"
 
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusVirtualObject>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <thread>
 
 #include <unistd.h>
@@ -306,6 +312,61 @@ TEST_F(BusStartTest, FallsBackToTheCommandWhereTheIdIsNoBusName) {
     LinuxWorkspace workspace = makeWorkspace(bus.address());
     open(workspace, u"app"_qs);
     EXPECT_EQ(told().at(1), u"bus"_qs);
+}
+
+// The portal of a confined program
+
+// Stands in for it; takes addresses of the web alone, as the portal does.
+class FakeOpener : public QDBusVirtualObject {
+public:
+    explicit FakeOpener(QDBusConnection bus) {
+        bus.registerVirtualObject(u"/org/freedesktop/portal/desktop"_qs, this);
+        bus.registerService(u"org.freedesktop.portal.Desktop"_qs);
+    }
+
+    QString introspect(const QString&) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override {
+        EXPECT_EQ(call.interface(), u"org.freedesktop.portal.OpenURI"_qs);
+        EXPECT_EQ(call.member(), u"OpenURI"_qs);
+        EXPECT_EQ(call.signature(), u"ssa{sv}"_qs);
+        const QString url = call.arguments().value(1).toString();
+        if (!url.startsWith(u"https:"_qs))
+            return bus.send(call.createErrorReply(QDBusError::InvalidArgs, u"no"_qs));
+        opened << url;
+        return bus.send(call.createReply(QVariant::fromValue(QDBusObjectPath(u"/request"_qs))));
+    }
+
+    QStringList opened;
+};
+
+// While this thread serves the portal.
+bool isOpenedByPortal(const QString& url, const PrivateBus& bus) {
+    std::atomic<int> answer = -1;
+    std::thread asking([&] { answer = openWithPortal(url, bus.address()) ? 1 : 0; });
+    turnsUntil([&] { return answer >= 0; });
+    asking.join();
+    return answer == 1;
+}
+
+TEST(PortalForAddresses, TakesAnAddress) {
+    PrivateBus bus;
+    bus.start();
+    {
+        FakeOpener portal(
+            QDBusConnection::connectToBus(QString::fromStdString(bus.address()), u"opener"_qs));
+        EXPECT_TRUE(isOpenedByPortal(u"https://example.com/ü?a=b"_qs, bus));
+        EXPECT_EQ(portal.opened, QStringList(u"https://example.com/ü?a=b"_qs));
+        EXPECT_FALSE(isOpenedByPortal(u"file:///etc/passwd"_qs, bus));
+    }
+    QDBusConnection::disconnectFromBus(u"opener"_qs);
+}
+
+TEST(PortalForAddresses, IsMissingOnOtherDesktops) {
+    PrivateBus bus;
+    bus.start();
+    EXPECT_FALSE(isOpenedByPortal(u"https://example.com/"_qs, bus));
+    EXPECT_FALSE(openWithPortal(u"https://example.com/"_qs, {}));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/linux/applications/DesktopEntries.h"
 
+#include "platform/linux/applications/DesktopEntryFile.h"
 #include "platform/linux/applications/ExecLine.h"
 #include "support/Printers.h"
 
@@ -43,6 +44,16 @@ protected:
 
     QTemporaryDir folder;
 };
+
+// A file that holds the value as it is written for others to read.
+TEST(DesktopEntryValue, ComesBackWithItsBlanks) {
+    for (const QString& text : {u" a "_qs, u" "_qs, u"a\t"_qs, u"\u00a0a\u2003"_qs, u"\\s"_qs,
+                                u"a\n\r\nb"_qs, u"\va\f"_qs}) {
+        const QByteArray content =
+            "[Desktop Entry]\nName = " + escapedValue(text).toUtf8() + "\r\n";
+        EXPECT_EQ(desktopEntryKeys(content).value(u"Name"_qs), text);
+    }
+}
 
 TEST_F(DesktopEntryFile, GivesNameCommandAndIcon) {
     const auto entry = read("[Desktop Entry]\nType=Application\nName=Text Editor\n"

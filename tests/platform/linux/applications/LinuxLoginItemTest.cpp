@@ -56,12 +56,21 @@ TEST_F(LinuxLoginItemTest, RegisteringWritesAnEntryThatStartsThisProgram) {
                          "Name=Tessarine\n"
                          "Exec=" +
                              QCoreApplication::applicationFilePath().toUtf8() +
+                             "\nTryExec=" + QCoreApplication::applicationFilePath().toUtf8() +
                              "\n"
                              "Icon=com.zorvek.Tessarine\n"
                              "Terminal=false\n"
                              "X-GNOME-Autostart-enabled=true\n");
     EXPECT_EQ(QDir(home_.filePath(u"user"_qs)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               QStringList(u"com.zorvek.Tessarine.desktop"_qs));
+}
+
+TEST_F(LinuxLoginItemTest, AnEntryWhoseProgramWasRemovedIsPassedOver) {
+    ASSERT_EQ(item_.registerMainApp(), std::nullopt);
+    QByteArray lines = content();
+    lines.replace(QCoreApplication::applicationFilePath().toUtf8(), "/usr/bin/removed-program");
+    writeLines(userEntry(), lines);
+    EXPECT_EQ(item_.status(), LoginItemStatus::notFound);
 }
 
 TEST_F(LinuxLoginItemTest, UnregisteringTakesTheEntryAway) {

@@ -1,5 +1,5 @@
+#include "platform/linux/bus/QtBus.h"
 #include "platform/linux/desktop/LinuxSavePanel.h"
-#include "platform/linux/desktop/QtBus.h"
 #include "support/Printers.h"
 #include "support/SimulatedDesktop.h"
 
