@@ -30,6 +30,12 @@ std::string oneLine(std::string text) {
     return text;
 }
 
+// What systems hand to any program, for Qt or for themselves to read: session managers the
+// session's identifier, macOS settings that hold for one start.
+bool isOfTheSystem(const std::string& argument) {
+    return argument == "-session" || argument.starts_with("-NS") || argument.starts_with("-Apple");
+}
+
 CommandLineAnswer refusal(const std::string& argument) {
     return {wrongUsage, Stream::errors,
             "tessarine: it takes no argument \"" + oneLine(argument) +
@@ -42,8 +48,10 @@ std::optional<CommandLineAnswer> answerToArguments(const std::vector<std::string
     std::optional<CommandLineAnswer> answer;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
-        if (argument == "-session" && i + 1 < arguments.size())
-            ++i; // with its identifier, which Qt reads
+        if (isOfTheSystem(argument) && i + 1 < arguments.size())
+            ++i; // with its value
+        else if (argument.starts_with("-psn_"))
+            continue;
         else if (argument != "--help" && argument != "--version")
             return refusal(argument);
         else if (!answer && argument == "--help")

@@ -15,6 +15,9 @@ TEST(CommandLine, WithoutArgumentsTheProgramStarts) {
 
 TEST(CommandLine, AStartBySessionManagerIsAStart) {
     EXPECT_EQ(answerToArguments({"-session", "10b2d5_1700000000_123456"}), std::nullopt);
+    EXPECT_EQ(answerToArguments({"-AppleLanguages", "(de)", "-NSQuitAlwaysKeepsWindows", "NO"}),
+              std::nullopt);
+    EXPECT_EQ(answerToArguments({"-psn_0_12345"}), std::nullopt);
 }
 
 TEST(CommandLine, HelpSaysThatThereAreNoOptions) {

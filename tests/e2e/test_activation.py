@@ -1,6 +1,7 @@
 """How a desktop reaches the running program: by its windows' class, its name on the bus, the token of
 a second start."""
 
+import os
 import pathlib
 import shutil
 import subprocess
@@ -13,14 +14,17 @@ from session import PATIENCE, PROGRAM, SessionTestCase, wait_until
 from window_manager import Desk
 
 ID = "com.zorvek.Tessarine"
+NOBODY = 65534
 OBJECT = "/com/zorvek/Tessarine"
 INTERFACE = "org.freedesktop.Application"
 
 
 class ActivationTestCase(SessionTestCase):
+    bus_rules = ""
+
     def setUp(self):
         super().setUp()
-        self.bus = Bus(self.session)
+        self.bus = Bus(self.session, self.bus_rules)
         self.desk = Desk(self.session.environment["DISPLAY"])
         self.addCleanup(self.desk.close)
 
@@ -186,6 +190,58 @@ class StartupNotification(ActivationTestCase):
         self.activate(**{"activation-token": "shell-5_TIME555"})
         wait_until(lambda: self.requests_for(window, 555), "a request for the window")
         self.assertFalse(self.requests_for(window, 444))
+
+
+@unittest.skipUnless(shutil.which("sway"), "needs sway")
+class ActivationOnWayland(ActivationTestCase):
+    """Under a compositor without a screen, which takes any token. It refuses to run as root."""
+
+    user = NOBODY if os.getuid() == 0 else None
+    bus_rules = '<allow user="*"/>'  # this process among them
+
+    def setUp(self):
+        super().setUp()
+        configuration = self.session.root / "sway.conf"
+        configuration.write_text("output HEADLESS-1 resolution 1280x800\nxwayland disable\n")
+        self.session.environment.update(
+            WLR_BACKENDS="headless", WLR_LIBINPUT_NO_DEVICES="1", WLR_RENDERER="pixman")
+        with open(self.session.root / "sway.log", "wb") as log:
+            self.session.spawn("sway", "-c", str(configuration), stdout=log, stderr=log)
+        display = wait_until(self.wayland_display, "the compositor")
+        self.session.environment.update(WAYLAND_DISPLAY=display, WAYLAND_DEBUG="1",
+                                        QT_QPA_PLATFORM="wayland")
+        self.program = self.session.start_program()
+        wait_until(self.has_name, "the name")
+
+    def wayland_display(self):
+        names = [path.name for path in self.session.runtime.glob("wayland-*")]
+        return next((name for name in names if not name.endswith(".lock")), None)
+
+    def said(self, text):
+        """To the compositor."""
+        return text in self.session.log()
+
+    def test_the_application_id_is_that_of_the_entry(self):
+        self.act("open")
+        wait_until(lambda: self.said(f'set_app_id("{ID}")'), "the application id")
+
+    def test_a_token_of_the_bus_goes_to_the_compositor_once(self):
+        self.act("open")
+        wait_until(lambda: self.said('set_title("Tessarine")'), "the window")
+        self.activate(**{"activation-token": "token-of-the-shell"})
+        wait_until(lambda: self.said('.activate("token-of-the-shell"'), "the activation")
+        self.activate()
+        self.activate(**{"activation-token": "another-token"})
+        wait_until(lambda: self.said('.activate("another-token"'), "the activation")
+        self.assertEqual(self.session.log().count('.activate("token-of-the-shell"'), 1)
+
+    def test_a_second_start_hands_its_token_over(self):
+        self.act("open")
+        wait_until(lambda: self.said('set_title("Tessarine")'), "the window")
+        second = self.session.start_program(
+            wait=False, environment={"XDG_ACTIVATION_TOKEN": "token-of-a-launcher"})
+        self.assertEqual(second.wait(PATIENCE), 0)
+        wait_until(lambda: self.said('.activate("token-of-a-launcher"'), "the activation")
 
 
 if __name__ == "__main__":

@@ -150,15 +150,16 @@ void ActivationSocket::takeRequest() {
     }
     unfinished_.push_back(std::make_unique<Request>(connection));
     Request* const request = unfinished_.back().get();
-    if (request->read())
+    if (request->read()) {
         finish(request);
-    else if (unfinished_.size() > mostUnfinished)
+        return;
+    }
+    request->whenReadable([this, request] {
+        if (request->read())
+            finish(request);
+    });
+    if (unfinished_.size() > mostUnfinished)
         finish(unfinished_.front().get()); // who keeps it open never meant to say anything
-    else
-        request->whenReadable([this, request] {
-            if (request->read())
-                finish(request);
-        });
 }
 
 // The handler may take any time, and is the last to be done here.

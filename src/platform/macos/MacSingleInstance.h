@@ -15,7 +15,7 @@ public:
 
     bool claim() override;
     void activateFirst() override;
-    void onActivation(std::function<void()>) override {}
+    void onRequests(Requests) override {}
 
 private:
     const QString path_;

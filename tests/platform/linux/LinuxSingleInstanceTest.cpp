@@ -522,6 +522,10 @@ TEST_F(ActivationTokenTest, WhoSaysNothingKeepsNobodyWaiting) {
         takeRequests();
     }
     EXPECT_EQ(tokens.size(), 40 - 16); // the oldest are answered, so that no more than 16 wait
+    silent.back()->say("late");
+    silent.pop_back(); // the latest
+    takeRequests();
+    EXPECT_EQ(tokens.back(), u"late"_qs);
     const StartEnvironment environment("XDG_ACTIVATION_TOKEN", "shell-8");
     startLater();
     EXPECT_EQ(tokens.back(), u"shell-8"_qs);
