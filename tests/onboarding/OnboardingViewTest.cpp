@@ -121,6 +121,15 @@ TEST_F(OnboardingViewTest, NoWayLeadsBackFromTheAgreementAndOneToIt) {
     EXPECT_TRUE(view.eulaAgreed());
 }
 
+TEST_F(OnboardingViewTest, OpenedBehindTheAgreementTheFirstStartLeadsBackToIt) {
+    OnboardingView& view = open(true, 2);
+    EXPECT_EQ(view.page(), Page::accessibility);
+    EXPECT_TRUE(view.offersBack());
+    view.back();
+    EXPECT_EQ(view.page(), Page::agreement);
+    EXPECT_FALSE(view.canGoForward());
+}
+
 TEST_F(OnboardingViewTest, LaterThereIsAWayBackFromTheSecondPage) {
     OnboardingView& view = open(false, 1);
     EXPECT_TRUE(view.offersBack());
