@@ -47,8 +47,9 @@ SYSTEM_MACRO = re.compile(
     r"__OBJC__|_WIN32|Q_OS_\w+|TARGET_OS_\w+)\b")
 SYSTEM_HEADER = re.compile(
     r"^(dbus/|systemd/|linux/|X11/|xcb/|sys/inotify\.h|sys/eventfd\.h|sys/epoll\.h|QDBus|QtDBus|"
-    r"AppKit/|ApplicationServices/|Cocoa/|CoreFoundation/|CoreServices/|Foundation/|IOKit/|"
-    r"ServiceManagement/)")
+    r"AppKit/|ApplicationServices/|Cocoa/|CoreFoundation/|CoreGraphics/|CoreServices/|Foundation/|"
+    r"IOKit/|ServiceManagement/|Sparkle/|UniformTypeIdentifiers/|dispatch/|mach/|malloc/|objc/|"
+    r"pthread/)")
 BUS_NAME = re.compile(r"org\.freedesktop\.\w+")
 SYSTEM_LIBRARY = re.compile(r"(Qt6::DBus|PkgConfig::DBUS|-framework)\b")
 

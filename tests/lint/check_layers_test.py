@@ -154,6 +154,14 @@ class LayersTest(unittest.TestCase):
             "src/capture/Bus.cpp:2: <QDBusConnection> belongs to one system",
             "src/platform/qt/Watcher.cpp:1: <sys/inotify.h> belongs to one system")
 
+    def test_headers_of_the_other_system_too(self):
+        self.write("src/platform/macos/MacWorkspace.mm", "#import <AppKit/AppKit.h>")
+        self.write("src/apps/Launcher.cpp", "#include <AppKit/AppKit.h>",
+                   "#include <dispatch/dispatch.h>", "#include <pthread.h>")
+        self.assert_violations("src/apps/Launcher.cpp:1: <AppKit/AppKit.h> belongs to one system",
+                               "src/apps/Launcher.cpp:2: <dispatch/dispatch.h> belongs to one "
+                               "system")
+
     def test_bus_names_stay_in_their_folder(self):
         self.write("src/capture/Bus.cpp", 'const char* name = "org.freedesktop.Notifications";')
         self.assert_violations("src/capture/Bus.cpp:1: org.freedesktop.Notifications is known to "
