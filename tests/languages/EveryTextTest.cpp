@@ -81,7 +81,8 @@ protected:
 
 TEST_P(StatusMenuTest, HasRoomForEachOfItsEntries) {
     QMenu menu;
-    desktop.statusItem.menuBuilder(menu);
+    for (const StatusMenuItem& item : desktop.statusItem.menuBuilder())
+        menu.addAction(item.title);
     menu.ensurePolished();
     const QSize size = menu.sizeHint();
     for (QAction* action : menu.actions()) {
