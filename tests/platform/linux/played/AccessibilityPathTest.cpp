@@ -183,6 +183,7 @@ TEST_F(AccessibilityPathTest, GoesRoundInNoCircle) {
 
 TEST_F(AccessibilityPathTest, LooksThroughThreeHundredBanners) {
     std::vector<int> banners;
+    banners.reserve(300);
     for (int i = 0; i < 300; ++i)
         banners.push_back(
             drawn_.addBanner(drawer, u"Mail"_qs, {u"Message %1"_qs.arg(i), u"Body"_qs}));

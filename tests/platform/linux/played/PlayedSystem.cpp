@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 // --- Objects
@@ -101,6 +102,13 @@ const PlayedObject* objectOf(CFTypeRef reference) {
 PlayedObject* mutableObjectOf(CFTypeRef reference) {
     return const_cast<PlayedObject*>(objectOf(reference));
 }
+
+struct GiveBack {
+    void operator()(const PlayedObject* object) const { CFRelease(object); }
+};
+
+template <typename Object>
+using Held = std::unique_ptr<const Object, GiveBack>;
 
 // Objects of the constants below live as long as the program.
 struct Constants {
@@ -227,18 +235,16 @@ void PlayedSystem::send(int node, const QString& name) {
     std::vector<AXObserverRef> told = attached_;
     for (AXObserverRef observer : told)
         CFRetain(observer);
-    auto* const element = new PlayedElement(pid, node);
-    auto* const text = new PlayedText(name);
+    const Held<PlayedElement> element(new PlayedElement(pid, node));
+    const Held<PlayedText> text(new PlayedText(name));
     for (AXObserverRef observer : told) {
         const bool isAttached =
             std::find(attached_.begin(), attached_.end(), observer) != attached_.end();
         const auto context = observer->contexts.find(name);
         if (isAttached && observer->pid == pid && context != observer->contexts.end())
-            observer->callback(observer, element, text, context->second);
+            observer->callback(observer, element.get(), text.get(), context->second);
         CFRelease(observer);
     }
-    CFRelease(text);
-    CFRelease(element);
 }
 
 int PlayedSystem::ownedObjects() {
