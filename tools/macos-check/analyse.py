@@ -12,7 +12,7 @@ import build
 import target
 
 FOLDER = target.ROOT / "src/platform/macos"
-OURS = f"^{re.escape(str(target.ROOT))}/src/platform/macos/.*\\.(h|mm)$"
+OURS = f"^{re.escape(str(target.ROOT))}/src/platform/macos/.*\\.(h|mm|cpp)$"
 
 
 def flags_of(entry):
@@ -56,6 +56,9 @@ def units():
             files, flags = found.setdefault(file.parent, ([], []))
             files.append(file)
             flags += [] if flags else flags_of(entry)
+    # Beside them lie sources in C++ alone, which the build may have put together.
+    for file in FOLDER.rglob("*.cpp"):
+        found[file.parent][0].append(file)
     return [Unit(folder.relative_to(FOLDER.parent).as_posix().replace("/", "_"), sorted(files), flags)
             for folder, (files, flags) in sorted(found.items())]
 

@@ -46,7 +46,7 @@ LinuxSavePanel::LinuxSavePanel(const SystemAppearance& appearance, const QDBusCo
 std::optional<QString> LinuxSavePanel::runModal(const Request& request) {
     if (folder_.isEmpty() || !QDir(folder_).exists())
         folder_ = firstFolder();
-    const std::optional<QString> path = askBySystem(request);
+    std::optional<QString> path = askBySystem(request);
     if (path)
         folder_ = QFileInfo(*path).absolutePath();
     return path;

@@ -28,7 +28,7 @@ class FakeFilePortal : public QObject {
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
 
 public:
-    explicit FakeFilePortal(QDBusConnection bus)
+    explicit FakeFilePortal(const QDBusConnection& bus)
         : bus_(bus) {
         bus_.registerObject(u"/org/freedesktop/portal/desktop"_qs, this,
                             QDBusConnection::ExportAllSlots);
