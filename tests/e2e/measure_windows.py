@@ -34,10 +34,6 @@ WINDOWS = {
 }
 
 
-# Those that a start brings until the setting of this name is there.
-AT_START = {"privacy notice": "hasSeenPrivacyNotice", "login prompt": "launchLoginPromptSuppressed"}
-
-
 class Screen:
     """Reads points of a display."""
 
@@ -96,8 +92,10 @@ def own_session():
     session = Session()
     bus = Bus(session)
     NotificationDaemon(session, bus, "plain")
-    yield session
-    session.close()
+    try:
+        yield session
+    finally:
+        session.close()
 
 
 def measure_first_start(times):
@@ -136,23 +134,7 @@ def measure_windows(times):
             print(f"    memory {shown:6.1f} MB open, {megabytes(program):6.1f} MB closed", flush=True)
 
 
-def measure_windows_of_a_start():
-    for name, key in AT_START.items():
-        with own_session() as session:
-            screen = Screen(session.environment["DISPLAY"])
-            session.write_defaults("appearanceMode=light", without=[key])
-            program = session.start_program()
-            screen.seconds_to(True, 0)
-            time.sleep(REST)
-            shown = megabytes(program)
-            close_window(session, screen)
-            time.sleep(REST)
-            print(f"{name}: memory {shown:6.1f} MB open, {megabytes(program):6.1f} MB closed",
-                  flush=True)
-
-
 if __name__ == "__main__":
     measure_first_start(int(sys.argv[1]) if len(sys.argv) > 1 else 20)
     measure_windows(int(sys.argv[1]) if len(sys.argv) > 1 else 20)
-    measure_windows_of_a_start()
     Display.end()
