@@ -18,7 +18,7 @@ std::optional<QString> MacSavePanel::runModal(const Request& request) {
     dialog.setDefaultSuffix(request.extension);
     dialog.selectFile(request.name);
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
-    const QString path = dialog.selectedFiles().value(0);
+    QString path = dialog.selectedFiles().value(0);
     if (!isAccepted || path.isEmpty())
         return std::nullopt;
     folder_ = QFileInfo(path).absolutePath();
