@@ -26,6 +26,41 @@ endif()
 # CMAKE_UNITY_BUILD says so. A build without it sees to it that each source includes what it uses.
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
 
+# Where each source of the program is compiled alone, a compiler that keeps what it made of those headers
+# saves as much. Headers of the project are not among them, so a source that lacks one of those is found.
+if(NOT CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    set(tessarinePrecompiles ON)
+    if(CMAKE_CXX_COMPILER_LAUNCHER STREQUAL "${CCACHE}") # which wants to be told
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+            CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+        add_compile_options(-fpch-preprocess)
+    endif()
+endif()
+set(tessarineCoreHeaders <QByteArray> <QCoreApplication> <QDir> <QFile> <QHash> <QList> <QObject> <QPointer>
+    <QString> <QStringList> <QVariant> <algorithm> <chrono> <functional> <map> <memory> <mutex> <optional>
+    <string> <utility> <vector>)
+set(tessarineViewHeaders ${tessarineCoreHeaders} <QGuiApplication> <QPainter> <QQmlEngine> <QQuickItem>
+    <QQuickView> <QQuickWindow> <QtQml/qqmlregistration.h>)
+
+# tessarine_precompiled_headers(NAME SETTINGS MODULE HEADERS...): a set of headers for targets that are
+# compiled with those settings and link at least that module of Qt.
+function(tessarine_precompiled_headers name settings module)
+    if(tessarinePrecompiles)
+        set(source ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+        file(CONFIGURE OUTPUT ${source} CONTENT "" @ONLY)
+        add_library(${name} OBJECT ${source})
+        set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+        target_link_libraries(${name} PRIVATE ${settings} ${module})
+        target_precompile_headers(${name} PRIVATE ${ARGN})
+    endif()
+endfunction()
+
+function(tessarine_use_precompiled name headers)
+    if(tessarinePrecompiles)
+        set_target_properties(${name} PROPERTIES PRECOMPILE_HEADERS_REUSE_FROM ${headers})
+    endif()
+endfunction()
+
 # A static library of one folder (or a part of one); links what it names and nothing else. MOC where
 # it has classes with signals: looking for such in every target would cost more than compiling many.
 function(tessarine_library name)
@@ -34,6 +69,11 @@ function(tessarine_library name)
     set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE tessarine_build ${ARG_PRIVATE_LINKS})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    if("Qt6::Quick" IN_LIST ARG_LINKS OR "tessarine_windows" IN_LIST ARG_LINKS)
+        tessarine_use_precompiled(${name} tessarine_view_headers)
+    elseif(ARG_LINKS OR ARG_PRIVATE_LINKS) # all that do link Qt's core
+        tessarine_use_precompiled(${name} tessarine_core_headers)
+    endif()
 endfunction()
 
 # What Qt's QML compiler writes is not ours to mend: no warnings for it. A file of C++ for each view
@@ -42,7 +82,7 @@ endfunction()
 function(tessarine_generated_qml_code name)
     get_target_property(sources ${name} SOURCES)
     list(FILTER sources INCLUDE REGEX "/qmlcache/")
-    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS "-w;-g0"
+    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS "-w"
                                 SKIP_UNITY_BUILD_INCLUSION ON)
     if(TESSARINE_SANITIZE)
         set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
@@ -54,7 +94,7 @@ function(tessarine_generated_qml_code name)
     list(JOIN sources "\n" includes)
     set(together ${CMAKE_CURRENT_BINARY_DIR}/${name}_views.cpp)
     file(CONFIGURE OUTPUT ${together} CONTENT "${includes}\n" @ONLY)
-    set_source_files_properties(${together} PROPERTIES COMPILE_OPTIONS "-w;-g0" SKIP_AUTOGEN ON
+    set_source_files_properties(${together} PROPERTIES COMPILE_OPTIONS "-w" SKIP_AUTOGEN ON
                                 SKIP_UNITY_BUILD_INCLUSION ON)
     target_sources(${name} PRIVATE ${together})
 endfunction()
@@ -70,4 +110,5 @@ function(tessarine_qml_module name)
         DEPENDENCIES ${ARG_DEPENDENCIES}
         QML_FILES ${ARG_QML_FILES})
     tessarine_generated_qml_code(${name})
+    tessarine_use_precompiled(${name} tessarine_view_headers)
 endfunction()

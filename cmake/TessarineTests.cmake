@@ -12,6 +12,12 @@ endif()
 # Several sources of a test program compiled as one take a third of the time.
 set(CMAKE_UNITY_BUILD ON)
 
+# Of the headers that nearly all tests include, those of the test framework are the largest.
+tessarine_precompiled_headers(tessarine_test_headers tessarine_test_build "Qt6::Core;GTest::gmock"
+                              ${tessarineCoreHeaders} <gmock/gmock.h> <gtest/gtest.h>)
+tessarine_precompiled_headers(tessarine_view_test_headers tessarine_test_build "Qt6::Quick;GTest::gmock"
+                              ${tessarineViewHeaders} <gmock/gmock.h> <gtest/gtest.h>)
+
 # A library of what several test programs share.
 function(tessarine_test_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
@@ -41,6 +47,9 @@ function(tessarine_test name)
     target_link_libraries(${name} PRIVATE tessarine_test_build ${ARG_LINKS} GTest::gmock)
     if(NOT tessarine_gui_test_support IN_LIST ARG_LINKS) # which has a main function of its own
         target_link_libraries(${name} PRIVATE tessarine_test_main)
+        tessarine_use_precompiled(${name} tessarine_test_headers)
+    else()
+        tessarine_use_precompiled(${name} tessarine_view_test_headers)
     endif()
     if(NOT view IN_LIST ARG_LABELS)
         list(APPEND ARG_LABELS unit)
@@ -60,11 +69,15 @@ function(tessarine_view_again name program filter)
     cmake_parse_arguments(ARG "" "SECONDS" "" ${ARGN})
     add_test(NAME ${name} COMMAND ${program} --gtest_brief=1 --gtest_filter=${filter})
     tessarine_test_properties(${name} "" "${ARG_SECONDS}")
-    set_tests_properties(${name} PROPERTIES LABELS view ENVIRONMENT QT_SCALE_FACTOR=2)
+    set_tests_properties(${name} PROPERTIES LABELS "view;double" ENVIRONMENT QT_SCALE_FACTOR=2)
 endfunction()
 
-# A test in Python that runs a program of ours, or none, and judges what it gave.
+# A test in Python that runs a program of ours, or none, and judges what it gave. Python takes the
+# time, so sanitizers would watch little for it; unit tests show them the same code.
 function(tessarine_judge name script)
+    if(TESSARINE_SANITIZE)
+        return()
+    endif()
     cmake_parse_arguments(ARG "" "SECONDS" "ARGUMENTS" ${ARGN})
     add_test(NAME ${name}
              COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/${script} ${ARG_ARGUMENTS})

@@ -35,7 +35,8 @@ class Unit:
         self.name, self.files, self.flags = name, files, flags
 
     def path(self):
-        return build.BUILD / "tidy" / f"{self.name}.mm"
+        # clang's analyzer follows includes of sources from files of this name alone.
+        return build.BUILD / "tidy" / f"UnifiedSource_{self.name}.mm"
 
     def write(self):
         self.path().parent.mkdir(parents=True, exist_ok=True)
