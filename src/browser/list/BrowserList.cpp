@@ -143,8 +143,8 @@ void BrowserList::setGroupMode(GroupMode mode) {
     changeDerivation();
 }
 
-void BrowserList::toggleGroup(const QString& key) {
-    collapsed_.toggle(key);
+void BrowserList::toggleGroup(const QString& key, int fadingRows) {
+    collapsed_.toggle(key, fadingRows);
     derive();
 }
 

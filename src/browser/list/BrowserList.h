@@ -10,6 +10,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
+#include <limits>
 #include <memory>
 
 namespace tessarine {
@@ -100,7 +101,10 @@ public:
     GroupMode groupMode() const { return groupMode_; }
     void setGroupMode(GroupMode mode);
     const QSet<QString>& collapsedGroups() const { return collapsed_.keys(); }
-    Q_INVOKABLE void toggleGroup(const QString& key);
+
+    // A group that closes has as many rows fade out as can be seen of it.
+    void toggleGroup(const QString& key, int fadingRows = std::numeric_limits<int>::max());
+    bool isFading(const QString& key) const { return collapsed_.fading().contains(key); }
     void openGroup(const QString& key);
 
     // The same by the places of a toolbar's entries. The app's is -1 when all its rows have left

@@ -63,7 +63,7 @@ FocusScope {
                     x: root.columnLeft
                     width: root.columnWidth
                     selectionMode: root.selection.selectionMode
-                    onToggled: key => root.list.toggleGroup(key)
+                    onToggled: key => slide.toggle(key)
                     onSelectAll: key => root.selection.selectGroup(key)
                     onDeselectAll: key => root.selection.deselectGroup(key)
                     onMenuRequested: (key, count, place) => groupMenu.openFor(key, count, place)
@@ -168,6 +168,15 @@ FocusScope {
         height: pinnedHeader.height
     }
 
+    GroupSlide {
+        id: slide
+
+        view: listView
+        list: root.list
+        translation: Translate {}
+        duration: Metrics.gentle
+    }
+
     SectionHeader {
         id: pinnedHeader
 
@@ -181,7 +190,7 @@ FocusScope {
         Accessible.ignored: true
         onToggled: key => {
             listView.positionViewAtIndex(pinned.line, ListView.Beginning);
-            root.list.toggleGroup(key);
+            slide.toggle(key);
         }
         onSelectAll: key => root.selection.selectGroup(key)
         onDeselectAll: key => root.selection.deselectGroup(key)
@@ -226,7 +235,7 @@ FocusScope {
 
         // Rows that a frame makes leave marks that ask for one more frame.
         function onListChanged() {
-            listView.forceLayout();
+            slide.layOut();
         }
     }
 }
