@@ -112,6 +112,7 @@ NotificationRowItem {
         sourceComponent: IconBadges {
             masked: row.masked
             pinned: row.pinned
+            surroundings: card.shade
         }
     }
 
@@ -169,6 +170,7 @@ NotificationRowItem {
         Loader {
             id: mask
 
+            anchors.left: parent.left
             y: name.height + Metrics.spacingTiny
             opacity: row.masked ? 1 : 1 - row.clarity
             active: opacity > 0
@@ -179,8 +181,9 @@ NotificationRowItem {
         PlainLabel {
             id: title
 
+            anchors.left: parent.left
             y: name.height + Metrics.spacingTiny
-            width: parent.width
+            width: Math.min(parent.width, Metrics.readingWidth)
             text: row.title
             visible: row.showsTitle
             opacity: row.clarity
@@ -193,8 +196,9 @@ NotificationRowItem {
         PlainLabel {
             id: body
 
+            anchors.left: parent.left
             y: title.y + (row.showsTitle ? title.height + Metrics.spacingTiny : 0)
-            width: parent.width
+            width: Math.min(parent.width, Metrics.readingWidth)
             text: row.body
             visible: row.showsBody
             opacity: row.clarity
