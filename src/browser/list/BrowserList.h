@@ -16,6 +16,7 @@
 namespace tessarine {
 
 class PreferencesStore;
+class RepeatingTimer;
 
 // The browser's list: which of the loaded rows pass the search and the app filter, how they are
 // sorted and grouped, and the lines that a view shows of them. The lines are derived again with
@@ -58,6 +59,7 @@ public:
     BrowserList(std::shared_ptr<NotificationListener> listener, HoardStore& hoard,
                 PreferencesStore& preferences, Scheduler& scheduler,
                 CanSeeNotifications canSeeNotifications);
+    ~BrowserList() override;
 
     // What is loaded, and how much of the hoard that is
 
@@ -69,8 +71,8 @@ public:
     bool canLoadOlder() const { return loaded_.canLoadOlder(); }
 
     // To be called each time that the view is shown, and hidden: hidden, it takes no list.
-    void appear() { loaded_.appear(); }
-    void disappear() { loaded_.disappear(); }
+    void appear();
+    void disappear();
 
     void refreshList() { loaded_.refresh(); } // from the hoard, as many rows as were asked for
     Q_INVOKABLE void loadOlder() { loaded_.loadOlder(); }
@@ -85,8 +87,8 @@ public:
     NotificationListModel* lines() { return &lines_; }
     QString counterText() const;
 
-    // What an empty list says below its first line: what will be there, or why nothing can be; and
-    // where to look for what no row passes.
+    // What an empty list says below its first line: what will be there, or why nothing can be,
+    // which a shown one asks again each second; and where to look for what no row passes.
     QString waitingDetail();
     QString noResultsDetail() const;
 
@@ -125,6 +127,8 @@ private:
     void takeList();
     void derive();
     void changeDerivation();
+    void watchAccess();
+    void checkAccess();
     Face derivedFace() const;
     ListEntries entries() const;
     int sortModeIndex() const { return int(sortMode_); }
@@ -135,7 +139,11 @@ private:
     static QStringList groupLabels();
 
     HoardStore& hoard_;
+    Scheduler& scheduler_;
     CanSeeNotifications canSeeNotifications_;
+    bool couldSeeNotifications_ = true; // when it was last asked
+    bool isShown_ = false;
+    std::unique_ptr<RepeatingTimer> accessWatch_; // while an empty list is shown
     LoadedRows loaded_;
     QString searchText_;
     QString selectedApp_ = everyApp;
