@@ -238,7 +238,7 @@ void LinuxStatusItem::popUpMenu(const QPoint& place) {
     delete openMenu_;
     openMenu_ = new QMenu(panel_.get());
     openMenu_->setAttribute(Qt::WA_DeleteOnClose);
-    openMenu_->setPalette(widgetPalette(appearance_.prefersDark()));
+    openMenu_->setPalette(widgetPalette(appearance_));
     const StatusMenu items = builder_();
     fill(*openMenu_, items);
     setShortcuts(*openMenu_, items);
