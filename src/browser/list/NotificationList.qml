@@ -89,6 +89,7 @@ FocusScope {
                     onDoubleTap: id => root.actions.onDoubleTap(id)
                     onToggleSelection: id => root.selection.toggleSelection(id)
                     onMenuRequested: (id, place) => rowMenu.openFor(id, place)
+                    onPreviewRequested: id => root.actions.previewRow(id)
                 }
             }
         }
@@ -135,9 +136,7 @@ FocusScope {
     function openFocusedMenu() {
         const line = root.list.lines.focusedLine();
         listView.positionViewAtIndex(line, ListView.Contain);
-        const row = listView.itemAtIndex(line) as NotificationRowView;
-        if (row)
-            rowMenu.openFor(row.notificationId, row.mapToItem(null, row.menuPlace.x, row.menuPlace.y));
+        (listView.itemAtIndex(line) as NotificationRowView)?.askForMenu();
     }
 
     function notePress(row: NotificationRowView) {

@@ -15,10 +15,6 @@ NotificationRowItem {
     required property string body
     required property string timeText
     required property bool pinned
-    required property bool isSelected
-    required property bool isFocused
-    required property string spokenText
-    required property string spokenMask
     property bool menuOpen // a context menu, which a tip would lie over
     property real circleOpenness // of the column for the circle: from 0 to 1
     property real clarity: 1 // of the texts, while they come out from under the mask
@@ -30,10 +26,10 @@ NotificationRowItem {
     readonly property bool showsTitle: title.text && !masked
     readonly property bool showsBody: body.text && !masked
     readonly property bool drawnFocused: isFocused && !selectionMode
-    readonly property point menuPlace: Qt.point(icon.x, icon.y + icon.height) // of the keyboard
     readonly property bool showsTip: hovered && !menuOpen
 
     cardMargin: Metrics.spacingMedium
+    menuPlace: Qt.point(icon.x, icon.y + icon.height)
     implicitHeight: Math.max(icon.height, texts.height) + 2 * verticalPadding
     Accessible.role: Accessible.ListItem
     Accessible.name: masked ? spokenMask : spokenText
