@@ -243,6 +243,8 @@ void LinuxStatusItem::popUpMenu(const QPoint& place) {
     fill(*openMenu_, items);
     setShortcuts(*openMenu_, items);
     openMenu_->installEventFilter(this);
+    // Also when a screen reader chooses, which leaves the menu as it is.
+    QObject::connect(openMenu_, &QMenu::triggered, openMenu_, &QMenu::close);
     openMenu_->popup(place);
     openMenu_->activateWindow();
 }
