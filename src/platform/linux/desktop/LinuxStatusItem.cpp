@@ -4,6 +4,7 @@
 #include "platform/SystemAppearance.h"
 #include "platform/UserDefaults.h"
 #include "platform/linux/desktop/LinuxStatusPanel.h"
+#include "platform/linux/desktop/StatusPanelAccessible.h"
 #include "platform/linux/desktop/StatusPicture.h"
 #include "platform/linux/desktop/WidgetPalette.h"
 
@@ -179,6 +180,7 @@ void LinuxStatusItem::showOnPanel() {
     tray_.reset();
     trayMenu_.reset();
     if (!panel_) {
+        StatusPanelAccessible::install();
         panel_ = std::make_unique<LinuxStatusPanel>(symbols_, appearance_);
         connect(panel_.get(), &LinuxStatusPanel::menuRequested, this, &LinuxStatusItem::popUpMenu);
         connect(panel_.get(), &LinuxStatusPanel::alternateRequested, this,

@@ -2,7 +2,6 @@
 
 #include "platform/Symbols.h"
 #include "platform/SystemAppearance.h"
-#include "platform/linux/desktop/StatusPanelAccessible.h"
 #include "platform/linux/desktop/WidgetPalette.h"
 #include "platform/linux/desktop/X11Windows.h"
 
@@ -59,7 +58,6 @@ LinuxStatusPanel::LinuxStatusPanel(const Symbols& symbols, const SystemAppearanc
     , appearance_(appearance)
     , shadow_(isComposited() ? shadowReach : 0)
     , offset_(distanceFromEdges, distanceFromEdges) {
-    StatusPanelAccessible::install();
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                    Qt::NoDropShadowWindowHint);
     setAttribute(Qt::WA_ShowWithoutActivating);

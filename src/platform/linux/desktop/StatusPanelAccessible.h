@@ -14,7 +14,7 @@ namespace tessarine {
 class StatusPanelAccessible : public QAccessibleWidget {
 public:
     explicit StatusPanelAccessible(LinuxStatusPanel& panel)
-        : QAccessibleWidget(&panel, QAccessible::ButtonMenu) {}
+        : QAccessibleWidget(&panel, QAccessible::Button) {}
 
     // From then on panels are found by it.
     static void install();
