@@ -84,7 +84,7 @@ TEST_F(GroupSlideTest, WhatIsBelowAClosingGroupSlidesUpToItsPlace) {
     EXPECT_NEAR(topOf(u"Beta"_qs), before, 1);
     clock.turnOn(99);
     EXPECT_NEAR(topOf(u"Beta"_qs), (before + after) / 2, 2);
-    EXPECT_EQ(topOf(u"Gamma"_qs) - topOf(u"Beta"_qs), between);
+    EXPECT_NEAR(topOf(u"Gamma"_qs) - topOf(u"Beta"_qs), between, 0.001);
     EXPECT_EQ(topOf(u"Alpha"_qs), spacing);
     clock.turnOn(100);
     EXPECT_EQ(topOf(u"Beta"_qs), after);
