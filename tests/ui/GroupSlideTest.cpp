@@ -83,10 +83,11 @@ TEST_F(GroupSlideTest, WhatIsBelowAClosingGroupSlidesUpToItsPlace) {
     clock.turnOn(1);
     EXPECT_NEAR(topOf(u"Beta"_qs), before, 1);
     clock.turnOn(99);
-    EXPECT_NEAR(topOf(u"Beta"_qs), (before + after) / 2, 2);
+    EXPECT_LT(topOf(u"Beta"_qs), before - 30);
+    EXPECT_GT(topOf(u"Beta"_qs), after + 30);
     EXPECT_NEAR(topOf(u"Gamma"_qs) - topOf(u"Beta"_qs), between, 0.001);
     EXPECT_EQ(topOf(u"Alpha"_qs), spacing);
-    clock.turnOn(100);
+    clock.turnOn(300);
     EXPECT_EQ(topOf(u"Beta"_qs), after);
     finishFade();
     EXPECT_EQ(topOf(u"Beta"_qs), after);
@@ -114,7 +115,7 @@ TEST_F(GroupSlideTest, AGroupLargerThanTheWindowLetsTheNextOneInFromBelow) {
     clock.turnOn(1);
     EXPECT_GE(topOf(u"Beta"_qs), list().height() - 1);
     EXPECT_LT(topOf(u"Beta"_qs), list().height() + 100);
-    clock.turnOn(199);
+    clock.turnOn(299);
     EXPECT_EQ(topOf(u"Beta"_qs), spacing + headerHeight + spacing);
     finishFade();
     EXPECT_EQ(topOf(u"Beta"_qs), spacing + headerHeight + spacing);
@@ -129,13 +130,13 @@ TEST_F(GroupSlideTest, AViewThatBecomesTooShortSlidesBack) {
     const double before = topOf(u"Beta"_qs);
     ASSERT_GT(before, 50);
     toggle(*header(u"Beta"_qs));
-    clock.turnOn(200);
+    clock.turnOn(300);
     EXPECT_EQ(topOf(u"Beta"_qs), before);
     finishFade();
     EXPECT_NEAR(topOf(u"Beta"_qs), before, 1);
     clock.turnOn(100);
     EXPECT_GT(topOf(u"Beta"_qs), before + 10);
-    clock.turnOn(100);
+    clock.turnOn(300);
     EXPECT_EQ(topOf(u"Beta"_qs), list().height() - headerHeight - spacing);
     EXPECT_TRUE(allAtTheirOwnPlaces());
 }
@@ -158,7 +159,7 @@ TEST_F(GroupSlideTest, AnotherGroupThatClosesInTheMeantimeEndsTheFirstAtOnce) {
     clock.turnOn(100);
     toggle(*header(u"Beta"_qs));
     EXPECT_EQ(topOf(u"Beta"_qs), spacing + headerHeight + spacing);
-    clock.turnOn(200);
+    clock.turnOn(300);
     EXPECT_EQ(topOf(u"Gamma"_qs), topOf(u"Beta"_qs) + headerHeight + spacing);
     finishFade();
     EXPECT_EQ(topOf(u"Gamma"_qs), topOf(u"Beta"_qs) + headerHeight + spacing);
@@ -169,7 +170,7 @@ TEST_F(GroupSlideTest, AnotherGroupThatClosesInTheMeantimeEndsTheFirstAtOnce) {
 TEST_F(GroupSlideTest, ItSlidesByTheKeyboardAndInSelectionModeToo) {
     showGroups({{u"Alpha"_qs, 2}, {u"Beta"_qs, 2}});
     view().selection()->enterSelectionMode();
-    clock.turnOn(200);
+    clock.turnOn(300);
     const double before = topOf(u"Beta"_qs);
     for (QQuickItem* child : header(u"Alpha"_qs)->childItems()) {
         if (child->property("turn").isValid())
@@ -186,10 +187,10 @@ TEST_F(GroupSlideTest, TheNextGroupSlidesUpToAPinnedHeader) {
     list().setProperty("contentY", 900.0);
     draw();
     toggle(item(u"pinnedHeader"_qs));
-    clock.turnOn(150);
+    clock.turnOn(100);
     EXPECT_GT(topOf(u"Beta"_qs), headerHeight + spacing);
     EXPECT_LT(topOf(u"Beta"_qs), list().height());
-    clock.turnOn(50);
+    clock.turnOn(300);
     EXPECT_EQ(topOf(u"Beta"_qs), topOf(u"Alpha"_qs) + headerHeight + spacing);
     finishFade();
     EXPECT_EQ(topOf(u"Beta"_qs), topOf(u"Alpha"_qs) + headerHeight + spacing);
