@@ -29,7 +29,10 @@ T.Popup {
     dim: false
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
-    onAboutToShow: focusKeeper.remember(parent)
+    onAboutToShow: {
+        contentItem.parent.Accessible.ignored = true; // Qt has made that item a dialog
+        focusKeeper.remember(parent);
+    }
     onAboutToHide: focusKeeper.restore(contentItem)
 
     background: PanelFace {}

@@ -8,6 +8,7 @@ import Tessarine.Theme
 T.Popup {
     id: panel
 
+    required property string accessibleName
     property bool above
 
     x: parent ? Math.round((parent.width - width) / 2) : 0
@@ -21,6 +22,7 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     onAboutToShow: {
+        contentItem.parent.Accessible.name = accessibleName; // Qt has made that item a dialog
         focusKeeper.remember(parent);
         focusKeeper.beginIn(contentItem);
     }

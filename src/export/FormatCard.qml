@@ -18,6 +18,8 @@ T.RadioButton {
     hoverEnabled: true
     checked: isSelected
     Accessible.name: title
+    Accessible.onPressAction: if (enabled) tap()
+    Accessible.onToggleAction: if (enabled) tap()
     onClicked: tap()
 
     background: Rectangle {

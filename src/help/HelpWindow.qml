@@ -14,7 +14,6 @@ Rectangle {
 
     readonly property int sidebarWidth: 216
     readonly property int margin: Metrics.spacingLarge
-    readonly property int widestPage: 640
 
     color: Theme.colours.windowBackground
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
@@ -86,7 +85,7 @@ Rectangle {
             objectName: "pages"
             x: Metrics.spacingHuge
             y: Metrics.spacingHuge
-            width: Math.max(0, Math.min(area.width - 2 * Metrics.spacingHuge, root.widestPage))
+            width: Math.max(0, Math.min(area.width - 2 * Metrics.spacingHuge, Metrics.readingWidth))
             spacing: Metrics.spacingHuge
 
             Repeater {

@@ -9,7 +9,7 @@ Item {
 
     required property OnboardingView view
 
-    readonly property int margin: 2 * Metrics.sheetPadding
+    readonly property int margin: Math.max(2 * Metrics.sheetPadding, Math.round((width - Metrics.readingWidth) / 2))
 
     Column {
         id: head

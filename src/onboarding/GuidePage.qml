@@ -13,7 +13,7 @@ ScrollArea {
     property color tint: Theme.colours.accent
     default property alias content: below.data
 
-    readonly property int margin: 2 * Metrics.sheetPadding
+    readonly property int margin: Math.max(2 * Metrics.sheetPadding, Math.round((width - Metrics.readingWidth) / 2))
 
     contentHeight: column.height + 2 * Metrics.sheetPadding
 

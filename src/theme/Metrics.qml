@@ -59,6 +59,9 @@ QtObject {
     // window is. Its cards begin where the fields and captions above them do.
     readonly property int listColumn: 720
 
+    // Running text at the size of most: some 90 characters.
+    readonly property int readingWidth: 530
+
     readonly property int iconSize: 36
     readonly property int noticeSymbolSize: 32
 

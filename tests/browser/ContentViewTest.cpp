@@ -188,7 +188,7 @@ TEST_F(ContentViewTest, AGroupOpensAndClosesAndAnotherGroupingForgetsIt) {
     open().list()->setGroupMode(GroupMode::app);
     EXPECT_EQ(view->list()->lines()->rowCount(), 4);
     view->list()->toggleGroup(u"Mail"_qs);
-    system.scheduler.advance(0.2); // its rows fade
+    system.scheduler.advance(0.25); // its rows fade
     EXPECT_EQ(view->list()->lines()->rowCount(), 3);
     view->list()->setSearchText(u"b"_qs); // the group goes
     view->list()->setSearchText({});      // and comes back collapsed
@@ -209,18 +209,18 @@ TEST_F(ContentViewTest, RowsOfAGroupAreThereWhileTheyFade) {
     view->list()->toggleGroup(u"Mail"_qs);
     EXPECT_TRUE(lines.header(0).isCollapsed);
     EXPECT_TRUE(isLast(Role::IsLeaving));
-    system.scheduler.advance(0.1);
+    system.scheduler.advance(0.125);
     view->list()->toggleGroup(u"Mail"_qs);
     EXPECT_FALSE(isLast(Role::IsLeaving));
     EXPECT_TRUE(isLast(Role::IsArriving));
-    system.scheduler.advance(0.1); // the first toggle's time is over, the second's isn't
+    system.scheduler.advance(0.125); // the first toggle's time is over, the second's isn't
     EXPECT_TRUE(isLast(Role::IsArriving));
-    system.scheduler.advance(0.1);
+    system.scheduler.advance(0.125);
     EXPECT_FALSE(isLast(Role::IsArriving));
     view->list()->toggleGroup(u"Mail"_qs);
-    system.scheduler.advance(0.1);
+    system.scheduler.advance(0.125);
     EXPECT_EQ(lines.rowCount(), 3);
-    system.scheduler.advance(0.1);
+    system.scheduler.advance(0.125);
     EXPECT_EQ(lines.rowCount(), 1);
 }
 

@@ -72,9 +72,14 @@ class MainWindow:
         place = wait_until(lambda: self.reads("place", role, name).split(), f"{role} {name}")
         self.xdotool("mousemove", *place, "click", "1")
 
-    def act(self, role, name):
+    def act(self, role, name, action="Press"):
         """Without a pointer or a key, as a screen reader does it for its user."""
-        wait_until(lambda: self.reads("act", role, name).strip() == "True", f"{role} {name} acts")
+        wait_until(lambda: self.reads("act", role, name, action).strip() == "True",
+                   f"{action} of {role} {name}")
+
+    def write(self, role, name, text):
+        wait_until(lambda: self.reads("write", role, name, text).strip() == "True",
+                   f"{role} {name} takes a text")
 
     def open(self):
         self.session.open_main_window()

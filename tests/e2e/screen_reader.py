@@ -2,7 +2,10 @@
 
     screen_reader.py list              every element that shows, a line each: role, TAB, name
     screen_reader.py place ROLE NAME   the middle of the element on the screen: x y
-    screen_reader.py act ROLE NAME     does what the element offers first, as pressing a button
+    screen_reader.py act ROLE NAME ACTION
+                                       does what the element offers by this name, as Press
+    screen_reader.py write ROLE NAME TEXT
+                                       puts a text into a field that lets itself be written
     screen_reader.py focus             role, TAB, name of the element that has the keyboard
     screen_reader.py pulse SECONDS     how long answers took: median, longest and second longest
                                        in milliseconds
@@ -51,6 +54,14 @@ def pulse(seconds):
     print(statistics.median(waits), waits[-1], waits[-2])
 
 
+def act(element, wanted):
+    actions = element.queryAction()
+    for index in range(actions.nActions):
+        if actions.getName(index) == wanted:
+            return actions.doAction(index)
+    return False
+
+
 def main():
     if sys.argv[1] == "pulse":
         pulse(float(sys.argv[2]))
@@ -65,11 +76,14 @@ def main():
         if focused:  # what holds it has it too, and comes before it
             print(f"{focused[-1].getRoleName()}\t{focused[-1].name}")
         return
-    role, name = sys.argv[2:]
+    role, name = sys.argv[2:4]
     for element in showing():
         if element.getRoleName() == role and element.name == name:
             if sys.argv[1] == "act":
-                print(element.queryAction().doAction(0))
+                print(act(element, sys.argv[4]))
+                return
+            if sys.argv[1] == "write":
+                print(element.queryEditableText().setTextContents(sys.argv[4]))
                 return
             box = element.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
             print(box.x + box.width // 2, box.y + box.height // 2)

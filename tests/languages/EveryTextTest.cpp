@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 #include <tuple>
 
@@ -20,6 +21,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using ::testing::IsEmpty;
+
+constexpr qsizetype longestReadableLine = 95; // "some 90"
 
 using Spoken = std::tuple<WindowScene, Language>;
 
@@ -131,6 +134,68 @@ TEST_P(MirroredTextTest, StandsAcross) {
     }
     EXPECT_EQ(faults, QStringList());
 }
+
+// However wide a window is, its lines of text are short enough to read.
+
+QStringList tooLong(const QList<ShownText>& texts) {
+    QStringList faults;
+    for (const ShownText& text : texts) {
+        if (text.longestLine > longestReadableLine)
+            faults << u"%1: %2"_qs.arg(text.longestLine).arg(text.text);
+    }
+    return faults;
+}
+
+// One of each window, and all that hold running text.
+std::vector<WindowScene> readingScenes() {
+    const QStringList windows{u"preview"_qs,      u"exportCsv"_qs,   u"general"_qs,
+                              u"storage"_qs,      u"privacy"_qs,     u"permissions"_qs,
+                              u"excludedApps"_qs, u"diagnostics"_qs, u"privacyNotice"_qs};
+    std::vector<WindowScene> chosen;
+    std::ranges::copy_if(windowScenes(), std::back_inserter(chosen), [&](const WindowScene& scene) {
+        const auto name = QString::fromLatin1(scene.name);
+        return name.startsWith(u"help") || name.startsWith(u"guide") || windows.contains(name);
+    });
+    return chosen;
+}
+
+class LineLengthTest : public ::testing::WithParamInterface<WindowScene>, public WindowStage {};
+
+TEST_P(LineLengthTest, IsReadableInAVeryWideWindow) {
+    GetParam().bringAbout(*this);
+    if (shown().maximumSize() != shown().minimumSize())
+        resize(2400, 900);
+    EXPECT_EQ(tooLong(shownTexts(shown())), QStringList());
+}
+
+class RowLineLengthTest : public WindowStage {};
+
+TEST_F(RowLineLengthTest, IsReadableInAVeryWideWindow) {
+    openBrowser();
+    CapturedNotification row;
+    row.appName = u"Mail"_qs;
+    row.timestamp = ManualScheduler::startOfTime;
+    row.title = u"A title of words of middling length that goes on. "_qs.repeated(8);
+    row.body =
+        u"Running text of words of middling length, as people write it to others. "_qs.repeated(9);
+    services->listener->setNotifications({row});
+    resize(2400, 900);
+    const QList<ShownText> texts = shownTexts(shown());
+    EXPECT_EQ(tooLong(texts), QStringList());
+    const auto longest = std::ranges::max(texts, {}, &ShownText::longestLine);
+    EXPECT_GT(longest.longestLine, 70);
+    const auto time = std::ranges::find_if(
+        texts, [](const ShownText& text) { return text.text.contains(u"2025"); });
+    ASSERT_NE(time, texts.end());
+    EXPECT_LT(time->place.right() - longest.place.right(), 160);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, LineLengthTest, ::testing::ValuesIn(readingScenes()),
+                         [](const auto& info) {
+                             std::string name = info.param.name;
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
+                         });
 
 INSTANTIATE_TEST_SUITE_P(Scenes, MirroredTextTest, ::testing::ValuesIn(windowScenes()),
                          [](const auto& info) {

@@ -1,7 +1,9 @@
 #include "languages/TextLayout.h"
 
+#include <QFontMetricsF>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QTextLayout>
 
 #include <algorithm>
 
@@ -49,6 +51,36 @@ QRectF placeOf(const QQuickItem& item) {
     return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
 }
 
+// Of what is drawn of a text with line breaks, or of a paragraph.
+qsizetype longestLineIn(const QString& text, const QFont& font, double width, int wrapMode,
+                        int mostLines) {
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapMode(wrapMode));
+    layout.setTextOption(option);
+    qsizetype longest = 0;
+    layout.beginLayout();
+    for (int lines = 0; lines < mostLines; ++lines) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(width);
+        const QString shown = text.mid(line.textStart(), line.textLength()).trimmed();
+        longest = std::max(longest, shown.size());
+    }
+    layout.endLayout();
+    return longest;
+}
+
+qsizetype longestLineOf(const QQuickItem& item) {
+    const QString text = item.property("text").toString().replace(u'\n', QChar::LineSeparator);
+    const auto font = item.property("font").value<QFont>();
+    const int wrapMode = item.property("wrapMode").toInt();
+    if (wrapMode == QTextOption::NoWrap)
+        return QFontMetricsF(font).elidedText(text, Qt::ElideRight, item.width()).size();
+    return longestLineIn(text, font, item.width(), wrapMode, item.property("lineCount").toInt());
+}
+
 void look(const QQuickItem& item, const QQuickWindow& window, ShownText& shown) {
     shown.place = item.mapRectToScene(drawnPart(item));
     shown.sight = shown.place;
@@ -79,7 +111,8 @@ ShownText shownText(const QQuickItem& item, const QQuickWindow& window) {
                     nullptr,
                     {},
                     double(window.width()),
-                    item.inherits("QQuickTextEdit")};
+                    item.inherits("QQuickTextEdit"),
+                    longestLineOf(item)};
     look(item, window, shown);
     return shown;
 }

@@ -19,7 +19,8 @@ struct ShownText {
     const QQuickItem* layer; // popups lie over the others, each in a layer of its own
     QRectF sight;            // the part of the place that isn't scrolled away
     double windowWidth;
-    bool goesItsOwnWay; // what can be selected is aligned as its own script is
+    bool goesItsOwnWay;    // what can be selected is aligned as its own script is
+    qsizetype longestLine; // in characters
 };
 
 // In the order of the items. Texts that the user types are left out.

@@ -1,6 +1,7 @@
 #include "support/EventLoop.h"
 #include "ui/UiFixture.h"
 
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QTest>
 
@@ -87,6 +88,14 @@ TEST_F(ListColumnTest, HasALineUnderThePinnedHeaderAlone) {
     EXPECT_EQ(line.height(), 1);
 }
 
+TEST_F(ListColumnTest, CountsInDigitsOfOneWidth) {
+    showIn(720);
+    EXPECT_EQ(item(u"counter"_qs).property("font").value<QFont>().family(), theme.tabularFamily());
+    const QFontMetricsF metrics(item(u"counter"_qs).property("font").value<QFont>());
+    for (const QChar digit : u"0123456789"_qs)
+        EXPECT_EQ(metrics.horizontalAdvance(digit), metrics.horizontalAdvance(u'0'));
+}
+
 // The language is one that is written from right to left.
 class MirroredWindowTest : public ListColumnTest {
 public:
@@ -140,6 +149,18 @@ protected:
 TEST_F(MixedRowsTest, ARowFromRightToLeftHasItsIconAtTheRight) {
     EXPECT_EQ(icon(u"תזכורת"_qs).right(), 720 - 8 - 10);
     EXPECT_EQ(badge(u"תזכורת"_qs).left(), icon(u"תזכורת"_qs).left());
+}
+
+TEST_F(MixedRowsTest, TheBarsOfAMaskBeginWhereTheTextDoes) {
+    preferences.setGlobalPrivacyMode(true);
+    draw();
+    const auto bars = [this](const QString& title) {
+        return itemsOfType(*row(title), "RowMask").front()->childItems();
+    };
+    for (const QQuickItem* bar : bars(u"תזכורת"_qs))
+        EXPECT_EQ(inWindow(*bar).right(), icon(u"תזכורת"_qs).left() - 10);
+    for (const QQuickItem* bar : bars(u"Title 1"_qs))
+        EXPECT_EQ(inWindow(*bar).left(), icon(u"Title 1"_qs).right() + 10);
 }
 
 TEST_F(MixedRowsTest, AnotherRowKeepsItAtTheLeft) {

@@ -174,7 +174,7 @@ TEST_P(RowMetricsTest, TheTextsStandTenBesideTheIconWithTwoBetweenThem) {
     EXPECT_EQ(app.topLeft(), QPointF(18 + 36 + 10, 6));
     EXPECT_EQ(title.topLeft(), QPointF(64, app.bottom() + 2));
     EXPECT_EQ(body.topLeft(), QPointF(64, title.bottom() + 2));
-    EXPECT_EQ(title.right(), rowItem().width() - 18);
+    EXPECT_EQ(title.width(), 530); // for some 90 characters
     EXPECT_EQ(rowItem().height(), std::ceil(body.bottom() + 6));
 }
 
@@ -247,6 +247,36 @@ TEST_P(RowMetricsTest, BadgesStandInTheCornersOfTheIcon) {
     shade.setAlphaF(0.8F);
     EXPECT_EQ(colour(*lock.parentItem()), shade);
     EXPECT_EQ(colour(*pin.parentItem()), colours().accentFill);
+}
+
+TEST_P(RowMetricsTest, ARingInTheColourOfTheCardSetsABadgeOffFromTheIcon) {
+    view().actions()->togglePinned(view().list()->lines()->entries()[2].notification.id);
+    draw();
+    const QRectF pin = place(*symbol(u"pin.fill"_qs).parentItem());
+    const auto ring = [&] { return shown({pin.left() - 1, pin.center().y()}); };
+    const auto expectRing = [&](const QColor& expected) {
+        EXPECT_TRUE(isAlmost(ring(), expected))
+            << ring().name().toStdString() << " and not " << expected.name().toStdString();
+    };
+    expectRing(over(colours().windowBackground, colours().controlBackground, 0.5));
+    QTest::mouseMove(window->window(), rowItem().mapToScene(QPointF(300, 8)).toPoint());
+    draw();
+    expectRing(colours().controlBackground);
+    click(rowItem());
+    expectRing(over(colours().windowBackground, colours().accent, 0.13));
+    appearance.setHighContrast(true);
+    draw();
+    expectRing(over(colours().windowBackground, colours().accent, 0.13));
+    press(Qt::Key_Escape);
+    view().selection()->enterSelectionMode();
+    click(rowItem());
+    EXPECT_TRUE(turnsUntil([&] {
+        draw();
+        const QRectF moved = place(*symbol(u"pin.fill"_qs).parentItem());
+        return moved.left() == pin.left() + 24 + 10;
+    }));
+    EXPECT_TRUE(isAlmost(shown({pin.left() + 34 - 1, pin.center().y()}),
+                         over(colours().windowBackground, colours().accent, 0.08)));
 }
 
 TEST_P(RowMetricsTest, InSelectionModeACircleStandsBeforeTheIcon) {

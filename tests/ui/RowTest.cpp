@@ -92,6 +92,45 @@ TEST_F(RowTest, TellsAScreenReaderItsWholeContent) {
     EXPECT_EQ(accessible(&list())->text(QAccessible::Name), u"Notifications"_qs);
 }
 
+TEST_F(RowTest, AScreenReaderOpensItsMenuAndItsPreview) {
+    showList(numbered(2));
+    QAccessibleActionInterface* actions = accessible(row(u"Title 2"_qs))->actionInterface();
+    ASSERT_NE(actions, nullptr);
+    EXPECT_EQ(actions->actionNames(), QStringList({u"Press"_qs, u"ShowMenu"_qs, u"preview"_qs}));
+    actions->doAction(QAccessibleActionInterface::showMenuAction());
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"rowMenu"_qs); }));
+    ASSERT_NE(entry(u"Pin"_qs), nullptr);
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(turnsUntil([&] { return isGone(u"rowMenu"_qs); }));
+    actions->doAction(u"preview"_qs);
+    EXPECT_EQ(view().actions()->focusedNotification()->title, u"Title 2"_qs);
+    EXPECT_TRUE(view().actions()->isPreviewing());
+}
+
+TEST_F(RowTest, AScreenReaderFindsOnlyWhatARowDoesAsThingsStand) {
+    showList(numbered(1));
+    QAccessibleInterface* spoken = accessible(row(u"Title 1"_qs));
+    QAccessibleActionInterface* actions = spoken->actionInterface();
+    EXPECT_FALSE(spoken->state().checkable);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(spoken->state().selected);
+    preferences.setGlobalPrivacyMode(true);
+    EXPECT_EQ(actions->actionNames(), QStringList({u"Press"_qs, u"ShowMenu"_qs}));
+    view().selection()->enterSelectionMode();
+    EXPECT_EQ(actions->actionNames(), QStringList(u"Press"_qs));
+    EXPECT_TRUE(spoken->state().checkable);
+    EXPECT_FALSE(spoken->state().checked);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(spoken->state().checked);
+    actions->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_FALSE(isShown(u"rowMenu"_qs));
+    const QRect place = spoken->rect();
+    EXPECT_TRUE(accessible(&list())->rect().contains(place));
+    EXPECT_EQ(place.size(), row(u"Title 1"_qs)->size().toSize());
+    EXPECT_EQ(spoken->parent(), accessible(&list()));
+    EXPECT_EQ(spoken->window(), window->window());
+}
+
 // Each object of a row is made and destroyed at each capture.
 TEST_F(RowTest, ARowIsMadeOfThirtyObjectsAtMost) {
     showList(numbered(3));

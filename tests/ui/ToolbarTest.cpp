@@ -272,10 +272,26 @@ TEST_F(EmptyListTest, SaysThatNothingCanBeSeen) {
     showEmpty();
     EXPECT_TRUE(textsInWindow(*window).contains(
         u"Tessarine can’t see any: it has no access to the session bus, over which notifications come."_qs));
+}
+
+TEST_F(EmptyListTest, FollowsTheBusAsItComesAndGoes) {
+    const auto says = [this](const QString& text) { return textsInWindow(*window).contains(text); };
+    const QString promise =
+        u"What your apps announce will be kept here, for as long as you like."_qs;
+    showEmpty();
+    EXPECT_FALSE(says(promise));
     system.accessibility.trusted = true;
-    publish({});
-    EXPECT_TRUE(textsInWindow(*window).contains(
-        u"What your apps announce will be kept here, for as long as you like."_qs));
+    system.scheduler.advance(1);
+    EXPECT_TRUE(says(promise));
+    system.accessibility.trusted = false;
+    system.scheduler.advance(1);
+    EXPECT_FALSE(says(promise));
+
+    window->window()->close(); // nobody is told, and nobody asks
+    system.accessibility.trusted = true;
+    system.scheduler.advance(5);
+    window->showAndMakeKey();
+    EXPECT_TRUE(says(promise));
 }
 
 TEST_F(EmptyListTest, SaysThatTheHoardCannotBeOpenedAndWhereItIs) {

@@ -1,5 +1,6 @@
 #include "browser/list/BrowserList.h"
 
+#include "platform/Scheduler.h"
 #include "preferences/PreferencesStore.h"
 #include "store/HoardStore.h"
 
@@ -11,6 +12,8 @@
 namespace tessarine {
 
 namespace {
+
+constexpr double accessInterval = 1; // seconds
 
 template <typename Mode, std::size_t Count>
 QStringList labelsOf(const std::array<Mode, Count>& modes) {
@@ -27,6 +30,7 @@ BrowserList::BrowserList(std::shared_ptr<NotificationListener> listener, HoardSt
                          PreferencesStore& preferences, Scheduler& scheduler,
                          CanSeeNotifications canSeeNotifications)
     : hoard_(hoard)
+    , scheduler_(scheduler)
     , canSeeNotifications_(std::move(canSeeNotifications))
     , loaded_(std::move(listener), hoard, scheduler)
     , collapsed_(scheduler)
@@ -36,6 +40,37 @@ BrowserList::BrowserList(std::shared_ptr<NotificationListener> listener, HoardSt
     connect(&collapsed_, &CollapsedGroups::faded, this, &BrowserList::derive);
     connect(&preferences, &PreferencesStore::changed, &lines_,
             &NotificationListModel::privacyChanged);
+}
+
+BrowserList::~BrowserList() = default;
+
+void BrowserList::appear() {
+    isShown_ = true;
+    loaded_.appear();
+    watchAccess();
+}
+
+void BrowserList::disappear() {
+    isShown_ = false;
+    loaded_.disappear();
+    watchAccess();
+}
+
+// The bus may come and go, and the user may grant the permission, while the list says what is
+// amiss.
+void BrowserList::watchAccess() {
+    const bool watches = isShown_ && face_ == Face::Waiting;
+    if (watches == bool(accessWatch_))
+        return;
+    accessWatch_ = watches ? scheduler_.every(accessInterval, [this] { checkAccess(); }) : nullptr;
+    if (watches)
+        checkAccess();
+}
+
+void BrowserList::checkAccess() {
+    const bool canSee = canSeeNotifications_();
+    if (std::exchange(couldSeeNotifications_, canSee) != canSee)
+        Q_EMIT listChanged();
 }
 
 void BrowserList::takeList() {
@@ -50,6 +85,7 @@ void BrowserList::derive() {
         sortedBy(sortMode_, keepingMatches(keepingApp(notifications(), selectedApp_), searchText_));
     face_ = derivedFace();
     lines_.setEntries(entries());
+    watchAccess();
     Q_EMIT listChanged();
 }
 
@@ -94,7 +130,8 @@ QString BrowserList::waitingDetail() {
         return {};
     if (!hoard_.isUsable())
         return qtTrId("hoard.empty.notOpened").arg(hoard_.path());
-    return canSeeNotifications_() ? qtTrId("hoard.empty.waiting.detail")
+    couldSeeNotifications_ = canSeeNotifications_();
+    return couldSeeNotifications_ ? qtTrId("hoard.empty.waiting.detail")
                                   : qtTrId("hoard.empty.noAccess");
 }
 
@@ -143,8 +180,8 @@ void BrowserList::setGroupMode(GroupMode mode) {
     changeDerivation();
 }
 
-void BrowserList::toggleGroup(const QString& key) {
-    collapsed_.toggle(key);
+void BrowserList::toggleGroup(const QString& key, int fadingRows) {
+    collapsed_.toggle(key, fadingRows);
     derive();
 }
 

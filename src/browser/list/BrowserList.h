@@ -10,11 +10,13 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
+#include <limits>
 #include <memory>
 
 namespace tessarine {
 
 class PreferencesStore;
+class RepeatingTimer;
 
 // The browser's list: which of the loaded rows pass the search and the app filter, how they are
 // sorted and grouped, and the lines that a view shows of them. The lines are derived again with
@@ -57,6 +59,7 @@ public:
     BrowserList(std::shared_ptr<NotificationListener> listener, HoardStore& hoard,
                 PreferencesStore& preferences, Scheduler& scheduler,
                 CanSeeNotifications canSeeNotifications);
+    ~BrowserList() override;
 
     // What is loaded, and how much of the hoard that is
 
@@ -68,8 +71,8 @@ public:
     bool canLoadOlder() const { return loaded_.canLoadOlder(); }
 
     // To be called each time that the view is shown, and hidden: hidden, it takes no list.
-    void appear() { loaded_.appear(); }
-    void disappear() { loaded_.disappear(); }
+    void appear();
+    void disappear();
 
     void refreshList() { loaded_.refresh(); } // from the hoard, as many rows as were asked for
     Q_INVOKABLE void loadOlder() { loaded_.loadOlder(); }
@@ -84,8 +87,8 @@ public:
     NotificationListModel* lines() { return &lines_; }
     QString counterText() const;
 
-    // What an empty list says below its first line: what will be there, or why nothing can be; and
-    // where to look for what no row passes.
+    // What an empty list says below its first line: what will be there, or why nothing can be,
+    // which a shown one asks again each second; and where to look for what no row passes.
     QString waitingDetail();
     QString noResultsDetail() const;
 
@@ -100,7 +103,10 @@ public:
     GroupMode groupMode() const { return groupMode_; }
     void setGroupMode(GroupMode mode);
     const QSet<QString>& collapsedGroups() const { return collapsed_.keys(); }
-    Q_INVOKABLE void toggleGroup(const QString& key);
+
+    // A group that closes has as many rows fade out as can be seen of it.
+    void toggleGroup(const QString& key, int fadingRows = std::numeric_limits<int>::max());
+    bool isFading(const QString& key) const { return collapsed_.fading().contains(key); }
     void openGroup(const QString& key);
 
     // The same by the places of a toolbar's entries. The app's is -1 when all its rows have left
@@ -121,6 +127,8 @@ private:
     void takeList();
     void derive();
     void changeDerivation();
+    void watchAccess();
+    void checkAccess();
     Face derivedFace() const;
     ListEntries entries() const;
     int sortModeIndex() const { return int(sortMode_); }
@@ -131,7 +139,11 @@ private:
     static QStringList groupLabels();
 
     HoardStore& hoard_;
+    Scheduler& scheduler_;
     CanSeeNotifications canSeeNotifications_;
+    bool couldSeeNotifications_ = true; // when it was last asked
+    bool isShown_ = false;
+    std::unique_ptr<RepeatingTimer> accessWatch_; // while an empty list is shown
     LoadedRows loaded_;
     QString searchText_;
     QString selectedApp_ = everyApp;

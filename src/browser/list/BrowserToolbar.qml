@@ -91,6 +91,7 @@ Item {
         anchors.verticalCenter: controls.verticalCenter
         horizontalAlignment: Text.AlignRight
         text: toolbar.list.counterText
+        font.family: Theme.tabularFamily
         font.pixelSize: Metrics.textSmall
         color: Theme.colours.secondaryLabel
         wrapMode: Text.Wrap

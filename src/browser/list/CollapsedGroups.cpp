@@ -8,31 +8,27 @@ namespace tessarine {
 
 namespace {
 
-// As long as a group takes to open or close, and a little more for the last frame.
-constexpr double fadeSeconds = 0.2;
+// As long as a group takes to open or close, and a little more for the last frames.
+constexpr double fadeSeconds = 0.25;
 
 } // namespace
 
-QSet<QString> CollapsedGroups::fading() const {
-    return {fades_.keyBegin(), fades_.keyEnd()};
-}
-
-void CollapsedGroups::toggle(const QString& key) {
+void CollapsedGroups::toggle(const QString& key, int fadingRows) {
     if (!keys_.remove(key))
         keys_.insert(key);
+    fading_ = {{key, fadingRows}};
     const int toggle = ++toggleCount_;
-    fades_.insert(key, toggle);
-    scheduler_.onMainAfter(fadeSeconds, [self = QPointer<CollapsedGroups>(this), key, toggle] {
+    scheduler_.onMainAfter(fadeSeconds, [self = QPointer<CollapsedGroups>(this), toggle] {
         if (self)
-            self->finishFade(key, toggle);
+            self->finishFade(toggle);
     });
 }
 
-// A group that was toggled again in the meantime goes on fading.
-void CollapsedGroups::finishFade(const QString& key, int toggle) {
-    if (fades_.value(key) != toggle)
+// What was toggled in the meantime goes on fading.
+void CollapsedGroups::finishFade(int toggle) {
+    if (toggleCount_ != toggle || fading_.isEmpty())
         return;
-    fades_.remove(key);
+    fading_.clear();
     Q_EMIT faded();
 }
 
@@ -42,7 +38,7 @@ void CollapsedGroups::open(const QString& key) {
 
 void CollapsedGroups::openAll() {
     keys_.clear();
-    fades_.clear();
+    fading_.clear();
 }
 
 } // namespace tessarine

@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QString>
 
+#include <limits>
+
 namespace tessarine {
 
 class Scheduler;
@@ -20,9 +22,12 @@ public:
         : scheduler_(scheduler) {}
 
     const QSet<QString>& keys() const { return keys_; }
-    QSet<QString> fading() const;
 
-    void toggle(const QString& key);
+    // The groups that fade, and how many rows of each that closes: those that can be seen.
+    const QHash<QString, int>& fading() const { return fading_; }
+
+    // One group fades at a time: another's fade ends at once.
+    void toggle(const QString& key, int fadingRows = std::numeric_limits<int>::max());
     void open(const QString& key); // at once, without a fade
     void openAll();
 
@@ -30,11 +35,11 @@ Q_SIGNALS:
     void faded(); // the rows of a group that was toggled have come or gone
 
 private:
-    void finishFade(const QString& key, int toggle);
+    void finishFade(int toggle);
 
     Scheduler& scheduler_;
     QSet<QString> keys_;
-    QHash<QString, int> fades_; // by key, the number of the group's last toggle
+    QHash<QString, int> fading_; // by key, the number of rows that fade
     int toggleCount_ = 0;
 };
 

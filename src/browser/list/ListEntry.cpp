@@ -3,6 +3,8 @@
 #include "browser/list/RowTimeFormatter.h"
 #include "shared/DayKey.h"
 
+#include <algorithm>
+
 namespace tessarine {
 
 namespace {
@@ -64,7 +66,7 @@ ListEntries ungroupedEntries(const NotificationList& rows) {
 }
 
 ListEntries groupedEntries(GroupMode mode, const std::vector<NotificationGroup>& groups,
-                           const QSet<QString>& collapsed, const QSet<QString>& changing) {
+                           const QSet<QString>& collapsed, const QHash<QString, int>& changing) {
     using Fade = ListEntry::Fade;
     const bool byDate = mode == GroupMode::date;
     ListEntries entries;
@@ -76,11 +78,12 @@ ListEntries groupedEntries(GroupMode mode, const std::vector<NotificationGroup>&
         const bool isCollapsed = header.isCollapsed;
         entries.push_back(std::move(header));
         const bool isChanging = changing.contains(group.key);
-        if (isCollapsed && !isChanging)
-            continue;
         const Fade fade = !isChanging ? Fade::none : isCollapsed ? Fade::out : Fade::in;
-        for (const CapturedNotification& notification : group.notifications)
-            entries.push_back(rowOf(notification, !byDate, fade));
+        const std::size_t all = group.notifications.size();
+        const std::size_t count =
+            isCollapsed ? std::min(all, std::size_t(changing.value(group.key))) : all;
+        for (std::size_t i = 0; i < count; ++i)
+            entries.push_back(rowOf(group.notifications[i], !byDate, fade));
     }
     return entries;
 }

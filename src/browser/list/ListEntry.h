@@ -2,6 +2,7 @@
 
 #include "browser/list/ListDerivation.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 #include <QtQml/qqmlregistration.h>
@@ -42,10 +43,11 @@ ListEntries ungroupedEntries(const NotificationList& rows);
 
 // The lines of groups: each header, then its rows unless its key is among the collapsed ones.
 // Groups of GroupMode::date have the date in their titles and not in their rows. A group whose key
-// is among the changing ones has just been opened or closed: its rows are there either way, and
-// fade in or out.
+// is among the changing ones has just been opened or closed: its rows fade in, or as many of them
+// as it says are there still, and fade out.
 ListEntries groupedEntries(GroupMode mode, const std::vector<NotificationGroup>& groups,
-                           const QSet<QString>& collapsed, const QSet<QString>& changing = {});
+                           const QSet<QString>& collapsed,
+                           const QHash<QString, int>& changing = {});
 
 // A day key as a title in the user's full date style; the key itself if it is none.
 QString dayTitle(const QString& key);

@@ -63,7 +63,7 @@ FocusScope {
                     x: root.columnLeft
                     width: root.columnWidth
                     selectionMode: root.selection.selectionMode
-                    onToggled: key => root.list.toggleGroup(key)
+                    onToggled: key => slide.toggle(key)
                     onSelectAll: key => root.selection.selectGroup(key)
                     onDeselectAll: key => root.selection.deselectGroup(key)
                     onMenuRequested: (key, count, place) => groupMenu.openFor(key, count, place)
@@ -89,6 +89,7 @@ FocusScope {
                     onDoubleTap: id => root.actions.onDoubleTap(id)
                     onToggleSelection: id => root.selection.toggleSelection(id)
                     onMenuRequested: (id, place) => rowMenu.openFor(id, place)
+                    onPreviewRequested: id => root.actions.previewRow(id)
                 }
             }
         }
@@ -135,9 +136,7 @@ FocusScope {
     function openFocusedMenu() {
         const line = root.list.lines.focusedLine();
         listView.positionViewAtIndex(line, ListView.Contain);
-        const row = listView.itemAtIndex(line) as NotificationRowView;
-        if (row)
-            rowMenu.openFor(row.notificationId, row.mapToItem(null, row.menuPlace.x, row.menuPlace.y));
+        (listView.itemAtIndex(line) as NotificationRowView)?.askForMenu();
     }
 
     function notePress(row: NotificationRowView) {
@@ -168,6 +167,15 @@ FocusScope {
         height: pinnedHeader.height
     }
 
+    GroupSlide {
+        id: slide
+
+        view: listView
+        list: root.list
+        translation: Translate {}
+        duration: Metrics.gentle
+    }
+
     SectionHeader {
         id: pinnedHeader
 
@@ -181,7 +189,7 @@ FocusScope {
         Accessible.ignored: true
         onToggled: key => {
             listView.positionViewAtIndex(pinned.line, ListView.Beginning);
-            root.list.toggleGroup(key);
+            slide.toggle(key);
         }
         onSelectAll: key => root.selection.selectGroup(key)
         onDeselectAll: key => root.selection.deselectGroup(key)
@@ -226,7 +234,7 @@ FocusScope {
 
         // Rows that a frame makes leave marks that ask for one more frame.
         function onListChanged() {
-            listView.forceLayout();
+            slide.layOut();
         }
     }
 }

@@ -7,10 +7,12 @@ Item {
 
     required property bool masked
     required property bool pinned
+    required property color surroundings
 
     IconBadge {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
+        surroundings: badges.surroundings
         symbol: "lock.fill"
         size: 9
         color: Qt.alpha(Theme.colours.secondaryLabel, 0.8)
@@ -20,6 +22,7 @@ Item {
     IconBadge {
         anchors.right: parent.right
         anchors.top: parent.top
+        surroundings: badges.surroundings
         symbol: "pin.fill"
         size: 8
         color: Theme.colours.accentFill

@@ -105,6 +105,10 @@ void NotificationRowItem::mouseReleaseEvent(QMouseEvent* event) {
         Q_EMIT menuRequested(notificationId(), mapToScene(event->position()));
 }
 
+void NotificationRowItem::askForMenu() {
+    Q_EMIT menuRequested(notificationId(), mapToScene(menuPlace_));
+}
+
 void NotificationRowItem::mouseDoubleClickEvent(QMouseEvent* event) {
     event->setAccepted(takes(*event));
     if (!event->isAccepted() || event->button() != Qt::LeftButton)

@@ -26,6 +26,16 @@ class NotificationRowItem : public QQuickItem {
     Q_PROPERTY(bool isArriving MEMBER isArriving_ NOTIFY isArrivingChanged REQUIRED)
     Q_PROPERTY(bool isLeaving READ isLeaving WRITE setLeaving NOTIFY isLeavingChanged REQUIRED)
 
+    Q_PROPERTY(bool isSelected MEMBER isSelected_ NOTIFY isSelectedChanged REQUIRED)
+    Q_PROPERTY(bool isFocused MEMBER isFocused_ NOTIFY isFocusedChanged REQUIRED)
+
+    // What a screen reader says of the row, and while its content is hidden.
+    Q_PROPERTY(QString spokenText MEMBER spokenText_ NOTIFY spokenTextChanged REQUIRED)
+    Q_PROPERTY(QString spokenMask MEMBER spokenMask_ NOTIFY spokenMaskChanged REQUIRED)
+
+    // Where its menu opens that no pointer asks for, in the row.
+    Q_PROPERTY(QPointF menuPlace MEMBER menuPlace_ NOTIFY menuPlaceChanged)
+
     // The left button works on the card, which leaves this much on each side of the row.
     Q_PROPERTY(double cardMargin MEMBER cardMargin_ NOTIFY cardMarginChanged)
     Q_PROPERTY(bool hovered READ isHovered NOTIFY hoveredChanged)
@@ -44,11 +54,18 @@ public:
 
     bool isLeaving() const { return isLeaving_; }
     void setLeaving(bool leaving);
+    bool isSelected() const { return isSelected_; }
+    bool isFocused() const { return isFocused_; }
+    const QString& accessibleName() const { return isMasked() ? spokenMask_ : spokenText_; }
     bool isHovered() const { return hovered_; }
     bool wasHovered() const { return wasHovered_; }
 
     // What a click on the card does.
     Q_INVOKABLE void click() { reactions_.click(); }
+
+    // As the menu key does, and a screen reader for its user.
+    Q_INVOKABLE void askForMenu();
+    void askForPreview() { Q_EMIT previewRequested(notificationId()); }
 
     // After a press: the time in which a second one would make it a double click is over, or
     // another row was pressed, so that a double click here would have begun elsewhere.
@@ -61,6 +78,11 @@ Q_SIGNALS:
     void maskedChanged();
     void isArrivingChanged();
     void isLeavingChanged();
+    void isSelectedChanged();
+    void isFocusedChanged();
+    void spokenTextChanged();
+    void spokenMaskChanged();
+    void menuPlaceChanged();
     void cardMarginChanged();
     void hoveredChanged();
 
@@ -71,6 +93,7 @@ Q_SIGNALS:
     void doubleTap(const QUuid& id);
     void toggleSelection(const QUuid& id);
     void menuRequested(const QUuid& id, QPointF place); // in the window
+    void previewRequested(const QUuid& id);
 
 protected:
     void componentComplete() override;
@@ -92,6 +115,11 @@ private:
     NotificationRow reactions_;
     bool isArriving_ = false;
     bool isLeaving_ = false;
+    bool isSelected_ = false;
+    bool isFocused_ = false;
+    QString spokenText_;
+    QString spokenMask_;
+    QPointF menuPlace_;
     bool hovered_ = false;
     bool wasHovered_ = false;
     bool doubleClicked_ = false; // by the press that lasts

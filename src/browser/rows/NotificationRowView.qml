@@ -15,10 +15,6 @@ NotificationRowItem {
     required property string body
     required property string timeText
     required property bool pinned
-    required property bool isSelected
-    required property bool isFocused
-    required property string spokenText
-    required property string spokenMask
     property bool menuOpen // a context menu, which a tip would lie over
     property real circleOpenness // of the column for the circle: from 0 to 1
     property real clarity: 1 // of the texts, while they come out from under the mask
@@ -30,10 +26,10 @@ NotificationRowItem {
     readonly property bool showsTitle: title.text && !masked
     readonly property bool showsBody: body.text && !masked
     readonly property bool drawnFocused: isFocused && !selectionMode
-    readonly property point menuPlace: Qt.point(icon.x, icon.y + icon.height) // of the keyboard
     readonly property bool showsTip: hovered && !menuOpen
 
     cardMargin: Metrics.spacingMedium
+    menuPlace: Qt.point(icon.x, icon.y + icon.height)
     implicitHeight: Math.max(icon.height, texts.height) + 2 * verticalPadding
     Accessible.role: Accessible.ListItem
     Accessible.name: masked ? spokenMask : spokenText
@@ -112,6 +108,7 @@ NotificationRowItem {
         sourceComponent: IconBadges {
             masked: row.masked
             pinned: row.pinned
+            surroundings: card.shade
         }
     }
 
@@ -169,6 +166,7 @@ NotificationRowItem {
         Loader {
             id: mask
 
+            anchors.left: parent.left
             y: name.height + Metrics.spacingTiny
             opacity: row.masked ? 1 : 1 - row.clarity
             active: opacity > 0
@@ -179,8 +177,9 @@ NotificationRowItem {
         PlainLabel {
             id: title
 
+            anchors.left: parent.left
             y: name.height + Metrics.spacingTiny
-            width: parent.width
+            width: Math.min(parent.width, Metrics.readingWidth)
             text: row.title
             visible: row.showsTitle
             opacity: row.clarity
@@ -193,8 +192,9 @@ NotificationRowItem {
         PlainLabel {
             id: body
 
+            anchors.left: parent.left
             y: title.y + (row.showsTitle ? title.height + Metrics.spacingTiny : 0)
-            width: parent.width
+            width: Math.min(parent.width, Metrics.readingWidth)
             text: row.body
             visible: row.showsBody
             opacity: row.clarity

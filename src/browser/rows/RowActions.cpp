@@ -153,6 +153,13 @@ void RowActions::setShowPreview(bool shown) {
         Q_EMIT previewChanged();
 }
 
+void RowActions::previewRow(const QUuid& id) {
+    if (services_.selection.selectionMode())
+        return;
+    setFocus(id);
+    setShowPreview(true);
+}
+
 void RowActions::closeOrphanedPreview() {
     if (showPreview_ && !focusedNotification())
         setShowPreview(false);

@@ -69,6 +69,7 @@ public:
 
     // The preview of the focused row
 
+    Q_INVOKABLE void previewRow(const QUuid& id); // which gets the focus
     bool isPreviewing() const { return showPreview_ && focusedNotification().has_value(); }
     void setShowPreview(bool shown); // does not open without a focused row
     PreviewContent preview() const;

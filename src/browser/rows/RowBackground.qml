@@ -14,7 +14,12 @@ Item {
     readonly property int radius: Metrics.cornerRadius
     readonly property real restingOpacity: 0.5
 
+    // As it is seen: the fill over the window.
+    readonly property color shade: Qt.tint(Theme.colours.windowBackground, Qt.alpha(fill.color, fill.opacity))
+
     Rectangle {
+        id: fill
+
         anchors.fill: parent
         radius: background.radius
         color: background.marked ? Theme.colours.accent : Theme.colours.controlBackground

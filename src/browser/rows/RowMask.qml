@@ -13,6 +13,7 @@ Item {
     Rectangle {
         id: upper
 
+        anchors.left: parent.left
         y: Metrics.spacingTiny
         width: 160
         height: 12
@@ -24,6 +25,7 @@ Item {
     Rectangle {
         id: lower
 
+        anchors.left: parent.left
         y: upper.y + upper.height + Metrics.spacingSmall
         width: 220
         height: 10

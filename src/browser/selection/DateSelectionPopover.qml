@@ -12,6 +12,7 @@ PopoverPanel {
     readonly property int contentColumn: 240
 
     objectName: "datePopover"
+    accessibleName: qsTrId("datePopover.title")
     width: contentColumn
     horizontalPadding: Metrics.spacingMedium
     visible: dates.showDatePickerPopover

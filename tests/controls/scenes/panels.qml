@@ -40,6 +40,7 @@ Rectangle {
                 id: popover
 
                 objectName: "popover"
+                accessibleName: "Dates"
 
                 Column {
                     spacing: 8

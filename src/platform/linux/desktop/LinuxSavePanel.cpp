@@ -82,7 +82,7 @@ std::optional<QString> LinuxSavePanel::askByQt(const Request& request) const {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setIconProvider(&icons);
     dialog.setDirectory(folder_);
-    dialog.setPalette(widgetPalette(appearance_.prefersDark()));
+    dialog.setPalette(widgetPalette(appearance_));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setLabelText(QFileDialog::Accept, request.prompt);

@@ -4,6 +4,7 @@
 #include "platform/SystemAppearance.h"
 #include "platform/UserDefaults.h"
 #include "platform/linux/desktop/LinuxStatusPanel.h"
+#include "platform/linux/desktop/StatusPanelAccessible.h"
 #include "platform/linux/desktop/StatusPicture.h"
 #include "platform/linux/desktop/WidgetPalette.h"
 
@@ -179,6 +180,7 @@ void LinuxStatusItem::showOnPanel() {
     tray_.reset();
     trayMenu_.reset();
     if (!panel_) {
+        StatusPanelAccessible::install();
         panel_ = std::make_unique<LinuxStatusPanel>(symbols_, appearance_);
         connect(panel_.get(), &LinuxStatusPanel::menuRequested, this, &LinuxStatusItem::popUpMenu);
         connect(panel_.get(), &LinuxStatusPanel::alternateRequested, this,
@@ -238,11 +240,13 @@ void LinuxStatusItem::popUpMenu(const QPoint& place) {
     delete openMenu_;
     openMenu_ = new QMenu(panel_.get());
     openMenu_->setAttribute(Qt::WA_DeleteOnClose);
-    openMenu_->setPalette(widgetPalette(appearance_.prefersDark()));
+    openMenu_->setPalette(widgetPalette(appearance_));
     const StatusMenu items = builder_();
     fill(*openMenu_, items);
     setShortcuts(*openMenu_, items);
     openMenu_->installEventFilter(this);
+    // Also when a screen reader chooses, which leaves the menu as it is.
+    QObject::connect(openMenu_, &QMenu::triggered, openMenu_, &QMenu::close);
     openMenu_->popup(place);
     openMenu_->activateWindow();
 }

@@ -79,7 +79,7 @@ void LinuxStatusPanel::setContent(const QString& symbolName, const QString& desc
     symbolName_ = symbolName;
     title_ = title.trimmed();
     setWindowTitle(description);
-    setPalette(widgetPalette(appearance_.prefersDark()));
+    setPalette(widgetPalette(appearance_));
     stayOnScreen();
     update();
 }

@@ -554,6 +554,21 @@ TEST_F(StatusItemTest, WithoutATrayThePanelComesAfterTheGraceTime) {
     }
 }
 
+TEST_F(StatusItemTest, AScreenReaderFindsTheOpenMenuInThePanelAndChooses) {
+    item_.show();
+    ASSERT_TRUE(turnsUntil([] { return panel() != nullptr; }));
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(panel());
+    EXPECT_EQ(spoken->childCount(), 0);
+    spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    ASSERT_EQ(spoken->childCount(), 1);
+    QAccessibleInterface* entry = spoken->child(0)->child(0);
+    EXPECT_EQ(spoken->indexOfChild(spoken->child(0)), 0);
+    EXPECT_EQ(entry->text(QAccessible::Name), u"Built 1 times"_qs);
+    entry->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(triggered_, 1);
+    EXPECT_EQ(spoken->childCount(), 0); // the menu has closed
+}
+
 TEST_F(StatusItemTest, TheMenuShowsTheItemsAsTheyAre) {
     StatusMenuItem switchedOn{u"On"_qs, [] {}};
     switchedOn.isChecked = true;
