@@ -2,12 +2,15 @@
 
 import unittest
 
+from growth import Sample, grown
 from session import SessionTestCase
-from soak import Sample, Soak, grown
+from soak import Soak
 
 
 class BriefSoak(Soak):
-    WINDOW, RESTART, SECOND_START, DELETION = 40, 80, 100, 120
+    WINDOW, RESTART, SECOND_START, DELETION = 60, 90, 120, 150
+    EXPORT, SLEEP, CLOCK = 250, 70, 50
+    YEAR_BEFORE = 300
 
 
 class Year(SessionTestCase):
@@ -22,15 +25,15 @@ class Year(SessionTestCase):
         samples.append(soak.sample())
         self.session.assert_running(soak.program)
         self.assertEqual(soak.doubled(), [])
-        self.assertEqual(grown(samples[8:]), [])  # the first window has been opened by then
-        self.assertGreater(len(soak.deleted), 0)
+        self.assertEqual(grown(samples[14:]), [])  # the first export has come by then
+        self.assertEqual(len(soak.done), 7, soak.done)  # everything has happened
 
 
 class Growth(unittest.TestCase):
     """What would be found."""
 
     def samples(self, name, values):
-        flat = Sample(0.0, 0, 100.0, 40, 10, 1.0, 0.0)
+        flat = Sample(0.0, 0, 100.0, 50.0, 40, 10, 1.0, 0.0)
         return [flat._replace(seconds=60.0 * minute, **{name: value})
                 for minute, value in enumerate(values)]
 
