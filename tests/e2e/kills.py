@@ -154,19 +154,26 @@ class Kills:
         self.session.assert_running(program)
 
 
-def main(kills, seed):
-    session = Session()
+def run(session, kills, seed):
+    print(f"seed {seed}")
     lives = Kills(session, seed)
     problems = []
-    print(f"seed {seed}")
     for number in range(1, kills + 1):
         problems += [f"kill {number}: {problem}" for problem in lives.live_and_die()]
         if number % 50 == 0:
             print(f"{number} kills, {lives.count} rows, {lives.announcer.count} banners sent, "
                   f"{len(problems)} problems", flush=True)
     lives.last_life()
-    session.close()
-    Display.end()
+    return problems
+
+
+def main(kills, seed):
+    session = Session()
+    try:
+        problems = run(session, kills, seed)
+    finally:
+        session.close()
+        Display.end()
     print(*problems, sep="\n")
     return 1 if problems else 0
 

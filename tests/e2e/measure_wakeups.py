@@ -83,8 +83,7 @@ def report(title, program, seconds, output):
     return problems
 
 
-def main(seconds):
-    session = Session()
+def measure(session, seconds):
     bus = Bus(session)
     NotificationDaemon(session, bus, "plain")
     Daemon(session).append("a row")
@@ -95,9 +94,16 @@ def main(seconds):
     problems = report("In the tray", program, seconds, output)
     session.open_main_window()
     time.sleep(SETTLING)
-    problems += report("With the main window", program, seconds, output)
-    session.close()
-    Display.end()
+    return problems + report("With the main window", program, seconds, output)
+
+
+def main(seconds):
+    session = Session()
+    try:
+        problems = measure(session, seconds)
+    finally:
+        session.close()
+        Display.end()
     return 1 if problems else 0
 
 

@@ -187,8 +187,8 @@ class Soak:
                            time.monotonic() - self.start)
 
 
-def main(minutes, count):
-    session = Session()
+def run(session, minutes, count):
+    """Plays the year; what is wrong at its end, in words."""
     soak = Soak(session)
     samples = [soak.sample()]
     for number in range(count):
@@ -199,16 +199,22 @@ def main(minutes, count):
         time.sleep(max(0.0, soak.start + (number + 1) * minutes * 60 / count - time.monotonic()))
     soak.wait_for_all()
     samples.append(soak.sample())
-    problems = grown(samples) + [f"doubled: {title}" for title in soak.doubled()]
     picture = pathlib.Path(os.environ.get("SOAK_RESULTS", ".")) / "soak.svg"
     picture.write_text(drawing(samples))
     print(f"sent {len(soak.sent)}, all of them stored; drawn into {picture}")
     print(", ".join(f"{name} {times}" for name, times in soak.done.items()))
-    for problem in problems:
-        print(problem)
     session.assert_running(soak.program)
-    session.close()
-    Display.end()
+    return grown(samples) + [f"doubled: {title}" for title in soak.doubled()]
+
+
+def main(minutes, count):
+    session = Session()
+    try:
+        problems = run(session, minutes, count)
+    finally:
+        session.close()
+        Display.end()
+    print(*problems, sep="\n")
     return 1 if problems else 0
 
 
