@@ -18,6 +18,8 @@ T.RadioButton {
     hoverEnabled: true
     checked: isSelected
     Accessible.name: title
+    Accessible.onPressAction: tap()
+    Accessible.onToggleAction: tap()
     onClicked: tap()
 
     background: Rectangle {

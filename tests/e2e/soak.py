@@ -126,7 +126,7 @@ class Soak:
         path = self.session.home / "export"
         self.open_window()
         self.window.act("push button", "Export notifications")
-        self.window.click("radio button", kind)
+        self.window.act("radio button", kind)
         self.window.act("push button", f"Export as {kind}")
         dialog = wait_until(
             lambda: self.session.windows("--onlyvisible", "--name", f"^Export {kind}$"),
