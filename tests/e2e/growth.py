@@ -3,6 +3,7 @@
 import collections
 import os
 import pathlib
+import statistics
 
 Sample = collections.namedtuple("Sample",
                                 "seconds rows memory heap descriptors threads log processor")
@@ -11,7 +12,12 @@ UNITS = {"memory": "MB", "heap": "MB", "descriptors": "", "threads": "", "log": 
 
 # What may come on top of the most that the first tenth has seen: windows, icons, the allocator's
 # spare pages; a thread or file more for what is under way.
-ALLOWANCE = {"memory": 40.0, "heap": 40.0, "descriptors": 12, "threads": 8, "log": 8.0}
+ALLOWANCE = {"memory": 20.0, "heap": 20.0, "descriptors": 12, "threads": 8, "log": 8.0}
+
+# By how much the middle of the last quarter may lie above that of the second one. Between them
+# everything has happened often.
+DRIFT = {"memory": 5.0, "heap": 4.0, "descriptors": 2, "threads": 2, "log": 2.0}
+FEWEST_FOR_DRIFT = 20  # samples
 
 
 def take_sample(pid, hoard, rows, seconds):
@@ -44,6 +50,21 @@ def grown(samples):
         most = max((getattr(sample, name) for sample in rest), default=before)
         if most > before + allowance:
             problems.append(f"{name}: {before:.1f} after the first tenth, then up to {most:.1f}")
+    return problems + drifted(samples)
+
+
+def drifted(samples):
+    """What goes up slowly, in words."""
+    quarter = len(samples) // 4
+    if len(samples) < FEWEST_FOR_DRIFT:
+        return []
+    problems = []
+    for name, allowance in DRIFT.items():
+        values = [getattr(sample, name) for sample in samples]
+        before = statistics.median(values[quarter:2 * quarter])
+        after = statistics.median(values[-quarter:])
+        if after > before + allowance:
+            problems.append(f"{name}: {before:.1f} in the second quarter, {after:.1f} in the last")
     return problems
 
 

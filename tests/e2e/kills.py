@@ -20,11 +20,12 @@ import threading
 import time
 
 from desktop import Application, Bus, NotificationDaemon
-from session import Daemon, Display, Session, wait_until
+from session import PATIENCE, Daemon, Display, Session, wait_until
 
 LONGEST_PAUSE = 0.8  # seconds
 CAPTURING = 0.8      # of the lives
 RECORDS_A_SECOND = 100
+RECORDS_KEPT = 1000
 BANNERS_A_SECOND = 100
 PAGES = "word " * 3000  # some rows need many pages of the file
 
@@ -93,7 +94,15 @@ class Kills:
             seen = self.rows_seen()
         self.session.assert_running(program)
         self.session.kill(program)
+        self.forget_old_records()
         return self.problems(seen)
+
+    def forget_old_records(self):
+        """As the system's daemon does it. Readers look at every record that there is."""
+        with contextlib.closing(sqlite3.connect(self.session.usernoted, timeout=PATIENCE)) as database:
+            with database:
+                database.execute("DELETE FROM record WHERE rec_id < "
+                                 "(SELECT MAX(rec_id) FROM record) - ?", (RECORDS_KEPT,))
 
     def rows_seen(self):
         """The number of rows, and the id of the last: what another process has read is stored."""

@@ -39,7 +39,12 @@ class Growth(unittest.TestCase):
 
     def test_a_leak_of_a_megabyte_a_minute_is_found(self):
         samples = self.samples("memory", [100.0 + minute for minute in range(60)])
-        self.assertEqual(grown(samples), ["memory: 105.0 after the first tenth, then up to 159.0"])
+        self.assertEqual(grown(samples), ["memory: 105.0 after the first tenth, then up to 159.0",
+                                          "memory: 122.0 in the second quarter, 152.0 in the last"])
+
+    def test_a_leak_of_a_quarter_of_a_megabyte_a_minute_is_found(self):
+        samples = self.samples("heap", [30.0 + minute / 4 for minute in range(60)])
+        self.assertEqual(grown(samples), ["heap: 35.5 in the second quarter, 43.0 in the last"])
 
     def test_a_descriptor_left_behind_now_and_then_is_found(self):
         self.assertTrue(grown(self.samples("descriptors", [40 + n // 3 for n in range(60)])))
