@@ -1,8 +1,12 @@
 """What the README tells a reader to type is there, and is what the scripts that check it do."""
 
 import os
+import pathlib
 import re
 import shutil
+import subprocess
+import sys
+import tempfile
 import unittest
 
 import check_on_bare_system
@@ -34,6 +38,52 @@ class Reading(unittest.TestCase):
 
     def test_a_section_that_is_missing(self):
         self.assertRaises(ValueError, commands, "Instal", TEXT)
+
+
+class Doing(unittest.TestCase):
+    """The check itself, on a small project whose README speaks of one script and what it makes."""
+
+    README = """## Build
+
+    scripts/build    # makes it
+
+The program is then `build/bin/it`.
+"""
+
+    def checked(self, script):
+        """What the check says of a project with this script: its exit status and its words."""
+        folder = pathlib.Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, folder)
+        project = folder / "project"
+        for path, text in (("README.md", self.README), ("scripts/build", script)):
+            (project / path).parent.mkdir(parents=True, exist_ok=True)
+            (project / path).write_text(text)
+        (project / "scripts/build").chmod(0o755)
+        for name in ("readme.py", "check_readme.py"):
+            target = project / "tests/packaging" / name
+            target.parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(ROOT / "tests/packaging" / name, target)
+        for words in (["init", "-q"], ["add", "-A"],
+                      ["-c", "user.name=x", "-c", "user.email=x", "commit", "-qm", "x"]):
+            subprocess.run(["git", *words], cwd=project, check=True)
+        result = subprocess.run([sys.executable, "-B", project / "tests/packaging/check_readme.py",
+                                 folder / "copy"], capture_output=True, text=True)
+        return result.returncode, result.stdout + result.stderr
+
+    def test_what_works_is_done(self):
+        status, words = self.checked("#!/bin/sh\nmkdir -p build/bin && touch build/bin/it\n")
+        self.assertEqual(status, 0, words)
+        self.assertIn("done as the README says: scripts/build", words)
+
+    def test_a_command_that_fails_is_named(self):
+        status, words = self.checked("#!/bin/sh\nexit 3\n")
+        self.assertNotEqual(status, 0)
+        self.assertIn("failed: scripts/build", words)
+
+    def test_a_file_that_is_not_made_is_named(self):
+        status, words = self.checked("#!/bin/sh\n")
+        self.assertNotEqual(status, 0)
+        self.assertIn("build/bin/it", words)
 
 
 class Readme(unittest.TestCase):
