@@ -167,7 +167,7 @@ struct CuttableDiskCalls {
                                                 nullptr};
 };
 
-CuttableDisk::CuttableDisk(QString folder, Syncs syncs)
+CuttableDisk::CuttableDisk(const QString& folder, Syncs syncs)
     : folder_(folder.toStdString() + '/')
     , syncs_(syncs)
     , real_(sqlite3_vfs_find(nullptr))

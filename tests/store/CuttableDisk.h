@@ -28,7 +28,7 @@ class CuttableDisk {
 public:
     enum class Syncs { kept, ignored }; // ignored: a disk that says "done" and does nothing
 
-    CuttableDisk(QString folder, Syncs syncs);
+    CuttableDisk(const QString& folder, Syncs syncs);
     ~CuttableDisk();
     CuttableDisk(const CuttableDisk&) = delete;
     CuttableDisk& operator=(const CuttableDisk&) = delete;

@@ -23,7 +23,7 @@ const QString disconnected = QStringLiteral("Disconnected");
 
 // Qt never connects the shared one again.
 QDBusConnection currentSessionBus() {
-    const QDBusConnection shared = QDBusConnection::sessionBus();
+    QDBusConnection shared = QDBusConnection::sessionBus();
     if (shared.isConnected())
         return shared;
     static int number = 0;
@@ -44,6 +44,7 @@ ReturningService::ReturningService(Bus bus, SingleInstance::Requests requests)
 ReturningService::~ReturningService() = default;
 
 void ReturningService::serve() {
+    dropLostConnection();
     QDBusConnection bus = bus_();
     const bool isWatched =
         bus.isConnected() && bus.connect(QString(), localPath, localInterface, disconnected, this,
@@ -57,14 +58,16 @@ void ReturningService::serve() {
     service_ = std::make_unique<ApplicationService>(bus, requests_);
 }
 
-// The rest of what the lost connection has to say comes before it is taken away.
+// The lost connection is taken away later: it is the one that calls.
 void ReturningService::onDisconnected() {
     service_.reset();
-    if (connectionName_.startsWith(ownConnections))
-        QMetaObject::invokeMethod(
-            this, [name = connectionName_] { QDBusConnection::disconnectFromBus(name); },
-            Qt::QueuedConnection);
     retry_.start();
+}
+
+void ReturningService::dropLostConnection() {
+    if (connectionName_.startsWith(ownConnections))
+        QDBusConnection::disconnectFromBus(connectionName_);
+    connectionName_.clear();
 }
 
 } // namespace tessarine

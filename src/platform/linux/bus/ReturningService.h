@@ -32,12 +32,13 @@ private Q_SLOTS: // found by name
 
 private:
     void serve();
+    void dropLostConnection();
 
     const Bus bus_;
     const SingleInstance::Requests requests_;
     QTimer retry_;
     std::unique_ptr<ApplicationService> service_;
-    QString connectionName_; // of the connection that serves
+    QString connectionName_; // of the connection that serves, or did last
 };
 
 } // namespace tessarine
