@@ -30,9 +30,9 @@ std::optional<qint64> number(const QString& digits) {
     return value;
 }
 
-std::optional<double> afterNow(const QString& text, const QString& unit, double seconds,
+std::optional<double> afterNow(const QString& text, const QRegularExpression& count, double seconds,
                                double now) {
-    const auto match = pattern(QStringLiteral("in (\\d+) %1s?").arg(unit)).match(text);
+    const auto match = count.match(text);
     if (!match.hasMatch())
         return std::nullopt;
     return now + double(number(match.captured(1)).value_or(0)) * seconds;
@@ -46,8 +46,9 @@ Moment onDayOf(double moment, const QString& hour, const QString& minute) {
 }
 
 std::optional<Moment> onNamedDay(const QString& text, double now) {
-    const auto match =
-        pattern(QStringLiteral("(today|tomorrow) at (\\d{1,2}):(\\d{2})")).match(text);
+    static const QRegularExpression namedDay =
+        pattern(QStringLiteral("(today|tomorrow) at (\\d{1,2}):(\\d{2})"));
+    const auto match = namedDay.match(text);
     if (!match.hasMatch())
         return std::nullopt;
     const bool isTomorrow = match.captured(1) == QStringLiteral("tomorrow");
@@ -55,7 +56,9 @@ std::optional<Moment> onNamedDay(const QString& text, double now) {
 }
 
 std::optional<Moment> atClockTime(const QString& text, double now) {
-    const auto match = pattern(QStringLiteral("\\b(\\d{1,2}):(\\d{2})\\b")).match(text);
+    static const QRegularExpression clockTime =
+        pattern(QStringLiteral("\\b(\\d{1,2}):(\\d{2})\\b"));
+    const auto match = clockTime.match(text);
     if (!match.hasMatch())
         return std::nullopt;
     const Moment moment = onDayOf(now, match.captured(1), match.captured(2));
@@ -63,11 +66,13 @@ std::optional<Moment> atClockTime(const QString& text, double now) {
 }
 
 Moment dateInTexts(const QString& body, const QString& title, double now) {
+    static const QRegularExpression minutes = pattern(QStringLiteral("in (\\d+) minutes?"));
+    static const QRegularExpression hours = pattern(QStringLiteral("in (\\d+) hours?"));
     // Halves of surrogate pairs, which patterns refuse, become characters of their own.
     const QString text = QString::fromUtf8(storedUtf8(body + u' ' + title)).toLower();
-    if (const auto date = afterNow(text, QStringLiteral("minute"), secondsPerMinute, now))
+    if (const auto date = afterNow(text, minutes, secondsPerMinute, now))
         return date;
-    if (const auto date = afterNow(text, QStringLiteral("hour"), secondsPerHour, now))
+    if (const auto date = afterNow(text, hours, secondsPerHour, now))
         return date;
     if (const auto date = onNamedDay(text, now))
         return *date;

@@ -119,6 +119,19 @@ class Name(ActivationTestCase):
         self.assertEqual(program.wait(PATIENCE), 0)
 
 
+class BusThatReturns(ActivationTestCase):
+    def test_the_program_takes_its_name_again_each_time(self):
+        program = self.start()
+        wait_until(self.has_name, "the name")
+        for _ in range(2):
+            self.bus.stop()
+            self.bus.start()
+            wait_until(self.has_name, "the name again")
+        self.act("open")
+        wait_until(self.session.visible_main_window, "the main window")
+        self.session.assert_running(program)
+
+
 class StartedByTheBus(ActivationTestCase):
     """As a desktop does that finds DBusActivatable in the entry."""
 

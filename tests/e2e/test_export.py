@@ -78,6 +78,12 @@ class Export(DesktopTestCase):
             self.wait(lambda: not self.shows_sheet(), "no sheet")
         self.session.assert_running(self.program)
 
+    def test_a_screen_reader_chooses_a_format(self):
+        self.window.act("push button", "Export notifications")
+        for chosen in FORMATS:
+            self.window.act("radio button", chosen)
+            self.window.shows("push button", f"Export as {chosen}")
+
     def test_escape_closes_the_sheet(self):
         self.open_sheet("CSV")
         self.window.press("Escape")

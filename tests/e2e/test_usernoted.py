@@ -1,7 +1,5 @@
 """The main job: what the system's daemon records is in the hoard, at once and for good."""
 
-import random
-import sqlite3
 import time
 import unittest
 
@@ -110,40 +108,6 @@ class Defaults(SessionTestCase):
         daemon.append("two")
         time.sleep(2)
         self.assertEqual(self.session.titles(), ["one"])
-
-
-class SuddenDeath(SessionTestCase):
-    KILLS = 50
-
-    def test_the_hoard_survives_fifty_kills_while_rows_pour_in(self):
-        moments = random.Random(20)
-        rate = 200
-        seconds = 0
-        writer = Daemon(self.session)
-        pouring = Daemon(self.session)
-        pouring.send("pour", records=1000000, rate=rate, app="com.example.pouring")
-        for _ in range(self.KILLS):
-            program = self.session.start_program(wait=False)
-            pause = moments.uniform(0.1, 1.2)
-            seconds += pause
-            time.sleep(pause)
-            self.session.kill(program)
-        self.session.kill(pouring.process)
-        program = self.session.start_program()
-        writer.append("the last")
-        wait_until(lambda: "the last" in self.session.titles(), "a row after all")
-        self.session.assert_running(program)
-        stored = self.session.count() - 1
-        self.assertEqual(self.session.query("PRAGMA integrity_check"), [("ok",)])
-        self.assertEqual(self.session.query(
-            "SELECT COUNT(*) - COUNT(DISTINCT system_note_id) FROM notifications"), [(0,)])
-        source = sqlite3.connect(self.session.usernoted)
-        written = source.execute("SELECT COUNT(*) FROM record").fetchone()[0] - 1
-        source.close()
-        print(f"kills {self.KILLS}, rows written {written}, stored {stored}, "
-              f"lost between cursor and store {written - stored}")
-        self.assertGreater(written, 0)
-        self.assertGreater(stored, 0)
 
 
 if __name__ == "__main__":

@@ -19,6 +19,8 @@ import subprocess
 import sys
 import time
 
+from readme import commands
+
 ID = "com.zorvek.Tessarine"
 USER = "anna"
 PATIENCE = 120  # seconds for what has to come
@@ -253,10 +255,11 @@ def start_display():
 
 def readme_commands():
     """The two commands for users, to the letter; in the bare system root is who types them."""
-    lines = (pathlib.Path(__file__).resolve().parents[2] / "README.md").read_text()
-    found = re.search(r"sudo (apt install \S+)", lines), re.search(r"sudo (apt remove \w+)", lines)
-    require(all(found), "the README names no commands for the package")
-    return [match[1] for match in found]
+    found = [command.removeprefix("sudo ") for command in commands("Install")
+             if command.startswith("sudo ")]
+    require([command.split()[:2] for command in found] == [["apt", "install"], ["apt", "remove"]],
+            f"the README has other commands for the package: {found}")
+    return found
 
 
 def in_downloads(system, package, command):

@@ -12,6 +12,7 @@
 #include "platform/linux/applications/LinuxLoginItem.h"
 #include "platform/linux/applications/LinuxSystemSettings.h"
 #include "platform/linux/banners/LinuxAccessibility.h"
+#include "platform/linux/bus/ReturningService.h"
 #include "platform/qt/QtScheduler.h"
 
 #include <QDBusConnection>
@@ -62,7 +63,7 @@ std::unique_ptr<FileSystem> makeFileSystem() {
 }
 
 std::unique_ptr<SingleInstance> makeSingleInstance(const QString& path) {
-    return std::make_unique<LinuxSingleInstance>(path, &QDBusConnection::sessionBus);
+    return std::make_unique<LinuxSingleInstance>(path, &currentSessionBus);
 }
 
 } // namespace tessarine

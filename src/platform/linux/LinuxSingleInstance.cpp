@@ -51,7 +51,7 @@ void LinuxSingleInstance::onRequests(Requests requests) {
     if (socket_)
         socket_->onRequest(requests.activate);
     if (bus_)
-        service_ = std::make_unique<ApplicationService>(bus_(), std::move(requests));
+        service_ = std::make_unique<ReturningService>(bus_, std::move(requests));
 }
 
 } // namespace tessarine

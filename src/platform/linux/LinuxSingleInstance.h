@@ -2,13 +2,11 @@
 
 #include "platform/SingleInstance.h"
 #include "platform/linux/ActivationSocket.h"
-#include "platform/linux/bus/ApplicationService.h"
+#include "platform/linux/bus/ReturningService.h"
 #include "platform/posix/FileLock.h"
 
-#include <QDBusConnection>
 #include <QString>
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -20,7 +18,7 @@ namespace tessarine {
 // for its activation. A later copy asks by a socket, and the desktop by the session's bus.
 class LinuxSingleInstance : public SingleInstance {
 public:
-    using Bus = std::function<QDBusConnection()>;
+    using Bus = ReturningService::Bus;
 
     // The path of the file that one copy may use, and how to get the session's bus once there is an
     // application object; without it the desktop can't ask.
@@ -38,7 +36,7 @@ private:
     FileLock lock_;
     QString token_; // of this process's own start
     std::optional<ActivationSocket> socket_;
-    std::unique_ptr<ApplicationService> service_;
+    std::unique_ptr<ReturningService> service_;
 };
 
 } // namespace tessarine

@@ -2,8 +2,6 @@
 
 #include "platform/linux/applications/DesktopEntries.h"
 
-#include <QRegularExpression>
-
 namespace tessarine {
 
 namespace {
@@ -13,6 +11,10 @@ struct Word {
     QString text;
     bool quoted = false; // in any part: then it stays, even empty
 };
+
+bool isEscapableInQuotes(QChar character) {
+    return character == u'"' || character == u'`' || character == u'$' || character == u'\\';
+}
 
 class Splitter {
 public:
@@ -51,7 +53,8 @@ private:
             const QChar character = line_[position_++];
             if (character == u'"')
                 return true;
-            if (character == u'\\' && position_ < line_.size() && isEscapable(line_[position_]))
+            if (character == u'\\' && position_ < line_.size() &&
+                isEscapableInQuotes(line_[position_]))
                 word_.text += line_[position_++];
             else
                 word_.text += character;
@@ -67,10 +70,6 @@ private:
         word_.text += QStringView(line_).sliced(position_, end - position_);
         position_ = end + 1;
         return true;
-    }
-
-    static bool isEscapable(QChar character) {
-        return character == u'"' || character == u'`' || character == u'$' || character == u'\\';
     }
 
     void endWord() {
@@ -114,6 +113,7 @@ std::optional<QString> replacement(QChar code, const DesktopEntry& entry) {
 
 std::optional<QString> replaced(const QString& text, const DesktopEntry& entry) {
     QString result;
+    result.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
         if (text[i] != u'%') {
             result += text[i];
@@ -142,13 +142,19 @@ std::optional<QStringList> execWords(const QString& exec) {
 }
 
 QString execWord(const QString& word) {
-    static const QRegularExpression reserved(QStringLiteral("[\\s\"'\\\\><~|&;$*?#()`]"));
-    static const QRegularExpression escapable(QStringLiteral("([\"`$\\\\])"));
-    QString text = word;
-    text.replace(u'%', QStringLiteral("%%"));
-    if (!text.isEmpty() && !text.contains(reserved))
-        return text;
-    return u'"' + text.replace(escapable, QStringLiteral("\\\\1")) + u'"';
+    constexpr QStringView reserved = u" \t\n\v\f\r\"'\\><~|&;$*?#()`";
+    bool needsQuotes = word.isEmpty();
+    QString text;
+    text.reserve(word.size() + 2);
+    for (const QChar character : word) {
+        needsQuotes = needsQuotes || reserved.contains(character);
+        if (isEscapableInQuotes(character))
+            text += u'\\';
+        else if (character == u'%')
+            text += u'%';
+        text += character;
+    }
+    return needsQuotes ? u'"' + text + u'"' : text;
 }
 
 QString executableOf(const DesktopEntry& entry) {
