@@ -62,7 +62,7 @@ protected:
     }
 
     bool allAtTheirOwnPlaces() const {
-        return std::ranges::all_of(items(), [this](const QQuickItem* item) {
+        return std::ranges::all_of(items(), [](const QQuickItem* item) {
             const double y = item->mapToItem(item->parentItem(), QPointF(0, 0)).y();
             return y == item->y();
         });
