@@ -30,10 +30,6 @@ NotificationListener::NotificationListener(const Services& services)
 
 NotificationListener::~NotificationListener() = default;
 
-std::shared_ptr<NotificationListener> NotificationListener::create(const Services& services) {
-    return std::make_shared<NotificationListener>(services);
-}
-
 // Whoever sets the list has just read it: nothing newer is waiting to be published.
 void NotificationListener::setNotifications(NotificationList notifications) {
     notifications_ = std::move(notifications);

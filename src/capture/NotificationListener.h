@@ -40,7 +40,6 @@ public:
 
     // Finds the legacy database and reads its names. Captures nothing yet.
     explicit NotificationListener(const Services& services);
-    static std::shared_ptr<NotificationListener> create(const Services& services);
     ~NotificationListener() override;
 
     // The hoard's first 500 rows in the hoard's order, or what a window has asked for since.

@@ -7,7 +7,8 @@ Services::Services(Platform& platform)
     , hoard(*platform.fileSystem, *platform.userDefaults, *platform.scheduler)
     , preferences(*platform.userDefaults)
     , diagnostics(*platform.scheduler, hoard)
-    , listener(NotificationListener::create({hoard, preferences, diagnostics, platform}))
+    , listener(std::make_shared<NotificationListener>(
+          NotificationListener::Services{hoard, preferences, diagnostics, platform}))
     , launcher(*platform.workspace, *platform.fileSystem, *platform.scheduler) {}
 
 } // namespace tessarine
