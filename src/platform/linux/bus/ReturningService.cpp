@@ -44,8 +44,9 @@ ReturningService::ReturningService(Bus bus, SingleInstance::Requests requests)
 ReturningService::~ReturningService() = default;
 
 void ReturningService::serve() {
-    dropLostConnection();
+    dropConnection();
     QDBusConnection bus = bus_();
+    connectionName_ = bus.name();
     const bool isWatched =
         bus.isConnected() && bus.connect(QString(), localPath, localInterface, disconnected, this,
                                          SLOT(onDisconnected()));
@@ -54,7 +55,6 @@ void ReturningService::serve() {
         return;
     }
     retry_.setInterval(firstRetry);
-    connectionName_ = bus.name();
     service_ = std::make_unique<ApplicationService>(bus, requests_);
 }
 
@@ -64,7 +64,7 @@ void ReturningService::onDisconnected() {
     retry_.start();
 }
 
-void ReturningService::dropLostConnection() {
+void ReturningService::dropConnection() {
     if (connectionName_.startsWith(ownConnections))
         QDBusConnection::disconnectFromBus(connectionName_);
     connectionName_.clear();

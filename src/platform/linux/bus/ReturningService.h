@@ -32,13 +32,13 @@ private Q_SLOTS: // found by name
 
 private:
     void serve();
-    void dropLostConnection();
+    void dropConnection();
 
     const Bus bus_;
     const SingleInstance::Requests requests_;
     QTimer retry_;
     std::unique_ptr<ApplicationService> service_;
-    QString connectionName_; // of the connection that serves, or did last
+    QString connectionName_; // of the connection that serves or failed last
 };
 
 } // namespace tessarine
