@@ -41,8 +41,9 @@ def now():
     return time.time() - REFERENCE_DATE
 
 
-def wait_until(condition, what, seconds=PATIENCE):
-    """What the condition gives once it gives something; fails the test when the time is up."""
+def wait_until(condition, what, seconds=PATIENCE, interval=0.02):
+    """What the condition gives once it gives something; fails the test when the time is up. It is
+    asked after each interval, in seconds."""
     end = time.monotonic() + seconds
     while True:
         result = condition()
@@ -50,7 +51,7 @@ def wait_until(condition, what, seconds=PATIENCE):
             return result
         if time.monotonic() > end:
             raise AssertionError(f"not within {seconds} s: {what}")
-        time.sleep(0.02)
+        time.sleep(interval)
 
 
 class Display:
