@@ -2,6 +2,7 @@
 
 #include "apps/AppIconView.h"
 #include "browser/KeyMonitor.h"
+#include "browser/list/GroupHeading.h"
 #include "browser/rows/RowAccessible.h"
 
 #include <QQuickItem>
@@ -50,6 +51,7 @@ MainWindow::MainWindow(ContentView::Services services, UserDefaults& defaults, Q
     , keyMonitor_(std::make_unique<KeyMonitor>(*content_.actions(), *content_.selection(),
                                                window_.window(), window_.root())) {
     RowAccessible::install();
+    GroupHeadingAccessible::install();
     QObject::connect(&window_, &ViewWindow::shown, &content_, [this] { appear(); });
     QObject::connect(&window_, &ViewWindow::hidden, &content_, &ContentView::disappear);
     QObject::connect(&window_, &ViewWindow::hidden, &content_, [this] { icons_.disappear(); });

@@ -72,9 +72,11 @@ class MainWindow:
         place = wait_until(lambda: self.reads("place", role, name).split(), f"{role} {name}")
         self.xdotool("mousemove", *place, "click", "1")
 
-    def act(self, role, name, action="Press"):
-        """Without a pointer or a key, as a screen reader does it for its user."""
-        wait_until(lambda: self.reads("act", role, name, action).strip() == "True",
+    def act(self, role, name, action="Press", *, dialog=None):
+        """Without a pointer or a key, as a screen reader does it for its user. In the dialog of that
+        name, if one is given."""
+        where = () if dialog is None else (dialog,)
+        wait_until(lambda: self.reads("act", role, name, action, *where).strip() == "True",
                    f"{action} of {role} {name}")
 
     def write(self, role, name, text):

@@ -2,8 +2,9 @@
 
     screen_reader.py list              every element that shows, a line each: role, TAB, name
     screen_reader.py place ROLE NAME   the middle of the element on the screen: x y
-    screen_reader.py act ROLE NAME ACTION
-                                       does what the element offers by this name, as Press
+    screen_reader.py act ROLE NAME ACTION [DIALOG]
+                                       does what the element offers by this name, as Press; in the
+                                       dialog of a name where another element could be meant
     screen_reader.py write ROLE NAME TEXT
                                        puts a text into a field that lets itself be written
     screen_reader.py focus             role, TAB, name of the element that has the keyboard
@@ -29,7 +30,15 @@ def elements(top):
             continue
 
 
-def showing():
+def showing(dialog=None):
+    for element in showing_anywhere():
+        if dialog is None:
+            yield element
+        elif element.getRoleName() == "dialog" and element.name == dialog:
+            yield from elements(element)
+
+
+def showing_anywhere():
     desktop = pyatspi.Registry.getDesktop(0)
     for application in desktop:
         if application is None or application.name != "Tessarine":
@@ -77,7 +86,7 @@ def main():
             print(f"{focused[-1].getRoleName()}\t{focused[-1].name}")
         return
     role, name = sys.argv[2:4]
-    for element in showing():
+    for element in showing(*sys.argv[5:]):
         if element.getRoleName() == role and element.name == name:
             if sys.argv[1] == "act":
                 print(act(element, sys.argv[4]))

@@ -2,11 +2,12 @@
 offers to do. Nothing is pointed at, and no key leads anywhere; keys are pressed only to put letters
 into the search field, which a screen reader's user does too."""
 
+import datetime
 import unittest
 
 from desktop import DesktopTestCase
 from main_window import MainWindow
-from session import PATIENCE, wait_until
+from session import PATIENCE, REFERENCE_DATE, wait_until
 
 
 class ScreenReaderWalk(DesktopTestCase):
@@ -44,6 +45,20 @@ class ScreenReaderWalk(DesktopTestCase):
         return wait_until(lambda: [name for name in self.window.rows()
                                    if all(text in name for text in texts)], f"a row with {texts}")[0]
 
+    def wait_for_order(self, *texts):
+        """Until the rows with these texts stand one below the other."""
+        wait_until(lambda: self.heights(texts) == sorted(self.heights(texts)), f"{texts} in order")
+
+    def heights(self, texts):
+        return [int(self.window.reads("place", "list item", self.row(text)).split()[1])
+                for text in texts]
+
+    def days(self):
+        """Of the notifications, as the titles of their groups."""
+        stamps = self.session.query("SELECT timestamp FROM notifications")
+        moments = [datetime.datetime.fromtimestamp(stamp + REFERENCE_DATE) for (stamp,) in stamps]
+        return {f"{moment:%A, %B} {moment.day}, {moment.year}" for moment in moments}
+
     # The walk
 
     def test_search_filter_and_groups(self):
@@ -68,6 +83,64 @@ class ScreenReaderWalk(DesktopTestCase):
         self.wait_for_rows(1)
         self.window.act("push button", "Show Mail")
         self.wait_for_rows(2)
+
+    def test_sorting(self):
+        self.application("Mail").announce("Cleo", "Minutes, again")
+        self.wait_for_count(3)
+        self.choose_in_panel("Open Hoard")
+        self.wait_for_rows(3)
+        self.wait_for_order("Cleo", "Ben", "Anna")
+        self.window.act("combo box", "Sort")
+        self.window.act("menu item", "Oldest First")
+        self.wait_for_order("Anna", "Ben", "Cleo")
+        self.window.act("combo box", "Sort")
+        self.window.act("menu item", "App A–Z")
+        self.wait_for_order("Ben", "Cleo", "Anna")
+        self.window.act("combo box", "Sort")
+        self.window.act("menu item", "Newest First")
+        self.wait_for_order("Cleo", "Ben", "Anna")
+
+    def test_groups_of_days(self):
+        self.open_hoard()
+        self.window.act("radio button", "Date")
+        for day in self.days():
+            self.window.shows("heading", day)
+            self.window.act("push button", f"Hide {day}")
+        self.wait_for_rows(0)
+        for day in self.days():
+            self.window.act("push button", f"Show {day}")
+        self.wait_for_rows(2)
+        self.window.act("radio button", "None")
+        for day in self.days():
+            self.window.hides("heading", day)
+
+    def test_a_group_and_its_menu(self):
+        self.application("Mail").announce("Cleo", "Minutes, again")
+        self.wait_for_count(3)
+        self.choose_in_panel("Open Hoard")
+        self.window.act("radio button", "App")
+        self.window.act("heading", "Mail", "ShowMenu")
+        self.window.act("menu item", "Delete All 2 Notifications")
+        self.window.hides("heading", "Mail")
+        self.wait_for_rows(1)
+        self.row("Chat", "Ben")
+        self.assertEqual(self.session.count(), 1)
+
+    def test_deleting_all(self):
+        asks = "Delete all notifications? (2 loaded)"
+        self.open_hoard()
+        self.window.act("push button", "Select and delete notifications")
+        self.window.act("push button", "Delete All")
+        self.window.shows("dialog", asks)
+        self.window.act("push button", "Cancel", dialog=asks)
+        self.window.hides("dialog", asks)
+        self.wait_for_rows(2)
+        self.assertEqual(self.session.count(), 2)
+        self.window.act("push button", "Delete All")
+        self.window.act("push button", "Delete All", dialog=asks)
+        self.window.hides("dialog", asks)
+        self.wait_for_rows(0)
+        self.assertEqual(self.session.count(), 0)
 
     def test_a_row_its_preview_and_its_menu(self):
         self.open_hoard()

@@ -3,6 +3,8 @@
 #include "ui/AnimationClock.h"
 #include "ui/UiFixture.h"
 
+#include <QAccessible>
+
 #include <algorithm>
 #include <random>
 
@@ -82,6 +84,17 @@ protected:
                 return false;
         }
         return true;
+    }
+
+    // What a screen reader finds in the list.
+    QAccessibleInterface* spoken(QAccessible::Role role, const QString& name) const {
+        const QAccessibleInterface* const all = QAccessible::queryAccessibleInterface(&list());
+        for (int index = 0; index < all->childCount(); ++index) {
+            QAccessibleInterface* const child = all->child(index);
+            if (child->role() == role && child->text(QAccessible::Name) == name)
+                return child;
+        }
+        return nullptr;
     }
 
     static constexpr double spacing = 4;
@@ -209,6 +222,55 @@ TEST_F(GroupsTest, AHeadersMenuDeletesTheGroup) {
     ASSERT_NE(entry(u"Delete All 40 Notifications"_qs), nullptr);
     click(*entry(u"Delete All 40 Notifications"_qs));
     EXPECT_EQ(hoard.totalCount(), 40);
+}
+
+TEST_F(GroupsTest, AScreenReaderFindsAHeaderAndOpensItsMenu) {
+    QAccessibleInterface* const heading = spoken(QAccessible::Heading, u"Alpha"_qs);
+    ASSERT_NE(heading, nullptr);
+    EXPECT_EQ(heading->parent(), QAccessible::queryAccessibleInterface(&list()));
+    EXPECT_EQ(heading->window(), window->window());
+    EXPECT_EQ(heading->rect().size(), header(u"Alpha"_qs)->size().toSize());
+    EXPECT_FALSE(heading->state().invisible);
+    QAccessibleActionInterface* const actions = heading->actionInterface();
+    ASSERT_NE(actions, nullptr);
+    EXPECT_EQ(actions->actionNames(), QStringList(u"ShowMenu"_qs));
+    actions->doAction(QAccessibleActionInterface::showMenuAction());
+    ASSERT_TRUE(turnsUntil([&] { return isShown(u"groupMenu"_qs); }));
+    ASSERT_NE(entry(u"Delete All 40 Notifications"_qs), nullptr);
+}
+
+TEST_F(GroupsTest, AScreenReaderFindsNoMenuOfAHeaderInSelectionMode) {
+    QAccessibleInterface* const heading = spoken(QAccessible::Heading, u"Alpha"_qs);
+    ASSERT_NE(heading, nullptr);
+    view().selection()->enterSelectionMode();
+    EXPECT_EQ(heading->actionInterface()->actionNames(), QStringList());
+    heading->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    view().selection()->exitSelectionMode();
+    draw();
+    EXPECT_TRUE(isGone(u"groupMenu"_qs));
+    EXPECT_EQ(heading->actionInterface()->actionNames(), QStringList(u"ShowMenu"_qs));
+}
+
+TEST_F(GroupsTest, AScreenReaderClosesAGroupAndOpensItAgain) {
+    QAccessibleInterface* const chevron = spoken(QAccessible::Button, u"Hide Alpha"_qs);
+    ASSERT_NE(chevron, nullptr);
+    chevron->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    system.scheduler.advance(0.25);
+    EXPECT_EQ(lines(), 42);
+    EXPECT_EQ(chevron->text(QAccessible::Name), u"Show Alpha"_qs);
+    chevron->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(lines(), 82);
+}
+
+// The pinned one shows what the header in the list says.
+TEST_F(GroupsTest, AScreenReaderFindsNoHeaderTwice) {
+    scrollTo(20);
+    ASSERT_EQ(pinnedTitle(), u"Alpha"_qs);
+    EXPECT_NE(spoken(QAccessible::Heading, u"Alpha"_qs), nullptr);
+    const QAccessibleInterface* const around =
+        QAccessible::queryAccessibleInterface(&list())->parent();
+    for (int index = 0; index < around->childCount(); ++index)
+        EXPECT_NE(around->child(index)->role(), QAccessible::Heading);
 }
 
 TEST_F(GroupsTest, SelectionModeSelectsAGroupByItsButton) {

@@ -186,7 +186,7 @@ FocusScope {
         header: pinned.header
         selectionMode: root.selection.selectionMode
         visible: pinned.isPinned
-        Accessible.ignored: true
+        repeated: true
         onToggled: key => {
             listView.positionViewAtIndex(pinned.line, ListView.Beginning);
             slide.toggle(key);

@@ -10,6 +10,7 @@ Rectangle {
 
     required property groupHeader header
     property bool selectionMode
+    property bool repeated // shows what another header tells screen readers of
 
     readonly property int chevronColumn: 12
     readonly property int iconSize: 18
@@ -31,9 +32,17 @@ Rectangle {
 
     implicitHeight: lineHeight
     color: Theme.colours.windowBackground
-    Accessible.role: Accessible.Heading
-    Accessible.name: header.title
     onHeaderChanged: icon.rebuild()
+
+    GroupHeading {
+        anchors.fill: parent
+        title: section.header.title
+        hasMenu: !section.selectionMode
+        Accessible.role: Accessible.Heading
+        Accessible.name: section.header.title
+        Accessible.ignored: section.repeated
+        onMenuRequested: section.askForMenu()
+    }
 
     // A pinned header lies over rows, and what happens on it isn't for them.
     HoverHandler { blocking: true }

@@ -1,7 +1,6 @@
 #include "browser/rows/RowAccessible.h"
 
 #include <QCoreApplication>
-#include <QQuickWindow>
 
 namespace tessarine {
 
@@ -22,25 +21,7 @@ void RowAccessible::install() {
 }
 
 NotificationRowItem& RowAccessible::row() const {
-    return *static_cast<NotificationRowItem*>(object());
-}
-
-// The list: what is between them is nothing that a screen reader is told of.
-QAccessibleInterface* RowAccessible::parent() const {
-    for (QQuickItem* item = row().parentItem(); item; item = item->parentItem()) {
-        QAccessibleInterface* const found = QAccessible::queryAccessibleInterface(item);
-        if (found && found->role() == QAccessible::List)
-            return found;
-    }
-    return nullptr;
-}
-
-QWindow* RowAccessible::window() const {
-    return row().window();
-}
-
-QRect RowAccessible::rect() const {
-    return {row().mapToGlobal(QPointF(0, 0)).toPoint(), row().size().toSize()};
+    return static_cast<NotificationRowItem&>(item());
 }
 
 QString RowAccessible::text(QAccessible::Text kind) const {
@@ -48,22 +29,12 @@ QString RowAccessible::text(QAccessible::Text kind) const {
 }
 
 QAccessible::State RowAccessible::state() const {
-    const QWindow* const inWindow = window();
-    QAccessible::State state;
+    QAccessible::State state = LineAccessible::state();
     state.selectable = true;
     state.selected = row().selectionMode() ? row().isSelected() : row().isFocused();
     state.checkable = row().selectionMode();
     state.checked = row().selectionMode() && row().isSelected();
-    state.disabled = !row().isEnabled();
-    state.invisible = !inWindow || !inWindow->isVisible() || !row().isVisible();
-    if (const QAccessibleInterface* const list = parent())
-        state.offscreen = !list->rect().intersects(rect());
     return state;
-}
-
-void* RowAccessible::interface_cast(QAccessible::InterfaceType type) {
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : nullptr;
 }
 
 QStringList RowAccessible::actionNames() const {
