@@ -8,9 +8,10 @@
 
 namespace tessarine {
 
-void returnBigBuffersWhenFreed() {
+void limitFreeMemory() {
 #ifdef __GLIBC__
     constexpr int megabyte = 1 << 20;
+    mallopt(M_ARENA_MAX, 2);
     mallopt(M_MMAP_THRESHOLD, megabyte);
     mallopt(M_TRIM_THRESHOLD, 2 * megabyte);
 #endif

@@ -55,7 +55,7 @@ std::unique_ptr<Platform> makePlatform() {
 }
 
 void prepareProcess() {
-    returnBigBuffersWhenFreed();
+    limitFreeMemory();
 }
 
 std::unique_ptr<FileSystem> makeFileSystem() {
