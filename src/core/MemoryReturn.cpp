@@ -4,6 +4,7 @@
 #include "platform/Scheduler.h"
 #include "windows/ViewWindow.h"
 
+#include <QPixmapCache>
 #include <QQmlEngine>
 #include <QWindow>
 
@@ -30,6 +31,7 @@ void MemoryReturn::giveBack() const {
     if (!ViewWindow::allVisible().empty())
         return;
     engine_.collectGarbage();
+    QPixmapCache::clear(); // icons of Qt's own dialogs, some 40 KB of new ones for each
     application_.returnFreeMemory();
 }
 

@@ -4,6 +4,7 @@
 #include "support/WindowPicture.h"
 
 #include <QFile>
+#include <QPixmapCache>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickView>
@@ -50,6 +51,19 @@ TEST_F(AppDelegateTest, GivesMemoryBackSomeTimeAfterTheWindowWasClosed) {
     EXPECT_EQ(desktop.application.memoryReturns, 0);
     system.scheduler.advance(3);
     EXPECT_EQ(desktop.application.memoryReturns, 1);
+}
+
+TEST_F(AppDelegateTest, ForgetsPicturesOfDialogsSomeTimeAfterTheWindowWasClosed) {
+    launch();
+    delegate->showMainWindow();
+    QPixmap picture(8, 8);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(QPixmapCache::insert(u"of a dialog"_qs, picture));
+    system.scheduler.advance(10);
+    EXPECT_TRUE(QPixmapCache::find(u"of a dialog"_qs, nullptr));
+    window()->close();
+    system.scheduler.advance(3);
+    EXPECT_FALSE(QPixmapCache::find(u"of a dialog"_qs, nullptr));
 }
 
 TEST_F(AppDelegateTest, GivesNoMemoryBackWhenTheWindowWasOpenedAgain) {
