@@ -7,6 +7,8 @@
 
 #include <QBuffer>
 
+#include <future>
+
 namespace tessarine {
 
 namespace {
@@ -70,13 +72,19 @@ ExportResult ExportManager::exportPDF(const NotificationList& notifications, boo
     return ExportResult::failure(QStringLiteral("Unable to generate PDF."));
 }
 
+// Qt keeps the fonts that a thread has drawn with, some megabytes, until the thread ends, and
+// callers work on threads that go on: so a thread of its own draws.
 QByteArray ExportManager::renderPDF(const std::vector<PDFRow>& rows) const {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    writePdfReport(rows, services_.clock.now(), buffer);
-    QByteArray bytes = buffer.data();
-    nameGlyphsByTheirText(bytes);
-    return bytes;
+    return std::async(std::launch::async,
+                      [&] {
+                          QBuffer buffer;
+                          buffer.open(QIODevice::WriteOnly);
+                          writePdfReport(rows, services_.clock.now(), buffer);
+                          QByteArray bytes = buffer.data();
+                          nameGlyphsByTheirText(bytes);
+                          return bytes;
+                      })
+        .get();
 }
 
 QString ExportManager::csvField(const QString& text) const {

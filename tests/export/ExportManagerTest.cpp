@@ -4,8 +4,11 @@
 #include "support/OrdinaryUser.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QIODevice>
+
+#include <thread>
 
 #include <sys/stat.h>
 
@@ -198,6 +201,27 @@ TEST_F(AskingTest, TwoReportsOfOneListAreDrawnAlike) {
     const QByteArray other = manager.renderPDF(rows);
     EXPECT_TRUE(one.startsWith("%PDF-1."));
     EXPECT_EQ(one.size(), other.size()); // the moment of making is in them
+}
+
+// Files of fonts that this process has in memory.
+qsizetype mappedFonts() {
+    QFile maps(u"/proc/self/maps"_qs);
+    maps.open(QIODevice::ReadOnly);
+    return maps.readAll().count("/fonts/");
+}
+
+TEST_F(AskingTest, AReportLeavesNoFontsToAThreadThatGoesOn) {
+    if (!QFile::exists(u"/proc/self/maps"_qs))
+        GTEST_SKIP() << "this system tells nobody what is in memory";
+    const std::vector<PDFRow> rows(3, PDFRow{march3(9), u"Mail"_qs, u"t"_qs, u"b"_qs});
+    qsizetype before = 0;
+    qsizetype after = 0;
+    std::thread([&] {
+        before = mappedFonts();
+        manager.renderPDF(rows);
+        after = mappedFonts();
+    }).join();
+    EXPECT_EQ(after, before);
 }
 
 } // namespace
