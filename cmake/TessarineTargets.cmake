@@ -22,18 +22,20 @@ if(TESSARINE_SANITIZE MATCHES thread AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
 endif()
 
 # Of the time that a source takes to compile, more than half goes into the headers of Qt and the
-# standard library. Compiling several sources as one saves that: all tests, and the program where
-# CMAKE_UNITY_BUILD says so. A build without it sees to it that each source includes what it uses.
+# standard library. Compiling several sources as one saves most of that: all tests, and the program
+# where CMAKE_UNITY_BUILD says so. That each source includes what it uses is a check of its own.
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
 
-# Where each source of the program is compiled alone, a compiler that keeps what it made of those headers
-# saves as much. Headers of the project are not among them, so a source that lacks one of those is found.
-if(NOT CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+# A compiler that keeps what it made of those headers saves most of the rest. Each fuzz target has
+# settings of its own, for which what was kept would not serve.
+if(NOT TESSARINE_FUZZ AND CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     set(tessarinePrecompiles ON)
+    if(CMAKE_CXX_COMPILER_ID MATCHES Clang) # whose file of it would differ with the time
+        add_compile_options("SHELL:$<$<COMPILE_LANGUAGE:CXX>:-Xclang -fno-pch-timestamp>")
+    endif()
     if(CMAKE_CXX_COMPILER_LAUNCHER STREQUAL "${CCACHE}") # which wants to be told
-        set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_DEPEND=1
             CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
-        add_compile_options(-fpch-preprocess)
     endif()
 endif()
 set(tessarineCoreHeaders <QByteArray> <QCoreApplication> <QDir> <QFile> <QHash> <QList> <QObject> <QPointer>
@@ -55,8 +57,10 @@ function(tessarine_precompiled_headers name settings module)
     endif()
 endfunction()
 
+# What was compiled as C++ serves no target with sources in Objective-C.
 function(tessarine_use_precompiled name headers)
-    if(tessarinePrecompiles)
+    get_target_property(sources ${name} SOURCES)
+    if(tessarinePrecompiles AND NOT sources MATCHES "\\.mm(;|$)")
         set_target_properties(${name} PROPERTIES PRECOMPILE_HEADERS_REUSE_FROM ${headers})
     endif()
 endfunction()

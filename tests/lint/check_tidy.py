@@ -20,9 +20,6 @@ import sys
 
 import sources
 
-UNITY_INCLUDE = re.compile(r'^#include "([^"]+)"', re.MULTILINE)
-
-
 # More take no less time together, and memory.
 LARGEST_UNIT = 24
 
@@ -38,7 +35,7 @@ class Command:
         for word in words:
             if word in ("-isystem", "-include"):
                 word = (word, next(words))
-            elif word in ("-o", "-c", "-MF", "-MT"):
+            elif word in ("-o", "-c", "-MF", "-MT", "-Xclang"):
                 next(words)
                 continue
             elif word.startswith("-D"):
@@ -72,14 +69,6 @@ class Unit:
                 for half, files in (("a", self.files[:middle]), ("b", self.files[middle:]))]
 
 
-def sources_of(entry):
-    """What an entry of the build compiles, itself perhaps a list of includes."""
-    path = pathlib.Path(entry["directory"], entry["file"])
-    if path.parent.name != "Unity":
-        return [path]
-    return [pathlib.Path(name) for name in UNITY_INCLUDE.findall(path.read_text())]
-
-
 def is_program(path):
     return re.search(r"^int main\(", path.read_text(), re.MULTILINE) is not None
 
@@ -93,7 +82,7 @@ def units_of(root, build, checked):
     """The sources below the folder that the build compiles, as units."""
     groups, commands = {}, {}
     for entry in json.loads((build / "compile_commands.json").read_text()):
-        for path in sources_of(entry):
+        for path in sources.sources_of(entry):
             if root / checked not in path.parents:
                 continue
             file = path.relative_to(root)

@@ -8,6 +8,7 @@ import re
 CPP_SUFFIXES = {".cpp", ".h", ".mm"}
 # Quoted includes are written from one of these folders, or from the including file's own.
 INCLUDE_FOLDERS = ["src", ".", "tests"]
+UNITY_INCLUDE = re.compile(r'^#include "([^"]+)"', re.MULTILINE)
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s*([<"])([^>"]+)[>"]')
 
 
@@ -57,3 +58,11 @@ def with_everything_included(root, file):
             seen.add(current)
             waiting.extend(target for _, target in project_includes(root, current))
     return sorted(seen)
+
+
+def sources_of(entry):
+    """What an entry of a build's compile_commands.json compiles, itself perhaps a list of includes."""
+    path = pathlib.Path(entry["directory"], entry["file"])
+    if path.parent.name != "Unity":
+        return [path]
+    return [pathlib.Path(name) for name in UNITY_INCLUDE.findall(path.read_text())]

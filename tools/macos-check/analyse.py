@@ -21,7 +21,7 @@ def flags_of(entry):
     for word in words:
         if word in ("-isystem", "-isysroot", "-arch", "-include", "-stdlib++-isystem"):
             kept += [word, next(words)]
-        elif word in ("-o", "-MF", "-MT"):
+        elif word in ("-o", "-MF", "-MT", "-Xclang"):
             next(words)
         elif word.startswith(("--target", "-std=", "-f", "-D", "-I", "-F", "-W", "-m")):
             kept.append(word)
