@@ -37,12 +37,20 @@ function(tessarine_tests_need target)
     endforeach()
 endfunction()
 
+# The label of all tests in a folder of tests: its name.
+function(tessarine_folder_label result)
+    file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
+    string(REGEX MATCH "^[^/]+" folder "${folder}")
+    set(${result} ${folder} PARENT_SCOPE)
+endfunction()
+
 # One GoogleTest program, which is one test for CTest: a process for each case would spend far more on
 # starting under the sanitizers than on testing. Its label is "view" if it draws windows, which it
 # says, otherwise "unit"; "threads" comes on top for what threads share, which ThreadSanitizer watches
-# too. SECONDS is about how long it takes, if long: CTest starts those first.
+# too. SECONDS is about how long it takes, if long: CTest starts those first. PARTS is in how many tests
+# of about the same length a long one is split, which run beside each other.
 function(tessarine_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT;SECONDS" "SOURCES;LINKS;LABELS;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(ARG "" "TIMEOUT;SECONDS;PARTS" "SOURCES;LINKS;LABELS;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE tessarine_test_build ${ARG_LINKS} GTest::gmock)
     if(NOT tessarine_gui_test_support IN_LIST ARG_LINKS) # which has a main function of its own
@@ -55,9 +63,22 @@ function(tessarine_test name)
         list(APPEND ARG_LABELS unit)
     endif()
     tessarine_tests_need(${name} ${ARG_LABELS})
-    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
-    tessarine_test_properties(${name} "${ARG_TIMEOUT}" "${ARG_SECONDS}")
-    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}" ENVIRONMENT "${ARG_ENVIRONMENT}")
+    tessarine_folder_label(folder)
+    if(NOT ARG_PARTS)
+        set(ARG_PARTS 1)
+    endif()
+    foreach(part RANGE 1 ${ARG_PARTS})
+        set(test ${name})
+        if(ARG_PARTS GREATER 1)
+            set(test ${name}_${part})
+            math(EXPR index "${part} - 1")
+            set(shard GTEST_TOTAL_SHARDS=${ARG_PARTS} GTEST_SHARD_INDEX=${index})
+        endif()
+        add_test(NAME ${test} COMMAND ${name} --gtest_brief=1)
+        tessarine_test_properties(${test} "${ARG_TIMEOUT}" "${ARG_SECONDS}")
+        set_tests_properties(${test} PROPERTIES LABELS "${ARG_LABELS};${folder}"
+                             ENVIRONMENT "${ARG_ENVIRONMENT};${shard}")
+    endforeach()
 endfunction()
 
 # tessarine_view_again(NAME PROGRAM FILTER): some tests of a program once more, as a display of double
@@ -69,7 +90,9 @@ function(tessarine_view_again name program filter)
     cmake_parse_arguments(ARG "" "SECONDS" "" ${ARGN})
     add_test(NAME ${name} COMMAND ${program} --gtest_brief=1 --gtest_filter=${filter})
     tessarine_test_properties(${name} "" "${ARG_SECONDS}")
-    set_tests_properties(${name} PROPERTIES LABELS "view;double" ENVIRONMENT QT_SCALE_FACTOR=2)
+    tessarine_folder_label(folder)
+    set_tests_properties(${name} PROPERTIES LABELS "view;double;${folder}"
+                         ENVIRONMENT QT_SCALE_FACTOR=2)
 endfunction()
 
 # A test in Python that runs a program of ours, or none, and judges what it gave. Python takes the
@@ -82,7 +105,8 @@ function(tessarine_judge name script)
     add_test(NAME ${name}
              COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/${script} ${ARG_ARGUMENTS})
     tessarine_test_properties(${name} "" "${ARG_SECONDS}")
-    set_tests_properties(${name} PROPERTIES LABELS unit SKIP_RETURN_CODE 77)
+    tessarine_folder_label(folder)
+    set_tests_properties(${name} PROPERTIES LABELS "unit;${folder}" SKIP_RETURN_CODE 77)
 endfunction()
 
 function(tessarine_test_properties name timeout seconds)

@@ -77,6 +77,8 @@ QPoint ControlsFixture::centre(const QString& name) const {
 }
 
 void ControlsFixture::hover(const QString& name) {
+    // A move to where an earlier test has left the mouse would be none.
+    QTest::mouseMove(window.get(), QPoint());
     QTest::mouseMove(window.get(), centre(name));
     picture(); // hovering is worked out when a frame is drawn
 }
