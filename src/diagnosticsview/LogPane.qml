@@ -38,8 +38,8 @@ Item {
 
                 objectName: "pill" + index
                 content: modelData
-                chosen: index === pane.log.selectedPill
-                onClicked: pane.log.tapPill(index)
+                checked: index === pane.log.selectedPill
+                onActivated: pane.log.tapPill(index)
             }
         }
     }

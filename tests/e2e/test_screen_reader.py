@@ -33,6 +33,12 @@ class ScreenReaderWalk(DesktopTestCase):
         self.window.act("menu item", entry)
         self.window.hides("menu item", entry)
 
+    def open_diagnostics(self):
+        """Nothing but a click of the mouse opens it."""
+        panel = wait_until(self.session.visible_panel, "the panel")
+        self.session.xdotool("mousemove", "--window", panel, "20", "20", "click", "2")
+        self.window.shows("frame", "Tessarine Diagnostics")
+
     def open_hoard(self):
         self.choose_in_panel("Open Hoard")
         self.wait_for_rows(2)
@@ -194,7 +200,23 @@ class ScreenReaderWalk(DesktopTestCase):
         self.window.act("push button", "Export")
         wait_until(lambda: file.exists() and "Lunch?" in file.read_text(), "the export")
 
-    def test_preferences_help_and_diagnostics(self):
+    def test_the_diagnostics(self):
+        self.open_diagnostics()
+        self.wait_for_log("Mail")
+        self.window.act("check box", "Only DB", "Toggle")
+        self.wait_for_log("Mail", is_there=False)
+        self.window.act("check box", "Only DB", "Press")
+        self.wait_for_log("Mail")
+        self.window.act("push button", "Verify Integrity")
+        self.wait_for_log("Integrity check passed")
+        self.window.act("push button", "Clear the log")
+        self.wait_for_log("Integrity check passed", is_there=False)
+
+    def wait_for_log(self, text, *, is_there=True):
+        wait_until(lambda: is_there == any(text in name for name in self.window.rows()),
+                   f"{text} in the log: {is_there}")
+
+    def test_preferences_and_help(self):
         self.choose_in_panel("Preferences…")
         for tab, holds in (("Storage", ("push button", "Back Up…")),
                            ("Permissions", ("push button", "Re-check")),
