@@ -20,7 +20,7 @@ import threading
 import time
 
 from desktop import Application, Bus, NotificationDaemon
-from session import PATIENCE, Daemon, Display, Session, wait_until
+from session import PATIENCE, Daemon, lone_session, wait_until
 
 LONGEST_PAUSE = 0.8  # seconds
 CAPTURING = 0.8      # of the lives
@@ -177,12 +177,8 @@ def run(session, kills, seed):
 
 
 def main(kills, seed):
-    session = Session()
-    try:
+    with lone_session() as session:
         problems = run(session, kills, seed)
-    finally:
-        session.close()
-        Display.end()
     print(*problems, sep="\n")
     return 1 if problems else 0
 

@@ -17,7 +17,7 @@ from gi.repository import GLib
 
 import session as sessions
 from desktop import Bus, NotificationDaemon
-from session import Display, Session, wait_until
+from session import lone_session, wait_until
 
 WATCHER = "org.kde.StatusNotifierWatcher"
 
@@ -56,13 +56,12 @@ def turn_events(tray):
 
 
 def measure(times, programs):
-    session = Session()
-    bus = Bus(session)
-    NotificationDaemon(session, bus, "plain")
-    tray = Tray(dbus.bus.BusConnection(session.environment["DBUS_SESSION_BUS_ADDRESS"],
-                                       mainloop=DBusGMainLoop()))
     seconds = {program: [] for program in programs}
-    try:
+    with lone_session() as session:
+        bus = Bus(session)
+        NotificationDaemon(session, bus, "plain")
+        tray = Tray(dbus.bus.BusConnection(session.environment["DBUS_SESSION_BUS_ADDRESS"],
+                                           mainloop=DBusGMainLoop()))
         for _ in range(times):
             for program in programs:
                 tray.registered = None
@@ -74,9 +73,6 @@ def measure(times, programs):
                 session.wait_until_started(running)
                 running.terminate()
                 running.wait()
-    finally:
-        session.close()
-        Display.end()
     for program, measured in seconds.items():
         milliseconds = sorted(value * 1000 for value in measured)
         print(f"{program}: median {statistics.median(milliseconds):.1f} ms, "

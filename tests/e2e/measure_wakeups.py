@@ -15,7 +15,7 @@ import sys
 import time
 
 from desktop import Bus, NotificationDaemon
-from session import Daemon, Display, Session, wait_until
+from session import Daemon, lone_session, wait_until
 
 # In these a thread sleeps.
 WAITS = ["poll", "ppoll", "epoll_wait", "epoll_pwait", "select", "pselect6", "futex", "nanosleep",
@@ -98,12 +98,8 @@ def measure(session, seconds):
 
 
 def main(seconds):
-    session = Session()
-    try:
+    with lone_session() as session:
         problems = measure(session, seconds)
-    finally:
-        session.close()
-        Display.end()
     return 1 if problems else 0
 
 

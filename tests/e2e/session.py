@@ -300,6 +300,17 @@ class Session:
         return wait_until(self.visible_main_window, "the main window")
 
 
+@contextlib.contextmanager
+def lone_session():
+    """A session that is the only one of its process; its display ends with it."""
+    session = Session()
+    try:
+        yield session
+    finally:
+        session.close()
+        Display.end()
+
+
 class Daemon:
     """The system's notification daemon: a process that holds its database open and writes to it."""
 

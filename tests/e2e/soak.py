@@ -30,7 +30,7 @@ from desktop import Application, Bus, NotificationDaemon
 from growth import as_line, drawing, grown, take_sample
 from machine import Clock, Logind
 from main_window import MainWindow
-from session import PATIENCE, Daemon, Display, Session, now, wait_until
+from session import PATIENCE, Daemon, lone_session, now, wait_until
 
 ID = "com.zorvek.Tessarine"
 HOUR, DAY = 3600, 86400
@@ -208,12 +208,8 @@ def run(session, minutes, count):
 
 
 def main(minutes, count):
-    session = Session()
-    try:
+    with lone_session() as session:
         problems = run(session, minutes, count)
-    finally:
-        session.close()
-        Display.end()
     print(*problems, sep="\n")
     return 1 if problems else 0
 
