@@ -47,18 +47,23 @@ protected:
     EveryTextTest()
         : InLanguage(std::get<Language>(GetParam())) {}
 
-    // With a folder for pictures named in the environment, the window goes there, light and dark.
+    // With a folder for pictures named in the environment, the window goes there, light and dark,
+    // in normal and in high contrast.
     void savePictures(QQuickWindow& window) {
         const QString target = qEnvironmentVariable("TESSARINE_LANGUAGE_PICTURES");
         if (target.isEmpty())
             return;
         const auto [scene, language] = GetParam();
-        for (const QString& mode : {u"light"_qs, u"dark"_qs}) {
-            delegate->applyAppearance(mode);
-            EXPECT_TRUE(
-                savePicture(stillPicture(window), target,
-                            u"%1-%2-%3.png"_qs.arg(QLatin1StringView(scene.name),
-                                                   QLatin1StringView(nameOf(language)), mode)));
+        const QString name =
+            QLatin1StringView(scene.name) + u'-' + QLatin1StringView(nameOf(language));
+        for (const bool highContrast : {false, true}) {
+            desktop.appearance.setHighContrast(highContrast);
+            for (const QString& mode : {u"light"_qs, u"dark"_qs}) {
+                delegate->applyAppearance(mode);
+                const QString contrast = highContrast ? u"-contrast"_qs : QString();
+                EXPECT_TRUE(savePicture(stillPicture(window), target,
+                                        name + u'-' + mode + contrast + u".png"_qs));
+            }
         }
     }
 };
