@@ -3,7 +3,10 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
+#include <QPointer>
 #include <QTranslator>
+
+#include <utility>
 
 // Qt's macro can't name a resource from inside a namespace.
 static void initTextResources() {
@@ -20,11 +23,18 @@ QString fileOf(const QString& set, const QString& language) {
     return QStringLiteral(":/texts/%1_%2.qm").arg(set, language);
 }
 
+// What is installed, as long as the application object lives.
+QList<QPointer<QTranslator>>& installed() {
+    static QList<QPointer<QTranslator>> translators;
+    return translators;
+}
+
 void install(const QString& path) {
     auto* translator = new QTranslator(QCoreApplication::instance());
     if (!translator->load(path))
         qFatal("The program was built without its texts");
     QCoreApplication::installTranslator(translator);
+    installed().append(translator);
 }
 
 void installLanguage(const QString& language) {
@@ -46,6 +56,8 @@ QString languageOf(const QStringList& wanted) {
 
 void installTexts(const QStringList& wanted) {
     const QString language = languageOf(wanted);
+    for (const QPointer<QTranslator>& before : std::exchange(installed(), {}))
+        delete before.data();
     installLanguage(english);
     if (language != english)
         installLanguage(language);

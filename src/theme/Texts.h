@@ -10,8 +10,8 @@ namespace tessarine {
 QString languageOf(const QStringList& wanted);
 
 // Makes the texts of that language known to the application object, those that are the system's own
-// before those of all systems. What a language doesn't have is said in English. A language that is
-// installed later comes before the ones that are there. Once for a language; main thread.
+// before those of all systems, in place of any that were. What a language doesn't have is said in
+// English. Main thread.
 void installTexts(const QStringList& wanted);
 
 } // namespace tessarine

@@ -42,7 +42,7 @@ TEST(Texts, WhereTheSystemHasAWordingOfItsOwnThatIsTaken) {
     EXPECT_EQ(qtTrId("menu.openHoard"), u"Open Hoard"_qs);
 }
 
-// While it lives, the application speaks a language on top of English.
+// While it lives, the application speaks a language.
 class LanguageScope {
 public:
     explicit LanguageScope(const QString& language) { installTexts({language}); }
@@ -56,6 +56,16 @@ TEST(Texts, AreThoseOfTheLanguageAndOfTheSystemInIt) {
     EXPECT_EQ(qtTrId("menu.openHoard"), u"Hort öffnen"_qs);
     EXPECT_EQ(qtTrId("launchAtLogin.info.silentStart"),
               u"Es startet ohne Fenster. Du siehst nur seine Glocke."_qs);
+}
+
+TEST(Texts, TakeThePlaceOfThoseBefore) {
+    installTexts({u"de"_qs});
+    const qsizetype german = QCoreApplication::instance()->findChildren<QTranslator*>().size();
+    installTexts({u"fr"_qs});
+    EXPECT_EQ(QCoreApplication::instance()->findChildren<QTranslator*>().size(), german);
+    installTexts({});
+    EXPECT_EQ(qtTrId("menu.openHoard"), u"Open Hoard"_qs);
+    EXPECT_LT(QCoreApplication::instance()->findChildren<QTranslator*>().size(), german);
 }
 
 TEST(Texts, CountInTheFormsOfTheLanguage) {
