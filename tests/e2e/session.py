@@ -132,11 +132,20 @@ class Session:
     def start_program(self, wait=True, *, through=(), environment=None):
         """Through another program that starts it, and with what is changed in its environment."""
         with open(self.root / "program.log", "ab") as log:
-            program = self.spawn(*through, PROGRAM, stdout=log, stderr=log,
+            program = self.spawn(*through, self.program(), stdout=log, stderr=log,
                                  env={**self.environment, **(environment or {})})
         if wait:
             self.wait_until_started(program)
         return program
+
+    def program(self):
+        """Its path. Another user may not be let into the folder where it was built."""
+        if self.user is None:
+            return PROGRAM
+        copy = self.root / "tessarine"
+        if not copy.exists():
+            shutil.copy(PROGRAM, copy)
+        return str(copy)
 
     def wait_until_started(self, program):
         """The poll timer's arming follows the launch steps; the hoard is open by then too."""
