@@ -54,7 +54,7 @@ def changed_since(root, stamp):
     moment = stamp.stat().st_mtime_ns
     return sorted(path.relative_to(root).as_posix() for path in root.rglob("*")
                   if is_source(path.relative_to(root)) and path.is_file()
-                  and path.stat().st_mtime_ns > moment)
+                  and path.stat().st_mtime_ns >= moment)  # clocks of files tick slowly
 
 
 def main():

@@ -38,7 +38,7 @@ class LabelsTest(unittest.TestCase):
     def test_only_what_is_newer_than_the_stamp_counts_and_nothing_that_was_built(self):
         with tempfile.TemporaryDirectory() as name:
             root = pathlib.Path(name)
-            for file, moment in (("src/store/Old.cpp", 1000), ("src/apps/New.cpp", 3000),
+            for file, moment in (("src/store/Old.cpp", 1000), ("src/apps/New.cpp", 3000), ("src/shell/Then.cpp", 2000),
                                  ("build/release/passed", 2000), ("build/release/made.cpp", 3000),
                                  ("tools/__pycache__/x.pyc", 3000)):
                 (root / file).parent.mkdir(parents=True, exist_ok=True)
@@ -46,7 +46,7 @@ class LabelsTest(unittest.TestCase):
                 os.utime(root / file, (moment, moment))
             said = subprocess.run([sys.executable, "-B", TOOLS / "changed_tests.py", root,
                                    root / "build/release/passed"], capture_output=True, text=True, check=True)
-            self.assertEqual(said.stdout, "apps\nbrief\n")
+            self.assertEqual(said.stdout, "apps\nbrief\nshell\nui\n")
 
 
 class FoldersTest(unittest.TestCase):
