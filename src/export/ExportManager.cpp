@@ -73,9 +73,10 @@ ExportResult ExportManager::exportPDF(const NotificationList& notifications, boo
 }
 
 // Qt keeps the fonts that a thread has drawn with, some megabytes, until the thread ends, and
-// callers work on threads that go on: so a thread of its own draws.
+// callers work on threads that go on: so a thread of its own draws, or the caller's if the system
+// grants no other.
 QByteArray ExportManager::renderPDF(const std::vector<PDFRow>& rows) const {
-    return std::async(std::launch::async,
+    return std::async(std::launch::async | std::launch::deferred,
                       [&] {
                           QBuffer buffer;
                           buffer.open(QIODevice::WriteOnly);

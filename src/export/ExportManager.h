@@ -44,7 +44,8 @@ public:
     ExportResult exportPDF(const NotificationList& notifications, bool includePrivate,
                            const QString& path) const;
 
-    // The report's bytes. Waits for a thread that draws them. May throw ExportError.
+    // The report's bytes. Waits while a thread of its own draws them, if there can be one. May
+    // throw ExportError.
     QByteArray renderPDF(const std::vector<PDFRow>& rows) const;
 
     // A text as a field of the CSV file.

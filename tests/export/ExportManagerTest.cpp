@@ -8,8 +8,10 @@
 #include <QFileInfo>
 #include <QIODevice>
 
+#include <system_error>
 #include <thread>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace tessarine::testing {
@@ -156,6 +158,24 @@ TEST_P(WritersTest, FailWithoutARightToWriteAndGoOn) {
     EXPECT_EQ(answer, failure(u"Permission denied"_qs));
     QFile(folder.path()).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     EXPECT_TRUE(write(path(u"out"_qs)).isSuccess());
+}
+
+// As where another program of the user has started as many as the system grants.
+TEST_P(WritersTest, WriteWhereNoThreadCanBeStarted) {
+    write(u"/dev/null/none"_qs); // finds the fonts, which a child may not look for
+    QFile(folder.path()).setPermissions(QFile::Permissions::fromInt(0x7777));
+    const QString answer = asOrdinaryUser([&] {
+        rlimit before{};
+        getrlimit(RLIMIT_NPROC, &before);
+        const rlimit none{0, before.rlim_max};
+        setrlimit(RLIMIT_NPROC, &none);
+        EXPECT_THROW(std::thread([] {}), std::system_error);
+        const ExportResult result = write(path(u"out"_qs));
+        setrlimit(RLIMIT_NPROC, &before);
+        return result.isSuccess() ? QString() : result.failureText();
+    });
+    EXPECT_EQ(answer, QString());
+    EXPECT_GT(QFileInfo(path(u"out"_qs)).size(), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, WritersTest, ::testing::ValuesIn(writers),
