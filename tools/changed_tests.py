@@ -4,7 +4,7 @@
 usage: changed_tests.py ROOT STAMP
 
 STAMP is a file that was last written at that moment. Prints one label a line: of the folders in which a
-file has changed since, "brief" among them if any file has, "all" alone if a change concerns everything;
+file has changed or gone since, "brief" among them if any file has, "all" alone if a change concerns everything;
 nothing if nothing has changed. What builds leave behind doesn't count.
 """
 
@@ -52,9 +52,10 @@ def is_source(path):
 
 def changed_since(root, stamp):
     moment = stamp.stat().st_mtime_ns
-    return sorted(path.relative_to(root).as_posix() for path in root.rglob("*")
-                  if is_source(path.relative_to(root)) and path.is_file()
-                  and path.stat().st_mtime_ns >= moment)  # clocks of files tick slowly
+    # The time of a folder is that at which a file in it came or went.
+    return sorted(path.relative_to(root).as_posix() + "/" * path.is_dir() for path in root.rglob("*")
+                  if is_source(path.relative_to(root))
+                  and path.lstat().st_mtime_ns >= moment)  # clocks of files tick slowly
 
 
 def main():

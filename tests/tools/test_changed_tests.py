@@ -39,14 +39,18 @@ class LabelsTest(unittest.TestCase):
         with tempfile.TemporaryDirectory() as name:
             root = pathlib.Path(name)
             for file, moment in (("src/store/Old.cpp", 1000), ("src/apps/New.cpp", 3000), ("src/shell/Then.cpp", 2000),
+                                 ("tests/help/Old.cpp", 1000),
                                  ("build/release/passed", 2000), ("build/release/made.cpp", 3000),
                                  ("tools/__pycache__/x.pyc", 3000)):
                 (root / file).parent.mkdir(parents=True, exist_ok=True)
                 (root / file).write_text("")
                 os.utime(root / file, (moment, moment))
+            for folder in [path for path in root.rglob("*") if path.is_dir()]:
+                os.utime(folder, (1000, 1000))
+            os.utime(root / "tests/help", (3000, 3000))  # a file has gone
             said = subprocess.run([sys.executable, "-B", TOOLS / "changed_tests.py", root,
                                    root / "build/release/passed"], capture_output=True, text=True, check=True)
-            self.assertEqual(said.stdout, "apps\nbrief\nshell\nui\n")
+            self.assertEqual(said.stdout, "apps\nbrief\nhelp\nshell\nui\n")
 
 
 class FoldersTest(unittest.TestCase):
